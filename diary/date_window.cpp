@@ -1,0 +1,45 @@
+#include "diary/date_window.h"
+
+#include "diary/day_table.h"
+#include "diary/window1.h"
+
+namespace tallyvane {
+
+DateWindow::DateWindow(Window1& diary) : diary_(diary) {
+    shape(Kind::dialog, 289, 186);
+    belongTo(&diary);
+    Title("Change Date");
+    place({
+        {&Canvas1, {14, 14, 64, 64}},
+        {&CalendarControl1, {92, 8, 189, 138}},
+        {&PushButton2, {108, 152, 80, 26}},
+        {&PushButton1, {200, 152, 80, 26}},
+    });
+    Canvas1.Backdrop(Picture("7VXiconMed3.png"));
+    CalendarControl1.AccessibleName("New date");
+    PushButton1.Caption("OK");
+    PushButton1.Default(true);
+    PushButton2.Caption("Cancel");
+    PushButton2.Cancel(true);
+
+    CalendarControl1.Open = [this] { CalendarControl1_Open(); };
+    PushButton1.Action = [this] { PushButton1_Action(); };
+    PushButton2.Action = [this] { PushButton2_Action(); };
+}
+
+void DateWindow::CalendarControl1_Open() {
+    const Listbox& table = diary_.ListBox1;
+    if (const std::optional<Date> date = ParseDate(table.Cell(table.ListIndex(), DayTable::dateColumn)))
+        CalendarControl1.SelectedDate(*date);
+}
+
+void DateWindow::PushButton1_Action() {
+    Listbox& table = diary_.ListBox1;
+    table.Cell(table.ListIndex(), DayTable::dateColumn, CalendarControl1.SelectedDate().ShortDate());
+    diary_.doSortColumns();
+    Close();
+}
+
+void DateWindow::PushButton2_Action() { Close(); }
+
+} // namespace tallyvane

@@ -1,0 +1,71 @@
+#include "diary/day_table.h"
+
+#include "platform/text.h"
+#include "settings/data_files.h"
+#include "settings/globals.h"
+
+namespace tallyvane::DayTable {
+
+namespace {
+
+/// Nil when there is no data folder, or none any more.
+std::optional<FolderItem> file() {
+    const std::optional<FolderItem>& folder = StartupGlobals::gDataFolder;
+    return folder ? folder->Child(DataFiles::dayTable) : std::nullopt;
+}
+
+} // namespace
+
+void setUp(Listbox& table) {
+    table.ColumnAlignment(dateColumn, Listbox::AlignCenter);
+    for (int column = firstReading; column <= weightColumn; ++column)
+        table.ColumnAlignment(column, Listbox::AlignRight);
+    for (int column = firstReading; column <= lastReading; ++column)
+        table.ColumnType(column, Listbox::TypeEditable);
+    table.ColumnType(weightColumn, Listbox::TypeEditable);
+}
+
+std::string columnWidths(int rows, int listHeight) {
+    constexpr int rowHeight = 15;
+    const bool overflow = (rows + 1) * rowHeight > listHeight; // the headings take the place of a row
+    return overflow ? "82,72,72,72,72,72,72,72,72,72" : "82,72,72,72,72,72,72,72,72,87";
+}
+
+void addDay(Listbox& table, const Date& day) {
+    table.AddRow(day.ShortDate());
+    table.ListIndex(table.LastIndex());
+    table.EditCell(table.LastIndex(), firstReading);
+}
+
+void save(const Listbox& table) {
+    std::optional<TextOutputStream> stream = DataFiles::createText(file());
+    if (!stream)
+        return;
+    for (int row = 0; row < table.ListCount(); ++row) {
+        for (int column = 0; column < savedColumns; ++column) {
+            if (column > 0)
+                stream->Write(DataFiles::fieldSeparator);
+            stream->Write(table.Cell(row, column));
+        }
+        stream->WriteLine("");
+    }
+    stream->Close();
+}
+
+bool load(Listbox& table) {
+    std::optional<TextInputStream> stream = DataFiles::openText(file());
+    if (!stream)
+        return false;
+    while (!stream->EndOfFile()) {
+        const std::string_view line = stream->ReadLine();
+        if (line.empty())
+            continue;
+        FieldWalk fields(line, DataFiles::fieldSeparator);
+        table.AddRow(fields.next());
+        for (int column = 1; column < savedColumns; ++column)
+            table.Cell(table.LastIndex(), column, fields.next());
+    }
+    return true;
+}
+
+} // namespace tallyvane::DayTable

@@ -1,0 +1,39 @@
+/// The day table: what its columns mean, how days come and go, and its file "7VXData".
+///
+/// The cells of one Listbox are the diary itself; there is no model behind them. A row is a day, a cell is the text
+/// as typed, and a number is always Val of that text. A row has no identity but its place: two rows may bear one date.
+#pragma once
+
+#include "platform/listbox.h"
+
+namespace tallyvane::DayTable {
+
+inline constexpr int dateColumn = 0;
+inline constexpr int firstReading = 1; // before breakfast ...
+inline constexpr int lastReading = 7;  // ... to before bed
+inline constexpr int averageColumn = 8;
+inline constexpr int weightColumn = 9;
+inline constexpr int visibleColumns = 10;
+/// Visible column c sorts by the hidden text in column c + firstKey.
+inline constexpr int firstKey = 10;
+/// The columns that the file keeps: all visible ones and the date's key.
+inline constexpr int savedColumns = 11;
+inline constexpr int columnCount = 20;
+
+/// Column types and alignments.
+void setUp(Listbox& table);
+
+/// Widths of the visible columns: the last one is wider while the rows need no scroll bar in a list of that height.
+std::string columnWidths(int rows, int listHeight);
+
+/// Appends a day, selects it alone and opens its first reading.
+void addDay(Listbox& table, const Date& day);
+
+/// Replaces "7VXData" in the data folder by the table's rows in their present order. Nothing without that folder, or
+/// when the file can't be opened. Throws IOException when the disk fails; the old file is whole then.
+void save(const Listbox& table);
+
+/// Appends the days of "7VXData" to the table. False when there is no such file or it can't be opened.
+[[nodiscard]] bool load(Listbox& table);
+
+} // namespace tallyvane::DayTable

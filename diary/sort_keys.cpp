@@ -1,0 +1,56 @@
+#include "diary/sort_keys.h"
+
+#include <algorithm>
+
+#include "diary/day_table.h"
+#include "platform/number.h"
+#include "platform/text.h"
+
+namespace tallyvane::SortKeys {
+
+namespace {
+
+constexpr int dateKeyDigits = 12;
+constexpr int valueKeyLength = 4;
+
+std::string paddedTo(int length, std::string text) {
+    const int missing = std::max(0, length - Len(text));
+    return text.insert(0, static_cast<std::size_t>(missing), '0');
+}
+
+} // namespace
+
+std::string dateKey(const Date& date) { return paddedTo(dateKeyDigits, Str(date.TotalSeconds())); }
+
+std::string valueKey(std::string_view text) {
+    std::string digits(text);
+    if (text.find('.') == std::string_view::npos)
+        digits += '0'; // the first decimal of a whole number
+    std::erase(digits, '.');
+    return paddedTo(valueKeyLength, std::move(digits));
+}
+
+void rebuild(Listbox& table) {
+    using namespace DayTable;
+    for (int row = 0; row < table.ListCount(); ++row) {
+        if (const std::optional<Date> date = ParseDate(table.Cell(row, dateColumn)))
+            table.Cell(row, firstKey, dateKey(*date));
+        for (int column = firstReading; column <= weightColumn; ++column)
+            table.Cell(row, column + firstKey, valueKey(table.Cell(row, column)));
+    }
+}
+
+bool sortBy(Listbox& table, int column) {
+    using namespace DayTable;
+    if (column < dateColumn || column > weightColumn)
+        return false;
+    if (column == dateColumn)
+        rebuild(table);
+    const int key = column + firstKey;
+    table.ColumnSortDirection(key, table.ColumnSortDirection(key) == 1 ? -1 : 1);
+    table.SortedColumn(key);
+    table.Sort();
+    return true;
+}
+
+} // namespace tallyvane::SortKeys

@@ -1,0 +1,218 @@
+#include "diary/window1.h"
+
+#include "diary/cell_navigation.h"
+#include "diary/date_window.h"
+#include "diary/day_table.h"
+#include "diary/indicators.h"
+#include "diary/running_logs.h"
+#include "diary/sort_keys.h"
+#include "diary/window_data.h"
+#include "platform/number.h"
+#include "platform/toolkit.h"
+#include "settings/globals.h"
+
+namespace tallyvane {
+
+Window1::~Window1() = default;
+
+// Opening and closing
+
+void Window1::Event_Open() {
+    getWindowData();
+    getHeadings();
+    getData();
+    getLogs();
+    doSortColumns();
+    doColWidth();
+    if (Top() < 50)
+        Top(50);
+    if (Left() < 0)
+        Left(0);
+}
+
+void Window1::Event_Close() {
+    saveData();
+    saveLogs();
+    saveWindowData();
+    Quit(0);
+}
+
+void Window1::saveData() { DayTable::save(ListBox1); }
+
+void Window1::getData() {
+    if (!DayTable::load(ListBox1))
+        return;
+    doAverages();
+    doSortColumns();
+}
+
+void Window1::saveLogs() { RunningLogs::save(); }
+
+void Window1::getLogs() {
+    RunningLogs::load([this](const std::string& journal) { JournalFld.Text(journal); });
+}
+
+void Window1::saveWindowData() { WindowData::save({Left(), Top(), Width(), Height()}); }
+
+void Window1::getWindowData() {
+    const std::optional<Rect> saved = WindowData::load();
+    if (!saved)
+        return;
+    Left(saved->left);
+    Top(saved->top);
+    Width(saved->width);
+    Height(saved->height);
+}
+
+void Window1::getHeadings() {
+    if (const std::optional<Headings> headings = readHeadings())
+        showHeadings(*headings);
+}
+
+void Window1::showHeadings(const Headings& headings) {
+    const auto labels = groupLabels();
+    for (std::size_t i = 0; i < headingGroups; ++i)
+        labels[i]->Text(headings[i]);
+    for (std::size_t i = headingGroups; i < headings.size(); ++i)
+        ListBox1.Heading(static_cast<int>(i - headingGroups) + 1, headings[i]);
+}
+
+// Averages, keys, widths
+
+void Window1::doAverages() {
+    doRowAverages();
+    if (checkForSelection())
+        doSelectedAverages();
+    else
+        fillStrip(averages_.sumsOfAll());
+}
+
+void Window1::doRowAverages() { averages_.updateRows(); }
+
+void Window1::doSelectedAverages() { fillStrip(averages_.sumsOfSelected()); }
+
+bool Window1::checkForSelection() const { return ListBox1.SelectedCount() > 0; }
+
+void Window1::fillStrip(const Averages::Sums& sums) {
+    const auto labels = stripLabels();
+    const auto lights = stripLights();
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+        const std::string text = Averages::stripText(static_cast<int>(i) + 1, sums[i]);
+        labels[i]->Text(text);
+        if (i < lights.size())
+            lights[i]->Backdrop(sums[i].count > 0 ? getLight(Val(text)) : std::nullopt);
+    }
+}
+
+std::optional<Picture> Window1::getLight(double value) const { return Indicators::getLight(value); }
+
+void Window1::doSortColumns() { SortKeys::rebuild(ListBox1); }
+
+void Window1::doColWidth() { ListBox1.ColumnWidths(DayTable::columnWidths(ListBox1.ListCount(), listHeight)); }
+
+// The table
+
+void Window1::ListBox1_Open() { DayTable::setUp(ListBox1); }
+
+void Window1::ListBox1_Change() { doAverages(); }
+
+bool Window1::ListBox1_CellClick(int row, int column, int /*x*/, int /*y*/) {
+    if (column != DayTable::dateColumn)
+        return false;
+    dateWindow_ = std::make_unique<DateWindow>(*this);
+    dateWindow_->Open();
+    if (const std::optional<Date> date = ParseDate(ListBox1.Cell(row, column)))
+        dateWindow_->CalendarControl1.SelectedDate(*date);
+    dateWindow_->Show();
+    return false;
+}
+
+bool Window1::ListBox1_CellKeyDown(int row, int column, const std::string& key) {
+    return moveByKey(ListBox1, row, column, key);
+}
+
+void Window1::ListBox1_CellTextChange(int /*row*/, int column) {
+    if (column == DayTable::dateColumn)
+        doSortColumns();
+    else
+        doAverages();
+}
+
+bool Window1::ListBox1_HeaderPressed(int column) { return SortKeys::sortBy(ListBox1, column); }
+
+bool Window1::ListBox1_CellBackgroundPaint(Graphics& g, int row, int column) {
+    Indicators::paintCell(g, ListBox1, row, column);
+    return false;
+}
+
+bool Window1::ListBox1_CellTextPaint(Graphics& g, int /*row*/, int column, int /*x*/, int /*y*/) {
+    Indicators::colorText(g, column);
+    return false;
+}
+
+// Days
+
+void Window1::addDay() {
+    DayTable::addDay(ListBox1, CalendarControl1.SelectedDate());
+    doSortColumns();
+}
+
+void Window1::BevelButton1_Action() {
+    addDay();
+    doColWidth();
+}
+
+void Window1::BevelButton2_Action() {
+    ListBox1.RemoveSelectedRows();
+    doColWidth();
+}
+
+void Window1::CalendarControl1_DayDoubleClicked() { addDay(); }
+
+void Window1::JournalFld_TextChange() { Globals::gJournal = JournalFld.Text(); }
+
+void Window1::Timer1_Action() {
+    for (Canvas* light : stripLights())
+        light->Visible(Globals::gShowIndicators);
+    Refresh();
+}
+
+// Menus and toolbar
+
+void Window1::Event_EnableMenuItems(MenuBar& menuBar) {
+    if (checkForSelection()) {
+        menuBar.enable("FilePrintSelected");
+        menuBar.enable("FileArchiveSelectedDays");
+    }
+    for (const char* item : {"FileSaveAsPDF", "FileOpenArchivedDays", "FileImportData"})
+        menuBar.enable(item);
+}
+
+void Window1::Toolbar11_Action(const ToolItem& item) {
+    const std::array<std::pair<std::string_view, std::function<void()>>, 5> actions{{
+        {"ResourcesBtn", [this] { toggleResources(); }},
+        {"LogsBtn", showLogs},
+        {"TeamMedBtn", showTeamAndMedications},
+        {"GraphBtn", [this] { graphSelectedDays(); }},
+        {"HeadingsBtn", showHeadingsEditor},
+    }};
+    for (const auto& [name, action] : actions)
+        if (item.Name == name && action)
+            action();
+}
+
+void Window1::toggleResources() {
+    const bool show = !Globals::gFileWindowOpen;
+    if (const std::function<void()>& change = show ? showResources : closeResources)
+        change();
+    Globals::gFilesOpen = show;
+}
+
+void Window1::graphSelectedDays() {
+    if (ListBox1.SelectedCount() < 2)
+        MsgBox("Please select 2 or more days to graph.");
+    else if (showGraph)
+        showGraph();
+}
+
+} // namespace tallyvane

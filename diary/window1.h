@@ -1,0 +1,106 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <memory>
+
+#include "diary/averages.h"
+#include "platform/window.h"
+#include "settings/headings.h"
+
+namespace tallyvane {
+
+class DateWindow;
+
+/// The main window: the day table with its headings, the summary strip, a calendar, the journal and the toolbar.
+/// It passes what happens in its controls on to the functions of the diary, and their results back.
+class Window1 : public Window {
+public:
+    static constexpr int listHeight = 259;
+
+    /// The toolbar and the menu bar are the shell's; the window carries them.
+    Window1(Toolbar& toolbar, MenuBar& menuBar);
+    ~Window1() override;
+
+    Canvas Canvas2; // the band over the table
+    StaticText StaticText13, StaticText14, StaticText15, StaticText20; // breakfast, lunch, supper, weight
+    Listbox ListBox1;
+
+    Canvas SummaryBand; // the ground of the strip
+    StaticText StaticText1, StaticText2, StaticText3, StaticText4, StaticText5, StaticText6; // readings 1 to 6
+    StaticText StaticText23, StaticText22, StaticText16; // before bed, average, weight
+    Canvas Canvas4, Canvas5, Canvas6, Canvas7, Canvas8, Canvas9, Canvas10, Canvas11; // lights of columns 1 to 8
+    BevelButton BevelButton1, BevelButton2; // "+", "-"
+
+    CalendarControl CalendarControl1;
+    TabPanel TabPanel1;
+    TextArea JournalFld;
+    Canvas AutoButton13, AutoButton14, AutoButton15; // date, print, save
+    Toolbar& Toolbar11;
+    Timer Timer1; // applies the indicator switch
+
+    /// Calls upward, to windows of other rooms. The shell sets those that there are.
+    std::function<void()> showResources;
+    std::function<void()> closeResources;
+    std::function<void()> showLogs;
+    std::function<void()> showTeamAndMedications;
+    std::function<void()> showGraph;
+    std::function<void()> showHeadingsEditor;
+
+    void Event_Open() override;
+    void Event_Close() override;
+    void Event_EnableMenuItems(MenuBar& menuBar) override;
+    /// Nothing: the geometry is read only at close.
+    void Event_Resized() override {}
+    void Event_Moved() override {}
+
+    void saveData();
+    void getData();
+    void saveLogs();
+    void getLogs();
+    void saveWindowData();
+    void getWindowData();
+    void getHeadings();
+    void showHeadings(const Headings& headings);
+
+    void doAverages();
+    void doRowAverages();
+    void doSelectedAverages();
+    bool checkForSelection() const;
+    std::optional<Picture> getLight(double value) const;
+    void doSortColumns();
+    void doColWidth();
+
+    void ListBox1_Open();
+    void ListBox1_Change();
+    bool ListBox1_CellClick(int row, int column, int x, int y);
+    bool ListBox1_CellKeyDown(int row, int column, const std::string& key);
+    void ListBox1_CellTextChange(int row, int column);
+    bool ListBox1_HeaderPressed(int column);
+    bool ListBox1_CellBackgroundPaint(Graphics& g, int row, int column);
+    bool ListBox1_CellTextPaint(Graphics& g, int row, int column, int x, int y);
+    void BevelButton1_Action();
+    void BevelButton2_Action();
+    void CalendarControl1_DayDoubleClicked();
+    void JournalFld_TextChange();
+    void Toolbar11_Action(const ToolItem& item);
+    void Timer1_Action();
+
+private:
+    void build();
+    void layOut();
+    void wire();
+    void addDay();
+    void toggleResources();
+    void graphSelectedDays();
+    void fillStrip(const Averages::Sums& sums);
+
+    std::array<StaticText*, 4> groupLabels();
+    std::array<StaticText*, Averages::columns> stripLabels();
+    std::array<Canvas*, 8> stripLights();
+
+    Averages averages_{ListBox1};
+    std::unique_ptr<DateWindow> dateWindow_;
+};
+
+} // namespace tallyvane

@@ -1,0 +1,168 @@
+#include "diary/date_window.h"
+#include "diary/day_table.h"
+#include "diary/indicators.h"
+#include "diary/window1.h"
+
+namespace tallyvane {
+
+namespace {
+
+constexpr int windowWidth = 746;
+constexpr int bandHeight = 26;
+constexpr int stripTop = bandHeight + Window1::listHeight;
+
+constexpr Color white = RGB(255, 255, 255);
+constexpr Color stripGround = RGB(242, 245, 250);
+constexpr Color stripLine = RGB(128, 140, 156);
+constexpr Color stripText = RGB(20, 24, 30);
+
+constexpr unsigned lockAll = lockLeft | lockTop | lockRight | lockBottom;
+
+/// Left edge of a visible column.
+constexpr int columnLeft(int column) { return column == 0 ? 0 : 82 + 72 * (column - 1); }
+
+/// A label and a light of the strip stand under their column.
+constexpr Rect labelUnder(int column, int width = 72) { return {columnLeft(column) + 16, stripTop + 4, width - 20, 18}; }
+constexpr Rect lightUnder(int column) { return {columnLeft(column) + 3, stripTop + 6, 15, 15}; }
+
+/// A heading over the columns from `first`.
+constexpr Rect labelOver(int first, int width) { return {columnLeft(first), 4, width, 18}; }
+
+} // namespace
+
+Window1::Window1(Toolbar& toolbar, MenuBar& menuBar) : ListBox1(DayTable::columnCount), Toolbar11(toolbar) {
+    shape(Kind::document, windowWidth, 518, 490, 32000);
+    Title("Tallyvane");
+    carry(&menuBar, &toolbar);
+    layOut();
+    build();
+    wire();
+}
+
+std::array<StaticText*, 4> Window1::groupLabels() {
+    return {&StaticText13, &StaticText14, &StaticText15, &StaticText20};
+}
+
+std::array<StaticText*, Averages::columns> Window1::stripLabels() {
+    return {&StaticText1, &StaticText2,  &StaticText3,  &StaticText4, &StaticText5,
+            &StaticText6, &StaticText23, &StaticText22, &StaticText16};
+}
+
+std::array<Canvas*, 8> Window1::stripLights() {
+    return {&Canvas4, &Canvas5, &Canvas6, &Canvas7, &Canvas8, &Canvas9, &Canvas10, &Canvas11};
+}
+
+void Window1::layOut() {
+    place({
+        {&Canvas2, {0, 0, windowWidth, bandHeight}},
+        {&StaticText13, labelOver(1, 144)},
+        {&StaticText14, labelOver(3, 144)},
+        {&StaticText15, labelOver(5, 144)},
+        {&StaticText20, labelOver(9, 87)},
+        {&ListBox1, {0, bandHeight, windowWidth, listHeight}},
+
+        {&SummaryBand, {0, stripTop, windowWidth, 27}},
+        {&BevelButton1, {8, stripTop + 3, 22, 22}},
+        {&BevelButton2, {34, stripTop + 3, 22, 22}},
+        {&StaticText1, labelUnder(1)},
+        {&StaticText2, labelUnder(2)},
+        {&StaticText3, labelUnder(3)},
+        {&StaticText4, labelUnder(4)},
+        {&StaticText5, labelUnder(5)},
+        {&StaticText6, labelUnder(6)},
+        {&StaticText23, labelUnder(7)},
+        {&StaticText22, labelUnder(8)},
+        {&StaticText16, labelUnder(9, 87)},
+        {&Canvas4, lightUnder(1)},
+        {&Canvas5, lightUnder(2)},
+        {&Canvas6, lightUnder(3)},
+        {&Canvas7, lightUnder(4)},
+        {&Canvas8, lightUnder(5)},
+        {&Canvas9, lightUnder(6)},
+        {&Canvas10, lightUnder(7)},
+        {&Canvas11, lightUnder(8)},
+
+        {&CalendarControl1, {10, 346, 135, 143}},
+        {&TabPanel1, {155, 318, 581, 190}, lockAll},
+        {&JournalFld, {167, 352, 515, 144}, lockAll, &TabPanel1, 0},
+        {&AutoButton13, {692, 352, 32, 32}, lockLeft | lockTop, &TabPanel1, 0},
+        {&AutoButton14, {692, 392, 32, 32}, lockLeft | lockTop, &TabPanel1, 0},
+        {&AutoButton15, {692, 432, 32, 32}, lockLeft | lockTop, &TabPanel1, 0},
+        {&Timer1},
+    });
+}
+
+void Window1::build() {
+    Canvas2.Backdrop(Picture("blackBar.png"));
+    for (StaticText* label : groupLabels()) {
+        label->Align(TextAlign::center);
+        label->TextColor(white);
+        label->Bold(true);
+    }
+    ListBox1.DefaultRowHeight(15);
+    ListBox1.SelectionType(Listbox::SelectionTypes::multiple);
+    ListBox1.AccessibleName("Days");
+    ListBox1.Heading(DayTable::dateColumn, "Date");
+    showHeadings(defaultHeadings());
+    doColWidth();
+
+    for (StaticText* label : stripLabels()) {
+        label->Align(TextAlign::center);
+        label->TextColor(stripText);
+        label->Text("00.0");
+    }
+    StaticText16.Text("000");
+    StaticText22.TextColor(Indicators::averageColor);
+    StaticText16.TextColor(Indicators::weightColor);
+    BevelButton1.Caption("+");
+    BevelButton1.HelpTag("Add a day");
+    BevelButton1.AccessibleName("Add a day");
+    BevelButton2.Caption("\u2212");
+    BevelButton2.HelpTag("Remove the selected days");
+    BevelButton2.AccessibleName("Remove the selected days");
+
+    CalendarControl1.AccessibleName("Calendar");
+    TabPanel1.Captions({"Journal"});
+    JournalFld.AccessibleName("Journal");
+    AutoButton13.Backdrop(Picture("calendarpng_32x32.png"));
+    AutoButton13.HelpTag("Add date to journal");
+    AutoButton14.Backdrop(Picture("printItem3.png"));
+    AutoButton14.HelpTag("Print journal");
+    AutoButton15.Backdrop(Picture("download_pagepng_32x32.png"));
+    AutoButton15.HelpTag("Save journal");
+    for (Canvas* button : {&AutoButton13, &AutoButton14, &AutoButton15})
+        button->Enabled(false);
+    Timer1.Period(50);
+}
+
+void Window1::wire() {
+    ListBox1.Open = [this] { ListBox1_Open(); };
+    ListBox1.Change = [this] { ListBox1_Change(); };
+    ListBox1.CellClick = [this](int row, int column, int x, int y) { return ListBox1_CellClick(row, column, x, y); };
+    ListBox1.CellKeyDown = [this](int row, int column, const std::string& key) {
+        return ListBox1_CellKeyDown(row, column, key);
+    };
+    ListBox1.CellTextChange = [this](int row, int column) { ListBox1_CellTextChange(row, column); };
+    ListBox1.HeaderPressed = [this](int column) { return ListBox1_HeaderPressed(column); };
+    ListBox1.CellBackgroundPaint = [this](Graphics& g, int row, int column) {
+        return ListBox1_CellBackgroundPaint(g, row, column);
+    };
+    ListBox1.CellTextPaint = [this](Graphics& g, int row, int column, int x, int y) {
+        return ListBox1_CellTextPaint(g, row, column, x, y);
+    };
+    SummaryBand.Paint = [](Graphics& g) {
+        g.ForeColor(stripGround);
+        g.FillRect(0, 0, g.Width(), g.Height());
+        g.ForeColor(stripLine);
+        g.FillRect(0, 0, g.Width(), 1);
+        g.FillRect(0, g.Height() - 1, g.Width(), 1);
+    };
+    BevelButton1.Action = [this] { BevelButton1_Action(); };
+    BevelButton2.Action = [this] { BevelButton2_Action(); };
+    CalendarControl1.DayDoubleClicked = [this] { CalendarControl1_DayDoubleClicked(); };
+    JournalFld.TextChange = [this] { JournalFld_TextChange(); };
+    Toolbar11.Action = [this](const ToolItem& item) { Toolbar11_Action(item); };
+    Timer1.Action = [this] { Timer1_Action(); };
+}
+
+} // namespace tallyvane

@@ -1,0 +1,15 @@
+/// The main window's place and size in the file "QVXWindowData", which stays on this computer.
+#pragma once
+
+#include <optional>
+
+#include "platform/geometry.h"
+
+namespace tallyvane::WindowData {
+
+/// Nothing without the file. A line that is missing or no number gives 0.
+[[nodiscard]] std::optional<Rect> load();
+/// Nothing when the file can't be had; throws IOException when the disk fails.
+void save(const Rect& bounds);
+
+} // namespace tallyvane::WindowData

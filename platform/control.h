@@ -1,0 +1,72 @@
+#pragma once
+
+#include <string>
+#include <type_traits>
+#include <utility>
+
+namespace tallyvane {
+
+/// Hears that a control has changed. The peer that shows it on a screen is one.
+class ControlObserver {
+public:
+    virtual ~ControlObserver() = default;
+    /// A property has a new value, or Refresh was called.
+    virtual void controlChanged() = 0;
+    /// The control goes out of being and must not be touched again.
+    virtual void controlGone() = 0;
+};
+
+/// What all controls have in common. A control is a plain object: properties, events that its window sets, and one
+/// place for an observer. Without an observer everything works but the showing.
+class Control {
+public:
+    Control() = default;
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+    virtual ~Control() {
+        if (observer_ != nullptr)
+            observer_->controlGone();
+    }
+
+    bool Visible() const { return visible_; }
+    void Visible(bool value) { set(visible_, value); }
+    bool Enabled() const { return enabled_; }
+    void Enabled(bool value) { set(enabled_, value); }
+    /// The line that shows while the pointer rests on the control.
+    const std::string& HelpTag() const { return helpTag_; }
+    void HelpTag(std::string value) { set(helpTag_, std::move(value)); }
+    /// What a screen reader calls the control; "" leaves it to its text.
+    const std::string& AccessibleName() const { return accessibleName_; }
+    void AccessibleName(std::string value) { set(accessibleName_, std::move(value)); }
+
+    /// Has the control painted anew.
+    void Refresh() { changed(); }
+
+    /// The one observer; nil for none. The control does not own it.
+    void observe(ControlObserver* observer) { observer_ = observer; }
+
+protected:
+    ControlObserver* observer() const { return observer_; }
+
+    void changed() {
+        if (observer_ != nullptr)
+            observer_->controlChanged();
+    }
+
+    template <class T>
+    void set(T& property, std::type_identity_t<T> value) {
+        if (property == value)
+            return;
+        property = std::move(value);
+        changed();
+    }
+
+private:
+    ControlObserver* observer_ = nullptr;
+    bool visible_ = true;
+    bool enabled_ = true;
+    std::string helpTag_;
+    std::string accessibleName_;
+};
+
+} // namespace tallyvane

@@ -1,0 +1,51 @@
+/// Days and moments by the calendar on the user's wall, without time zones.
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tallyvane {
+
+class Date {
+public:
+    /// The present moment, by DateSource::now.
+    Date();
+    /// Midnight of a day. The day must exist; ParseDate and isDay tell.
+    Date(int year, int month, int day, int secondsOfDay = 0);
+
+    /// Whether the calendar has that day, in the years 1 to 9999.
+    static bool isDay(int year, int month, int day);
+
+    int Year() const { return static_cast<int>(day_.year()); }
+    int Month() const { return static_cast<int>(static_cast<unsigned>(day_.month())); }
+    int Day() const { return static_cast<int>(static_cast<unsigned>(day_.day())); }
+
+    /// The date in the locale's short form, the year in four digits: "11/22/2026".
+    std::string ShortDate() const;
+    /// Seconds since the first midnight of the year 1; never negative, and below 10^12.
+    double TotalSeconds() const;
+
+    bool operator==(const Date&) const = default;
+
+private:
+    std::chrono::year_month_day day_;
+    int secondsOfDay_ = 0;
+};
+
+/// Reads a date in the locale's short form, the same with a two-digit year (the nearest to today), or ISO
+/// ("2026-11-22"). Nothing for a text that is none of these, or a day that does not exist.
+[[nodiscard]] std::optional<Date> ParseDate(std::string_view text);
+
+/// What dates take from outside. Set once at start; tests set fixed values.
+namespace DateSource {
+/// The clock.
+extern std::function<Date()> now;
+/// Sets the locale's short form, such as "M/d/yyyy": runs of d, M and y, all else as it stands, text between
+/// apostrophes too. A pattern that is not one day, one month and one year in figures gives "yyyy-MM-dd".
+void setShortPattern(std::string_view pattern);
+} // namespace DateSource
+
+} // namespace tallyvane

@@ -1,0 +1,46 @@
+/// Files and folders by their place on disk, and the folders that the desktop gives to a program.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/text_streams.h"
+
+namespace tallyvane {
+
+/// A place on disk, whether something stands there or not. "Nil" is an empty optional.
+class FolderItem {
+public:
+    /// A "/" in the name of a child is kept on disk as ":". Nil when this folder does not exist, or the name is
+    /// empty, "." or "..".
+    [[nodiscard]] std::optional<FolderItem> Child(std::string_view name) const;
+
+    bool Exists() const;
+    bool Directory() const;
+    const std::string& AbsolutePath() const { return path_; }
+
+    /// Makes the folder, for its owner alone. False when it could not be made.
+    [[nodiscard]] bool CreateAsFolder() const;
+    /// Nil for what is no plain file or can't be read.
+    [[nodiscard]] std::optional<TextInputStream> OpenAsTextFile() const;
+
+    bool operator==(const FolderItem&) const = default;
+
+private:
+    friend std::optional<FolderItem> GetFolderItem(std::string_view path, int pathType);
+    explicit FolderItem(std::string path) : path_(std::move(path)) {}
+
+    std::string path_;
+};
+
+/// The place of an absolute path. Nil for any other text. `pathType` 0 is the only kind of path there is.
+[[nodiscard]] std::optional<FolderItem> GetFolderItem(std::string_view path, int pathType = 0);
+
+/// Folders of the desktop. Set once at start; nil where the desktop has none.
+namespace SpecialFolder {
+inline std::optional<FolderItem> ApplicationData;
+inline std::optional<FolderItem> UserHome;
+} // namespace SpecialFolder
+
+} // namespace tallyvane

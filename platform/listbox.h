@@ -1,0 +1,170 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/controls.h"
+#include "platform/graphics.h"
+
+namespace tallyvane {
+
+/// Hears what happens in a list, row by row. The peer that shows the list is one.
+class ListboxObserver : public ControlObserver {
+public:
+    virtual void rowAdded(int row) = 0;
+    virtual void rowRemoved(int row) = 0;
+    /// Rows have other places or are others altogether.
+    virtual void rowsReplaced() = 0;
+    virtual void cellChanged(int row, int column) = 0;
+    virtual void selectionChanged() = 0;
+    /// A cell was opened, or the open one was closed.
+    virtual void openCellChanged() = 0;
+};
+
+/// A grid of text cells with headings, a selection of rows and one cell at most open for typing. Rows and columns
+/// count from 0. Outside of the grid a cell reads as "" and a write does nothing.
+///
+/// Every row bears a revision: a number that belongs to its present cells alone. Each write gives the row another
+/// one, and no number is given twice, so whoever remembers something of a row can tell whether it still holds.
+class Listbox : public Control {
+public:
+    enum ColumnTypes { TypeDefault = 0, TypeEditable = 3 };
+    enum ColumnAlignments { AlignDefault = 0, AlignLeft = 1, AlignCenter = 2, AlignRight = 3 };
+    enum class SelectionTypes { single, multiple };
+
+    explicit Listbox(int columnCount);
+
+    // Columns
+
+    int ColumnCount() const { return static_cast<int>(columns_.size()); }
+    /// Points of each column with "," between them. A column past the last width is not shown.
+    const std::string& ColumnWidths() const { return columnWidths_; }
+    void ColumnWidths(std::string value) { set(columnWidths_, std::move(value)); }
+    const std::string& Heading(int column) const { return columns_[index(column)].heading; }
+    void Heading(int column, std::string text) { set(columns_[index(column)].heading, std::move(text)); }
+    int ColumnType(int column) const { return columns_[index(column)].type; }
+    void ColumnType(int column, int type) { set(columns_[index(column)].type, type); }
+    int ColumnAlignment(int column) const { return columns_[index(column)].alignment; }
+    void ColumnAlignment(int column, int alignment) { set(columns_[index(column)].alignment, alignment); }
+    int DefaultRowHeight() const { return rowHeight_; }
+    void DefaultRowHeight(int points) { set(rowHeight_, points); }
+    SelectionTypes SelectionType() const { return selectionType_; }
+    void SelectionType(SelectionTypes value) { set(selectionType_, value); }
+
+    // Rows and cells
+
+    int ListCount() const { return static_cast<int>(rows_.size()); }
+    /// The row that was added last; -1 before that, and once it was removed.
+    int LastIndex() const { return lastIndex_; }
+    const std::string& Cell(int row, int column) const;
+    /// A write from code raises no event.
+    void Cell(int row, int column, std::string_view text);
+    /// Appends a row whose column 0 holds the text; its other cells are empty.
+    void AddRow(std::string_view text);
+    void RemoveRow(int row);
+    /// Removes all selected rows at one go, and raises Change once if there were any.
+    void RemoveSelectedRows();
+    std::uint64_t revision(int row) const { return rows_[index(row)].revision; }
+
+    // Selection
+
+    /// The first selected row, or -1.
+    int ListIndex() const;
+    /// Selects that row alone; -1 selects none. Raises Change when the selection differs.
+    void ListIndex(int row);
+    bool Selected(int row) const { return contains(row, 0) && rows_[index(row)].selected; }
+    void Selected(int row, bool value);
+    int SelectedCount() const { return selectedCount_; }
+    /// Selects these rows and no other. Raises Change once when the selection differs.
+    void select(const std::vector<bool>& rows);
+
+    // Editing in place
+
+    /// Opens a cell, whatever its column's type, with its row selected alone. A row or column that does not exist
+    /// leaves things as they are.
+    void EditCell(int row, int column);
+    /// The field of the open cell; it keeps its last state when none is open.
+    TextField& ActiveCell() { return activeCell_; }
+    /// The open cell's place; -1 when none is open.
+    int openRow() const { return openRow_; }
+    int openColumn() const { return openColumn_; }
+    /// The user has typed in the open cell: the cell takes the text at once, then CellTextChange is raised.
+    void userTyped(std::string text, int selStart, int selLength);
+    /// Ends the editing; the cell keeps what was typed.
+    void closeCell();
+    /// Ends the editing and puts the text back as it was when the cell was opened, with CellTextChange if it differs.
+    void revertCell();
+
+    // Sorting
+
+    /// 1 ascending, -1 descending, 0 before a direction was set.
+    int ColumnSortDirection(int column) const { return columns_[index(column)].sortDirection; }
+    void ColumnSortDirection(int column, int direction) { columns_[index(column)].sortDirection = direction; }
+    int SortedColumn() const { return sortedColumn_; }
+    void SortedColumn(int column) { sortedColumn_ = column; }
+    /// Sorts by the texts of the sorted column in its direction. Rows with equal texts keep their order, and the
+    /// selection stays with its rows. An open cell is closed.
+    void Sort();
+    /// The user has pressed a heading: sorts by that column, unless HeaderPressed says that it has done its own.
+    void pressHeader(int column);
+
+    // Events
+
+    std::function<void()> Open;
+    std::function<void()> Change;
+    std::function<bool(int row, int column, int x, int y)> CellClick;
+    /// A key in the open cell; true when it was consumed. Control keys come as the characters 8, 9, 13, 27 to 31.
+    std::function<bool(int row, int column, const std::string& key)> CellKeyDown;
+    std::function<void(int row, int column)> CellTextChange;
+    std::function<bool(int column)> HeaderPressed;
+    /// Paints below the text of a cell; the surface is the cell. Also called for rows that do not exist.
+    std::function<bool(Graphics& g, int row, int column)> CellBackgroundPaint;
+    /// Before the text is drawn at x, y: may set the colour, or draw the text itself and say true.
+    std::function<bool(Graphics& g, int row, int column, int x, int y)> CellTextPaint;
+
+    void observe(ListboxObserver* observer) {
+        Control::observe(observer);
+        list_ = observer;
+    }
+
+private:
+    struct Column {
+        std::string heading;
+        int type = TypeDefault;
+        int alignment = AlignDefault;
+        int sortDirection = 0;
+    };
+    struct Row {
+        std::vector<std::string> cells;
+        std::uint64_t revision = 0;
+        bool selected = false;
+    };
+
+    static std::size_t index(int i) { return static_cast<std::size_t>(i); }
+    bool contains(int row, int column) const {
+        return row >= 0 && row < ListCount() && column >= 0 && column < ColumnCount();
+    }
+    void raiseChange();
+    void write(int row, int column, std::string_view text);
+    void raiseTextChange(int row, int column);
+
+    std::vector<Column> columns_;
+    std::string columnWidths_;
+    int rowHeight_ = 15;
+    SelectionTypes selectionType_ = SelectionTypes::single;
+    std::vector<Row> rows_;
+    std::uint64_t lastRevision_ = 0;
+    int lastIndex_ = -1;
+    int selectedCount_ = 0;
+    int sortedColumn_ = -1;
+    TextField activeCell_;
+    int openRow_ = -1;
+    int openColumn_ = -1;
+    std::string textAtOpening_;
+    ListboxObserver* list_ = nullptr;
+};
+
+} // namespace tallyvane

@@ -1,0 +1,57 @@
+#include "platform/menus.h"
+
+#include "platform/window.h"
+
+namespace tallyvane {
+
+namespace {
+
+/// The handler of that name; nil when there is none.
+const std::function<void()>* handlerOf(const MenuHandlers& handlers, std::string_view name) {
+    const auto found = handlers.find(name);
+    return found == handlers.end() ? nullptr : &found->second;
+}
+
+const std::function<void()>* answer(const MenuBar& bar, Window* front, std::string_view name) {
+    const auto* own = front == nullptr ? nullptr : handlerOf(front->menuHandlers, name);
+    return own != nullptr ? own : handlerOf(bar.handlers, name);
+}
+
+} // namespace
+
+MenuItem* MenuBar::find(std::string_view name) {
+    for (Menu& menu : menus_)
+        for (MenuItem& item : menu.items)
+            if (item.Name == name)
+                return &item;
+    return nullptr;
+}
+
+void MenuBar::enable(std::string_view name) {
+    if (MenuItem* item = find(name))
+        item->Enabled = true;
+}
+
+void MenuBar::enableItems(Window* front) {
+    for (Menu& menu : menus_)
+        for (MenuItem& item : menu.items)
+            item.Enabled = item.AutoEnable;
+    if (front != nullptr)
+        front->Event_EnableMenuItems(*this);
+    for (Menu& menu : menus_)
+        for (MenuItem& item : menu.items)
+            item.Enabled = item.Enabled && answer(*this, front, item.Name) != nullptr;
+}
+
+void MenuBar::choose(std::string_view name, Window* front) {
+    if (const auto* handler = answer(*this, front, name))
+        (*handler)();
+}
+
+void Toolbar::enable(std::string_view name, bool enabled) {
+    for (ToolItem& item : items_)
+        if (item.Name == name)
+            set(item.Enabled, enabled);
+}
+
+} // namespace tallyvane

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QCalendarWidget>
+
+#include "platform/controls.h"
+#include "platform/qt/peer.h"
+
+namespace tallyvane {
+
+/// Shows a month. A double click on a day, or Return on it, counts as DayDoubleClicked.
+class CalendarPeer : public Peer<QCalendarWidget, CalendarControl> {
+public:
+    CalendarPeer(CalendarControl& calendar, QWidget* parent);
+
+protected:
+    void sync() override;
+    void resizeEvent(QResizeEvent* event) override;
+};
+
+} // namespace tallyvane

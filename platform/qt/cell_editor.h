@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QLineEdit>
+
+#include "platform/listbox.h"
+#include "platform/qt/peer.h"
+
+namespace tallyvane {
+
+/// The field over the open cell of a list. It brings each key and each change of the text to the list.
+class CellEditor : public Peer<QLineEdit, TextField> {
+public:
+    CellEditor(Listbox& list, QWidget* parent);
+
+    void detach() override;
+
+protected:
+    void sync() override;
+    bool event(QEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    bool takesKey(const QKeyEvent& key);
+    bool raiseKeyDown(const std::string& key);
+    void textTyped();
+    void selectionMoved();
+
+    Listbox* list_;
+};
+
+} // namespace tallyvane

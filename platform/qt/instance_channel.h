@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QLocalServer>
+
+#include <functional>
+#include <memory>
+
+namespace tallyvane {
+
+/// The line between a running program and a second start of it by the same user on the same data.
+class InstanceChannel {
+public:
+    /// Whenever a second start calls, `onCall` is raised. Only for the program that holds the application's folder.
+    void listen(std::function<void()> onCall);
+    /// Calls the running program; returns when it has been reached, or can't be.
+    void call();
+
+private:
+    std::unique_ptr<QLocalServer> server_;
+};
+
+} // namespace tallyvane

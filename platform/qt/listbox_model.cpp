@@ -1,0 +1,69 @@
+#include "platform/qt/listbox_model.h"
+
+#include "platform/number.h"
+#include "platform/qt/convert.h"
+
+namespace tallyvane {
+
+std::vector<int> columnWidthsOf(const Listbox& list) {
+    std::vector<int> widths;
+    for (FieldWalk fields(list.ColumnWidths(), ","); !fields.atEnd();)
+        widths.push_back(static_cast<int>(Val(fields.next())));
+    return widths;
+}
+
+ListboxModel::ListboxModel(const Listbox& list, QObject* parent)
+    : QAbstractTableModel(parent), list_(list), rows_(list.ListCount()) {}
+
+int ListboxModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows_; }
+
+int ListboxModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(columnWidthsOf(list_).size());
+}
+
+QVariant ListboxModel::data(const QModelIndex& index, int role) const {
+    const std::string& text = list_.Cell(index.row(), index.column());
+    if (role == Qt::DisplayRole)
+        return toQt(text);
+    if (role == Qt::AccessibleTextRole)
+        return toQt(list_.Heading(index.column()) + ", " + list_.Cell(index.row(), 0) + ", " + text);
+    return {};
+}
+
+QVariant ListboxModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation == Qt::Horizontal && role == Qt::DisplayRole)
+        return toQt(list_.Heading(section));
+    return {};
+}
+
+Qt::ItemFlags ListboxModel::flags(const QModelIndex& /*index*/) const {
+    return Qt::ItemIsSelectable | Qt::ItemIsEnabled;
+}
+
+void ListboxModel::tellRowAdded(int row) {
+    beginInsertRows({}, row, row);
+    ++rows_;
+    endInsertRows();
+}
+
+void ListboxModel::tellRowRemoved(int row) {
+    beginRemoveRows({}, row, row);
+    --rows_;
+    endRemoveRows();
+}
+
+void ListboxModel::tellRowsReplaced() {
+    beginResetModel();
+    rows_ = list_.ListCount();
+    endResetModel();
+}
+
+void ListboxModel::tellCellChanged(int row, int column) {
+    const QModelIndex cell = index(row, column);
+    if (cell.isValid())
+        Q_EMIT dataChanged(cell, cell);
+}
+
+void ListboxModel::tellHeadingsChanged() { Q_EMIT headerDataChanged(Qt::Horizontal, 0, columnCount() - 1); }
+
+} // namespace tallyvane

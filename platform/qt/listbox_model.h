@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QAbstractTableModel>
+
+#include "platform/listbox.h"
+
+namespace tallyvane {
+
+/// The cells of a list as Qt's views and its accessibility ask for them. Nothing is kept here but the number of rows
+/// that the views have been told of.
+class ListboxModel : public QAbstractTableModel {
+public:
+    ListboxModel(const Listbox& list, QObject* parent);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+    void tellRowAdded(int row);
+    void tellRowRemoved(int row);
+    void tellRowsReplaced();
+    void tellCellChanged(int row, int column);
+    void tellHeadingsChanged();
+
+private:
+    const Listbox& list_;
+    int rows_ = 0;
+};
+
+/// The widths of the columns that are shown.
+std::vector<int> columnWidthsOf(const Listbox& list);
+
+} // namespace tallyvane

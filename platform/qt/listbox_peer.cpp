@@ -1,0 +1,287 @@
+#include "platform/qt/listbox_peer.h"
+
+#include <QHeaderView>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+
+#include "platform/qt/event_guard.h"
+#include "platform/qt/painter_graphics.h"
+
+namespace tallyvane {
+
+namespace {
+
+constexpr int fontPixels = 12;
+constexpr int headingHeight = 19;
+constexpr int scrollBarWidth = 15;
+constexpr int textMargin = 6;
+
+constexpr Color ground = RGB(255, 255, 255);
+constexpr Color text = RGB(16, 20, 26);
+constexpr Color headingGround = RGB(232, 236, 242);
+constexpr Color columnLine = RGB(186, 200, 220);
+constexpr Color selection = RGB(92, 152, 236);
+constexpr Color selectionLine = RGB(38, 92, 170);
+
+QPalette lightColors() {
+    QPalette colors(toQt(headingGround), toQt(headingGround));
+    colors.setColor(QPalette::Base, toQt(ground));
+    for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+        colors.setColor(role, toQt(text));
+    colors.setColor(QPalette::Highlight, toQt(selection));
+    colors.setColor(QPalette::HighlightedText, toQt(text));
+    return colors;
+}
+
+Qt::Alignment toQt(int alignment) {
+    if (alignment == Listbox::AlignCenter)
+        return Qt::AlignHCenter;
+    return alignment == Listbox::AlignRight ? Qt::AlignRight : Qt::AlignLeft;
+}
+
+/// Has the list paint its cells.
+class CellPainter : public QStyledItemDelegate {
+public:
+    explicit CellPainter(ListboxPeer* peer) : QStyledItemDelegate(peer), peer_(peer) {}
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        peer_->paintCell(*painter, option.rect, index.row(), index.column());
+    }
+
+private:
+    ListboxPeer* peer_;
+};
+
+} // namespace
+
+ListboxPeer::ListboxPeer(Listbox& list, QWidget* parent)
+    : Peer(list, parent), model_(new ListboxModel(list, this)), editor_(new CellEditor(list, viewport())) {
+    setModel(model_);
+    setItemDelegate(new CellPainter(this));
+    setUpLook();
+    setEditTriggers(NoEditTriggers);
+    setSelectionBehavior(SelectRows);
+    setTabKeyNavigation(false);
+    horizontalHeader()->setSectionsClickable(true);
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int column) {
+        if (control_ != nullptr)
+            deliver([&] { control_->pressHeader(column); });
+    });
+    controlChanged();
+    selectionChanged();
+}
+
+void ListboxPeer::setUpLook() {
+    setPalette(lightColors());
+    setFrameShape(NoFrame);
+    setShowGrid(false);
+    setCornerButtonEnabled(false);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    verticalScrollBar()->setFixedWidth(scrollBarWidth);
+    QFont font = this->font();
+    font.setPixelSize(fontPixels);
+    setFont(font);
+    verticalHeader()->hide();
+    verticalHeader()->setMinimumSectionSize(1);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setFixedHeight(headingHeight);
+    horizontalHeader()->setMinimumSectionSize(1);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setFont(font);
+}
+
+void ListboxPeer::detach() {
+    editor_->detach();
+    Peer::detach();
+    setModel(nullptr); // it reads the list
+}
+
+void ListboxPeer::sync() {
+    const bool several = control_->SelectionType() == Listbox::SelectionTypes::multiple;
+    setSelectionMode(several ? ExtendedSelection : SingleSelection);
+    verticalHeader()->setDefaultSectionSize(control_->DefaultRowHeight());
+    const std::vector<int> widths = columnWidthsOf(*control_);
+    for (std::size_t column = 0; column < widths.size(); ++column)
+        horizontalHeader()->resizeSection(static_cast<int>(column), widths[column]);
+    model_->tellHeadingsChanged();
+    viewport()->update();
+    placeEditor();
+}
+
+// News of the list
+
+void ListboxPeer::rowAdded(int row) {
+    const QScopedValueRollback bringing(bringingSelection_, true);
+    model_->tellRowAdded(row);
+}
+
+void ListboxPeer::rowRemoved(int row) {
+    const QScopedValueRollback bringing(bringingSelection_, true);
+    model_->tellRowRemoved(row);
+}
+
+void ListboxPeer::rowsReplaced() {
+    {
+        const QScopedValueRollback bringing(bringingSelection_, true);
+        const int scrolled = verticalScrollBar()->value();
+        model_->tellRowsReplaced();
+        verticalScrollBar()->setValue(scrolled);
+    }
+    selectionChanged();
+}
+
+void ListboxPeer::cellChanged(int row, int column) { model_->tellCellChanged(row, column); }
+
+void ListboxPeer::selectionChanged() {
+    const QScopedValueRollback bringing(bringingSelection_, true);
+    QItemSelection rows;
+    for (int row = 0; row < control_->ListCount(); ++row) {
+        const int first = row;
+        while (control_->Selected(row))
+            ++row;
+        if (row > first)
+            rows.select(model_->index(first, 0), model_->index(row - 1, model_->columnCount() - 1));
+    }
+    selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect);
+    viewport()->update();
+}
+
+void ListboxPeer::openCellChanged() {
+    const QModelIndex cell = model_->index(control_->openRow(), control_->openColumn());
+    if (!cell.isValid()) {
+        if (editor_->hasFocus())
+            setFocus();
+        editor_->hide();
+        return;
+    }
+    selectionModel()->setCurrentIndex(cell, QItemSelectionModel::NoUpdate);
+    scrollTo(cell);
+    editor_->setAlignment(toQt(control_->ColumnAlignment(cell.column())) | Qt::AlignVCenter);
+    editor_->setAccessibleName(model_->data(cell, Qt::AccessibleTextRole).toString());
+    editor_->controlChanged();
+    placeEditor();
+    editor_->show();
+    editor_->setFocus();
+    editor_->controlChanged(); // taking the focus moves the selection
+}
+
+void ListboxPeer::placeEditor() {
+    const QModelIndex cell = model_->index(control_->openRow(), control_->openColumn());
+    if (cell.isValid())
+        editor_->setGeometry(visualRect(cell));
+}
+
+// The user's doing
+
+void ListboxPeer::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+    QTableView::selectionChanged(selected, deselected);
+    if (control_ == nullptr || bringingSelection_)
+        return;
+    std::vector<bool> rows(static_cast<std::size_t>(control_->ListCount()));
+    for (const QItemSelectionRange& range : selectionModel()->selection())
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows[static_cast<std::size_t>(row)] = true;
+    deliver([&] { control_->select(rows); });
+    viewport()->update();
+}
+
+void ListboxPeer::mousePressEvent(QMouseEvent* event) {
+    // Presses with Ctrl or Shift extend the selection; they are no clicks in a cell.
+    const bool plain = event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier;
+    pressed_ = plain ? indexAt(event->pos()) : QModelIndex();
+    QTableView::mousePressEvent(event);
+}
+
+void ListboxPeer::mouseReleaseEvent(QMouseEvent* event) {
+    QTableView::mouseReleaseEvent(event);
+    const QModelIndex cell = std::exchange(pressed_, QModelIndex());
+    if (control_ != nullptr && cell.isValid() && cell == indexAt(event->pos()))
+        click(cell, event->pos() - visualRect(cell).topLeft());
+}
+
+void ListboxPeer::click(const QModelIndex& cell, const QPoint& place) {
+    bool done = false;
+    deliver([&] {
+        if (control_->CellClick)
+            done = control_->CellClick(cell.row(), cell.column(), place.x(), place.y());
+    });
+    if (!done && control_ != nullptr && control_->ColumnType(cell.column()) == Listbox::TypeEditable)
+        deliver([&] { control_->EditCell(cell.row(), cell.column()); });
+}
+
+void ListboxPeer::keyPressEvent(QKeyEvent* event) {
+    const bool opens = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_F2;
+    if (opens && control_ != nullptr && currentIndex().isValid())
+        click(currentIndex(), QPoint());
+    else
+        QTableView::keyPressEvent(event);
+}
+
+void ListboxPeer::scrollContentsBy(int dx, int dy) {
+    QTableView::scrollContentsBy(dx, dy);
+    if (control_ != nullptr)
+        placeEditor();
+}
+
+// Painting
+
+void ListboxPeer::paintCell(QPainter& painter, const QRect& area, int row, int column) {
+    if (control_ == nullptr)
+        return;
+    const bool selected = control_->Selected(row);
+    {
+        PainterGraphics g(painter, area);
+        if (selected)
+            g.tintFills(tallyvane::toQt(selection));
+        deliver([&] {
+            if (control_->CellBackgroundPaint)
+                control_->CellBackgroundPaint(g, row, column);
+        });
+    }
+    painter.fillRect(area.right(), area.top(), 1, area.height(), tallyvane::toQt(columnLine));
+    if (selected)
+        painter.fillRect(area.left(), area.bottom(), area.width(), 1, tallyvane::toQt(selectionLine));
+    if (row < control_->ListCount())
+        drawText(painter, area, row, column);
+    if (hasFocus() && currentIndex() == model_->index(row, column)) {
+        painter.setPen(tallyvane::toQt(selectionLine));
+        painter.drawRect(area.adjusted(0, 0, -1, -1));
+    }
+}
+
+void ListboxPeer::drawText(QPainter& painter, const QRect& area, int row, int column) {
+    const QRect inner = area.adjusted(textMargin, 0, -textMargin, 0);
+    bool drawn = false;
+    PainterGraphics g(painter, area);
+    g.ForeColor(text);
+    deliver([&] {
+        if (control_->CellTextPaint)
+            drawn = control_->CellTextPaint(g, row, column, inner.left() - area.left(), area.height());
+    });
+    if (drawn)
+        return;
+    painter.setPen(tallyvane::toQt(g.ForeColor()));
+    const QString shown = fontMetrics().elidedText(tallyvane::toQt(control_->Cell(row, column)), Qt::ElideRight, inner.width());
+    painter.drawText(inner.translated(-area.topLeft()), toQt(control_->ColumnAlignment(column)) | Qt::AlignVCenter, shown);
+}
+
+void ListboxPeer::paintEvent(QPaintEvent* event) {
+    QTableView::paintEvent(event);
+    if (control_ == nullptr)
+        return;
+    QPainter painter(viewport());
+    painter.setFont(font());
+    const int rowHeight = control_->DefaultRowHeight();
+    const int rows = control_->ListCount();
+    int row = rows;
+    int top = rows == 0 ? 0 : rowViewportPosition(rows - 1) + rowHeight;
+    for (; top < viewport()->height(); top += rowHeight, ++row)
+        for (int column = 0; column < model_->columnCount(); ++column)
+            paintCell(painter, {columnViewportPosition(column), top, columnWidth(column), rowHeight}, row, column);
+}
+
+} // namespace tallyvane

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QTableView>
+
+#include "platform/listbox.h"
+#include "platform/qt/cell_editor.h"
+#include "platform/qt/listbox_model.h"
+#include "platform/qt/peer.h"
+
+namespace tallyvane {
+
+/// Shows a list as a table. It keeps light colours of its own in every theme, since its cells are painted on light
+/// bands.
+class ListboxPeer : public Peer<QTableView, Listbox, ListboxObserver> {
+public:
+    ListboxPeer(Listbox& list, QWidget* parent);
+
+    void detach() override;
+
+    void rowAdded(int row) override;
+    void rowRemoved(int row) override;
+    void rowsReplaced() override;
+    void cellChanged(int row, int column) override;
+    void selectionChanged() override;
+    void openCellChanged() override;
+
+    /// Paints a cell, also of a row that does not exist.
+    void paintCell(QPainter& painter, const QRect& area, int row, int column);
+
+protected:
+    void sync() override;
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    /// Nothing: a digit typed while no cell is open must not take the selection elsewhere.
+    void keyboardSearch(const QString& /*search*/) override {}
+    void scrollContentsBy(int dx, int dy) override;
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+
+private:
+    void setUpLook();
+    void click(const QModelIndex& cell, const QPoint& place);
+    void open(const QModelIndex& cell);
+    void placeEditor();
+    void drawText(QPainter& painter, const QRect& area, int row, int column);
+
+    ListboxModel* model_;
+    CellEditor* editor_;
+    QModelIndex pressed_;
+    bool bringingSelection_ = false; // from the list to the view, not the other way
+};
+
+} // namespace tallyvane

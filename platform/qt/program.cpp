@@ -1,0 +1,86 @@
+#include "platform/qt/program.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QLocale>
+#include <QSessionManager>
+#include <QStandardPaths>
+
+#include "platform/folder_item.h"
+#include "platform/qt/convert.h"
+#include "platform/qt/event_guard.h"
+#include "platform/qt/instance_channel.h"
+#include "platform/qt/pictures.h"
+#include "platform/qt/qt_toolkit.h"
+#include "platform/qt/unix_signals.h"
+
+namespace tallyvane {
+
+namespace {
+
+std::optional<FolderItem> folderAt(const QString& path) { return GetFolderItem(QFile::encodeName(path).toStdString()); }
+
+/// The desktop's folders. That for application data is made on a new account that has none yet.
+void settleFolders() {
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    QDir().mkpath(data);
+    SpecialFolder::ApplicationData = folderAt(data);
+    SpecialFolder::UserHome = folderAt(QDir::homePath());
+}
+
+void settleDateForm() {
+    const QLocale locale = QLocale::system();
+    DateSource::setShortPattern(fromQt(locale.dateFormat(QLocale::ShortFormat)));
+}
+
+} // namespace
+
+struct QtProgram::Parts {
+    Parts(int& argc, char** argv) : application(argc, argv) {}
+
+    QApplication application;
+    QtToolkit toolkit;
+    InstanceChannel channel;
+    std::unique_ptr<UnixSignals> signals_;
+};
+
+QtProgram::QtProgram(int& argc, char** argv) : parts_(std::make_unique<Parts>(argc, argv)) {
+    QApplication& application = parts_->application;
+    QApplication::setApplicationName(QStringLiteral("Tallyvane"));
+    QApplication::setDesktopFileName(QStringLiteral("tallyvane"));
+    QApplication::setWindowIcon(loadPicture("vaneLogo128.png").icon);
+    QApplication::setQuitOnLastWindowClosed(false);
+    settleFolders();
+    settleDateForm();
+    setEventGuard([this](const std::function<void()>& event) {
+        if (guard)
+            guard(event);
+        else
+            event();
+    });
+    parts_->signals_ = std::make_unique<UnixSignals>([this] { deliver(onEndRequested); });
+    QObject::connect(&application, &QGuiApplication::applicationStateChanged, &application,
+                     [this](Qt::ApplicationState state) {
+                         if (state != Qt::ApplicationActive)
+                             deliver(onDeactivate);
+                     });
+    QObject::connect(
+        &application, &QGuiApplication::commitDataRequest, &application,
+        [this](QSessionManager&) { deliver(onEndRequested); }, Qt::DirectConnection);
+}
+
+QtProgram::~QtProgram() { setEventGuard(nullptr); }
+
+int QtProgram::run(const std::function<void()>& open) {
+    deliver(open);
+    if (!parts_->toolkit.quitAsked() && !Window::openWindows().empty()) {
+        parts_->channel.listen([this] { deliver(onWake); });
+        QApplication::exec();
+    }
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    return parts_->toolkit.quitAsked() ? parts_->toolkit.quitCode() : 1;
+}
+
+void QtProgram::wakeRunningProgram() { parts_->channel.call(); }
+
+} // namespace tallyvane

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+namespace tallyvane {
+
+/// The program's process on Qt: event loop, folders and date form of the desktop, signals, and the line to a second
+/// start. No Qt shows in this header, so that whoever joins the rooms needs none.
+class QtProgram {
+public:
+    QtProgram(int& argc, char** argv);
+    QtProgram(const QtProgram&) = delete;
+    QtProgram& operator=(const QtProgram&) = delete;
+    ~QtProgram();
+
+    /// Runs each event; the application's catch-all.
+    std::function<void(const std::function<void()>& event)> guard;
+    /// The program has lost the focus to another.
+    std::function<void()> onDeactivate;
+    /// A signal or the end of the desktop session asks the program to end.
+    std::function<void()> onEndRequested;
+    /// A second start asks for the front.
+    std::function<void()> onWake;
+
+    /// Raises `open`, then all events until Quit. The exit code.
+    int run(const std::function<void()>& open);
+    /// Calls the program that runs already.
+    void wakeRunningProgram();
+
+private:
+    struct Parts;
+
+    std::unique_ptr<Parts> parts_;
+};
+
+} // namespace tallyvane

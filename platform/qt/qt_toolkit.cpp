@@ -1,0 +1,66 @@
+#include "platform/qt/qt_toolkit.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QMessageBox>
+#include <QScreen>
+#include <QUrl>
+
+#include "platform/qt/convert.h"
+#include "platform/qt/window_peer.h"
+
+namespace tallyvane {
+
+namespace {
+
+/// The frame of a window that is on the screen; nil when it is not.
+WindowFrame* frameOf(const Window* window) {
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        auto* frame = dynamic_cast<WindowFrame*>(widget);
+        if (frame != nullptr && window != nullptr && frame->window() == window)
+            return frame;
+    }
+    return nullptr;
+}
+
+Window* windowInFront() {
+    const auto* frame = dynamic_cast<WindowFrame*>(QApplication::activeWindow());
+    return frame == nullptr ? nullptr : frame->window();
+}
+
+} // namespace
+
+QtToolkit::QtToolkit() { putInForce(this); }
+
+QtToolkit::~QtToolkit() { putInForce(nullptr); }
+
+std::unique_ptr<WindowPeer> QtToolkit::show(Window& window) {
+    return std::make_unique<QtWindowPeer>(new WindowFrame(window, frameOf(window.owner()), windowInFront));
+}
+
+Rect QtToolkit::placeFor(const Window& window) {
+    const WindowFrame* owner = frameOf(window.owner());
+    const QRect around = owner != nullptr ? owner->frameGeometry() : QGuiApplication::primaryScreen()->availableGeometry();
+    QRect place(0, 0, window.Width(), window.Height());
+    place.moveCenter(around.center());
+    return {place.x(), place.y(), place.width(), place.height()};
+}
+
+void QtToolkit::message(const std::string& text) {
+    QMessageBox box(QMessageBox::NoIcon, QStringLiteral("Tallyvane"), toQt(text), QMessageBox::Ok,
+                    QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+void QtToolkit::beep() { QApplication::beep(); }
+
+void QtToolkit::openUrl(const std::string& address) { QDesktopServices::openUrl(QUrl(toQt(address))); }
+
+void QtToolkit::quit(int code) {
+    quitAsked_ = true;
+    quitCode_ = code;
+    QApplication::exit(code);
+}
+
+} // namespace tallyvane

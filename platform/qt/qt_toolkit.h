@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/toolkit.h"
+
+namespace tallyvane {
+
+/// The toolkit on Qt. It is in force from its making to its end, which both lie inside the life of a QApplication.
+class QtToolkit : public Toolkit {
+public:
+    QtToolkit();
+    ~QtToolkit() override;
+
+    std::unique_ptr<WindowPeer> show(Window& window) override;
+    Rect placeFor(const Window& window) override;
+    void message(const std::string& text) override;
+    void beep() override;
+    void openUrl(const std::string& address) override;
+    void quit(int code) override;
+
+    bool quitAsked() const { return quitAsked_; }
+    int quitCode() const { return quitCode_; }
+
+private:
+    bool quitAsked_ = false;
+    int quitCode_ = 0;
+};
+
+} // namespace tallyvane

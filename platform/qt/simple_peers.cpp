@@ -1,0 +1,193 @@
+#include "platform/qt/simple_peers.h"
+
+#include <QPainter>
+#include <QShortcut>
+#include <QTabBar>
+
+#include "platform/qt/event_guard.h"
+#include "platform/qt/painter_graphics.h"
+
+namespace tallyvane {
+
+namespace {
+
+Qt::Alignment toQt(TextAlign align) {
+    switch (align) {
+    case TextAlign::center:
+        return Qt::AlignHCenter;
+    case TextAlign::right:
+        return Qt::AlignRight;
+    case TextAlign::left:
+        break;
+    }
+    return Qt::AlignLeft;
+}
+
+} // namespace
+
+// StaticText
+
+StaticTextPeer::StaticTextPeer(StaticText& text, QWidget* parent) : Peer(text, parent) {
+    setTextFormat(Qt::PlainText);
+    controlChanged();
+}
+
+void StaticTextPeer::sync() {
+    setText(tallyvane::toQt(control_->Text()));
+    setAlignment(toQt(control_->Align()) | Qt::AlignVCenter);
+    QFont font = parentWidget()->font();
+    if (control_->TextSize() > 0)
+        font.setPixelSize(control_->TextSize());
+    font.setBold(control_->Bold());
+    setFont(font);
+    if (const auto& color = control_->TextColor()) {
+        QPalette colors = palette();
+        colors.setColor(QPalette::WindowText, tallyvane::toQt(*color));
+        setPalette(colors);
+    }
+}
+
+// Canvas
+
+CanvasPeer::CanvasPeer(Canvas& canvas, QWidget* parent) : Peer(canvas, parent) { controlChanged(); }
+
+void CanvasPeer::paintEvent(QPaintEvent* /*event*/) {
+    if (control_ == nullptr)
+        return;
+    constexpr double disabledOpacity = 0.45;
+    QPainter painter(this);
+    painter.setOpacity(control_->Enabled() ? 1.0 : disabledOpacity);
+    PainterGraphics g(painter, rect());
+    if (control_->Backdrop())
+        g.DrawPicture(*control_->Backdrop(), 0, 0);
+    deliver([&] {
+        if (control_->Paint)
+            control_->Paint(g);
+    });
+}
+
+// PushButton
+
+PushButtonPeer::PushButtonPeer(PushButton& button, QWidget* parent) : Peer(button, parent) {
+    const auto press = [this] {
+        if (control_ != nullptr)
+            deliver(control_->Action);
+    };
+    connect(this, &QPushButton::clicked, this, press);
+    const auto pressBy = [&](int key) {
+        connect(new QShortcut(QKeySequence(key), this), &QShortcut::activated, this, [this] { click(); });
+    };
+    if (button.Default()) {
+        pressBy(Qt::Key_Return);
+        pressBy(Qt::Key_Enter);
+    }
+    if (button.Cancel())
+        pressBy(Qt::Key_Escape);
+    controlChanged();
+}
+
+void PushButtonPeer::sync() {
+    setText(tallyvane::toQt(control_->Caption()));
+    setDefault(control_->Default());
+}
+
+// BevelButton
+
+BevelButtonPeer::BevelButtonPeer(BevelButton& button, QWidget* parent) : Peer(button, parent) {
+    setFocusPolicy(Qt::TabFocus);
+    connect(this, &QToolButton::clicked, this, [this] {
+        if (control_ != nullptr)
+            deliver(control_->Action);
+    });
+    controlChanged();
+}
+
+void BevelButtonPeer::sync() { setText(tallyvane::toQt(control_->Caption())); }
+
+// TextArea
+
+TextAreaPeer::TextAreaPeer(TextArea& area, QWidget* parent) : Peer(area, parent) {
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    setTabChangesFocus(true);
+    controlChanged();
+    connect(this, &QPlainTextEdit::textChanged, this, [this] {
+        if (control_ != nullptr)
+            deliver([this] { control_->userTyped(fromQt(toPlainText())); });
+    });
+}
+
+void TextAreaPeer::sync() {
+    const QString text = tallyvane::toQt(control_->Text());
+    if (text == toPlainText())
+        return;
+    const QSignalBlocker quiet(this);
+    setPlainText(text);
+}
+
+// TabPanel
+
+TabPanelPeer::TabPanelPeer(TabPanel& panel, QWidget* parent) : Peer(panel, parent) {
+    for (const std::string& caption : panel.Captions())
+        addTab(new QWidget(this), tallyvane::toQt(caption));
+    controlChanged();
+    connect(this, &QTabWidget::currentChanged, this, [this](int page) {
+        if (control_ != nullptr)
+            control_->Value(page);
+    });
+}
+
+void TabPanelPeer::sync() { setCurrentIndex(control_->Value()); }
+
+// ProgressWheel
+
+ProgressWheelPeer::ProgressWheelPeer(ProgressWheel& wheel, QWidget* parent) : Peer(wheel, parent) {
+    constexpr int millisecondsPerStep = 80;
+    connect(&turning_, &QTimer::timeout, this, [this] {
+        ++step_;
+        update();
+    });
+    turning_.start(millisecondsPerStep);
+    controlChanged();
+}
+
+void ProgressWheelPeer::paintEvent(QPaintEvent* /*event*/) {
+    constexpr int spokes = 12;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(width() / 2.0, height() / 2.0);
+    painter.rotate(step_ * 360.0 / spokes);
+    const double radius = width() / 2.0;
+    QColor color = palette().color(QPalette::WindowText);
+    for (int spoke = 1; spoke <= spokes; ++spoke) {
+        painter.rotate(360.0 / spokes);
+        color.setAlphaF(static_cast<float>(spoke) / spokes);
+        painter.setPen(QPen(color, radius / 5));
+        painter.drawLine(QPointF(radius * 0.5, 0), QPointF(radius * 0.95, 0));
+    }
+}
+
+// Timer
+
+TimerPeer::TimerPeer(Timer& timer, QObject* parent) : timer_(&timer), clock_(parent) {
+    timer.observe(this);
+    QObject::connect(&clock_, &QTimer::timeout, &clock_, [this] {
+        if (timer_ != nullptr)
+            deliver([timer = timer_] { timer->fire(); });
+    });
+    controlChanged();
+}
+
+TimerPeer::~TimerPeer() {
+    if (timer_ != nullptr)
+        timer_->observe(nullptr);
+}
+
+void TimerPeer::controlChanged() {
+    clock_.setSingleShot(timer_->Mode() == Timer::ModeSingle);
+    if (timer_->Mode() == Timer::ModeOff)
+        clock_.stop();
+    else
+        clock_.start(timer_->Period());
+}
+
+} // namespace tallyvane

@@ -1,0 +1,93 @@
+/// Peers of the simple controls.
+#pragma once
+
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTimer>
+#include <QToolButton>
+
+#include "platform/controls.h"
+#include "platform/qt/peer.h"
+
+namespace tallyvane {
+
+class StaticTextPeer : public Peer<QLabel, StaticText> {
+public:
+    StaticTextPeer(StaticText& text, QWidget* parent);
+
+protected:
+    void sync() override;
+};
+
+class CanvasPeer : public Peer<QWidget, Canvas> {
+public:
+    CanvasPeer(Canvas& canvas, QWidget* parent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+class PushButtonPeer : public Peer<QPushButton, PushButton> {
+public:
+    PushButtonPeer(PushButton& button, QWidget* parent);
+
+protected:
+    void sync() override;
+};
+
+class BevelButtonPeer : public Peer<QToolButton, BevelButton> {
+public:
+    BevelButtonPeer(BevelButton& button, QWidget* parent);
+
+protected:
+    void sync() override;
+};
+
+class TextAreaPeer : public Peer<QPlainTextEdit, TextArea> {
+public:
+    TextAreaPeer(TextArea& area, QWidget* parent);
+
+protected:
+    void sync() override;
+};
+
+/// Shows the frame and the tabs; what stands on the pages are neighbours of this widget, laid over it.
+class TabPanelPeer : public Peer<QTabWidget, TabPanel> {
+public:
+    TabPanelPeer(TabPanel& panel, QWidget* parent);
+
+protected:
+    void sync() override;
+};
+
+class ProgressWheelPeer : public Peer<QWidget, ProgressWheel> {
+public:
+    ProgressWheelPeer(ProgressWheel& wheel, QWidget* parent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QTimer turning_;
+    int step_ = 0;
+};
+
+/// The clockwork of a timer.
+class TimerPeer : public ControlObserver {
+public:
+    TimerPeer(Timer& timer, QObject* parent);
+    TimerPeer(const TimerPeer&) = delete;
+    TimerPeer& operator=(const TimerPeer&) = delete;
+    ~TimerPeer() override;
+
+    void controlChanged() override;
+    void controlGone() override { timer_ = nullptr; }
+
+private:
+    Timer* timer_;
+    QTimer clock_;
+};
+
+} // namespace tallyvane

@@ -1,0 +1,194 @@
+#include "platform/qt/window_peer.h"
+
+#include <QCloseEvent>
+#include <QScopedValueRollback>
+
+#include "platform/qt/calendar_peer.h"
+#include "platform/qt/event_guard.h"
+#include "platform/qt/listbox_peer.h"
+#include "platform/qt/pictures.h"
+#include "platform/qt/toolbar_peer.h"
+
+namespace tallyvane {
+
+namespace {
+
+/// Makes the peer of a control of any kind.
+struct MakePeer {
+    QWidget* parent;
+
+    WidgetPeer* operator()(StaticText* text) const { return new StaticTextPeer(*text, parent); }
+    WidgetPeer* operator()(Canvas* canvas) const { return new CanvasPeer(*canvas, parent); }
+    WidgetPeer* operator()(PushButton* button) const { return new PushButtonPeer(*button, parent); }
+    WidgetPeer* operator()(BevelButton* button) const { return new BevelButtonPeer(*button, parent); }
+    WidgetPeer* operator()(TextArea* area) const { return new TextAreaPeer(*area, parent); }
+    WidgetPeer* operator()(TabPanel* panel) const { return new TabPanelPeer(*panel, parent); }
+    WidgetPeer* operator()(CalendarControl* calendar) const { return new CalendarPeer(*calendar, parent); }
+    WidgetPeer* operator()(ProgressWheel* wheel) const { return new ProgressWheelPeer(*wheel, parent); }
+    WidgetPeer* operator()(Listbox* list) const { return new ListboxPeer(*list, parent); }
+    WidgetPeer* operator()(Timer*) const { return nullptr; } // no widget
+};
+
+bool isOnPageInFront(const Placement& placement) {
+    return placement.panel == nullptr || placement.panel->Value() == placement.page;
+}
+
+Qt::WindowFlags flagsOf(Window::Kind kind) {
+    switch (kind) {
+    case Window::Kind::splash:
+        return Qt::SplashScreen | Qt::FramelessWindowHint;
+    case Window::Kind::dialog:
+    case Window::Kind::fixed:
+        return Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
+    case Window::Kind::document:
+        break;
+    }
+    return Qt::Window;
+}
+
+} // namespace
+
+// ContentArea
+
+ContentArea::ContentArea(Window& window, QWidget* parent) : QWidget(parent), window_(&window) {
+    for (const Placement& placement : window.placements())
+        make(placement);
+    const int most = std::min(window.MaxHeight(), QWIDGETSIZE_MAX);
+    setMinimumSize(window.Width(), window.MinHeight());
+    setMaximumSize(window.Width(), most);
+    layOut();
+}
+
+void ContentArea::make(const Placement& placement) {
+    if (Timer* const* timer = std::get_if<Timer*>(&placement.control))
+        timers_.push_back(std::make_unique<TimerPeer>(**timer, this));
+    if (WidgetPeer* peer = std::visit(MakePeer{this}, placement.control))
+        children_.push_back({&placement, peer});
+    if (std::holds_alternative<TabPanel*>(placement.control))
+        connect(static_cast<TabPanelPeer*>(children_.back().peer->widget()), &QTabWidget::currentChanged, this,
+                [this] { layOut(); });
+}
+
+void ContentArea::detach() {
+    timers_.clear();
+    for (const Child& child : children_)
+        child.peer->detach();
+    window_ = nullptr;
+}
+
+void ContentArea::layOut() {
+    if (window_ == nullptr)
+        return;
+    for (const Child& child : children_) {
+        child.peer->widget()->setGeometry(toQt(window_->frameOf(*child.placement)));
+        child.peer->widget()->setVisible(child.peer->control()->Visible() && isOnPageInFront(*child.placement));
+    }
+}
+
+QSize ContentArea::sizeHint() const {
+    return window_ == nullptr ? QSize() : QSize(window_->Width(), window_->Height());
+}
+
+void ContentArea::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    layOut();
+}
+
+// WindowFrame
+
+WindowFrame::WindowFrame(Window& window, QWidget* owner, std::function<Window*()> front)
+    : QMainWindow(owner, flagsOf(window.kind())), window_(&window), content_(new ContentArea(window, this)) {
+    if (window.kind() == Window::Kind::dialog)
+        setWindowModality(Qt::WindowModal);
+    if (MenuBar* bar = window.menuBar()) {
+        menus_ = new MenuPeer(*bar, std::move(front), this);
+        setMenuBar(menus_);
+    }
+    if (Toolbar* toolbar = window.toolbar()) {
+        auto* peer = new ToolbarPeer(*toolbar, this);
+        toolbar_ = peer;
+        addToolBar(peer);
+    }
+    setCentralWidget(content_);
+    shapeFrame();
+    sync();
+}
+
+void WindowFrame::shapeFrame() {
+    const QScopedValueRollback syncing(syncing_, true);
+    ensurePolished();
+    if (window_->kind() != Window::Kind::document) {
+        setFixedSize(sizeHint());
+        return;
+    }
+    setFixedWidth(window_->Width());
+    resize(sizeHint());
+}
+
+void WindowFrame::leave() {
+    content_->detach();
+    if (toolbar_ != nullptr)
+        toolbar_->detach();
+    window_ = nullptr;
+    hide();
+    deleteLater();
+}
+
+void WindowFrame::sync() {
+    if (syncing_)
+        return;
+    const QScopedValueRollback syncing(syncing_, true);
+    setWindowTitle(toQt(window_->Title()));
+    syncGeometry();
+    setVisible(window_->Visible());
+}
+
+void WindowFrame::syncGeometry() {
+    const int grown = window_->Height() - content_->height();
+    if (isVisible() && grown != 0)
+        resize(width(), height() + grown);
+    else if (!isVisible())
+        resize(sizeHint());
+    const QPoint place(window_->Left(), window_->Top());
+    if (pos() != place)
+        move(place);
+}
+
+void WindowFrame::tellBounds() {
+    if (window_ == nullptr || syncing_ || !isVisible() || isMinimized())
+        return;
+    const Rect bounds{pos().x(), pos().y(), window_->Width(), content_->height()};
+    deliver([&] { window_->userChangedBounds(bounds); });
+}
+
+void WindowFrame::closeEvent(QCloseEvent* event) {
+    event->ignore(); // the window itself takes the frame away, unless its saving fails
+    if (window_ != nullptr)
+        deliver([this] { window_->Close(); });
+}
+
+void WindowFrame::moveEvent(QMoveEvent* event) {
+    QMainWindow::moveEvent(event);
+    tellBounds();
+}
+
+void WindowFrame::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    tellBounds();
+}
+
+void WindowFrame::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && menus_ != nullptr && window_ != nullptr)
+        menus_->refresh();
+}
+
+// QtWindowPeer
+
+void QtWindowPeer::bringToFront() {
+    frame_->showNormal();
+    frame_->raise();
+    frame_->activateWindow();
+}
+
+} // namespace tallyvane

@@ -1,0 +1,72 @@
+/// What the file layer asks of the operating system. One source a system realises it, chosen by the build.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <stdexcept>
+#include <string>
+
+namespace tallyvane {
+
+/// A write that failed after its file was opened. The file holds what it held before.
+class IOException : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+namespace SystemFiles {
+
+enum class Kind { none, file, folder, other };
+
+/// What stands at a path. A link is what it leads to.
+Kind kindOf(const std::string& path);
+
+/// Makes a folder that only its owner can enter. False when it could not be made.
+[[nodiscard]] bool makeFolder(const std::string& path);
+
+/// The whole content of a file; nothing for what is no plain file or can't be read.
+[[nodiscard]] std::optional<std::string> read(const std::string& path);
+
+/// A file that is open to be replaced in place: same inode, no second file. It may be open while the new text is
+/// still being made; nothing in the file changes before `replace`.
+class Replacement {
+public:
+    /// Opens the file, and makes one for its owner alone where there is none. Nil for what is no plain file or
+    /// can't be opened for writing.
+    [[nodiscard]] static std::unique_ptr<Replacement> open(const std::string& path);
+
+    Replacement(const Replacement&) = delete;
+    Replacement& operator=(const Replacement&) = delete;
+    /// Closes the file; one that was made by `open` and not replaced goes again.
+    ~Replacement();
+
+    /// Makes `text` the content of the file and sees it to the disk. Only the range that differs is written, after
+    /// room for it was reserved. Throws IOException, with the old content back in place, when any step fails.
+    void replace(const std::string& text);
+
+private:
+    Replacement(int file, std::string path, bool made);
+
+    int file_;
+    std::string path_;
+    bool made_;
+};
+
+/// Holds a folder for this program as long as it lives. Ends with the process, however that ends.
+class FolderClaim {
+public:
+    /// Nil when another process holds the folder. Where the folder's disk knows no claims, it is given to everyone.
+    [[nodiscard]] static std::unique_ptr<FolderClaim> take(const std::string& path);
+
+    FolderClaim(const FolderClaim&) = delete;
+    FolderClaim& operator=(const FolderClaim&) = delete;
+    ~FolderClaim();
+
+private:
+    explicit FolderClaim(int file);
+
+    int file_;
+};
+
+} // namespace SystemFiles
+} // namespace tallyvane

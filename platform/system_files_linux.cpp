@@ -1,0 +1,201 @@
+#include "platform/system_files.h"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace tallyvane::SystemFiles {
+
+namespace {
+
+constexpr mode_t ownerOnlyFile = S_IRUSR | S_IWUSR;
+constexpr mode_t ownerOnlyFolder = S_IRWXU;
+
+bool hasNul(const std::string& path) { return path.find('\0') != std::string::npos; }
+
+bool isPlainFile(int file) {
+    struct stat status {};
+    return ::fstat(file, &status) == 0 && S_ISREG(status.st_mode);
+}
+
+/// Opens a plain file; -1 otherwise. O_NONBLOCK keeps a pipe of that name from holding the program up.
+int openPlain(const std::string& path, int flags) {
+    if (hasNul(path))
+        return -1;
+    const int file = ::open(path.c_str(), flags | O_CLOEXEC | O_NONBLOCK, ownerOnlyFile);
+    if (file < 0 || isPlainFile(file))
+        return file;
+    ::close(file);
+    return -1;
+}
+
+std::optional<std::string> readAll(int file) {
+    struct stat status {};
+    if (::fstat(file, &status) != 0)
+        return std::nullopt;
+    std::string content(static_cast<std::size_t>(status.st_size), '\0');
+    std::size_t done = 0;
+    for (;;) {
+        if (done == content.size())
+            content.resize(done + 4096); // also sees the end of a file that has grown since
+        const ssize_t got =
+            ::pread(file, content.data() + done, content.size() - done, static_cast<off_t>(done));
+        if (got < 0 && errno == EINTR)
+            continue;
+        if (got < 0)
+            return std::nullopt;
+        if (got == 0)
+            break;
+        done += static_cast<std::size_t>(got);
+    }
+    content.resize(done);
+    return content;
+}
+
+bool writeAt(int file, std::string_view bytes, std::size_t place) {
+    while (!bytes.empty()) {
+        const ssize_t written = ::pwrite(file, bytes.data(), bytes.size(), static_cast<off_t>(place));
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written <= 0)
+            return false;
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+        place += static_cast<std::size_t>(written);
+    }
+    return true;
+}
+
+bool cutAt(int file, std::size_t size) {
+    int result = 0;
+    do
+        result = ::ftruncate(file, static_cast<off_t>(size));
+    while (result != 0 && errno == EINTR);
+    return result == 0;
+}
+
+bool flush(int file) {
+    int result = 0;
+    do
+        result = ::fsync(file);
+    while (result != 0 && errno == EINTR);
+    return result == 0;
+}
+
+/// Reserves room up to `size` bytes without changing the file's length. True also where the disk can't reserve.
+bool reserve(int file, std::size_t size) {
+    int result = 0;
+    do
+        result = ::fallocate(file, FALLOC_FL_KEEP_SIZE, 0, static_cast<off_t>(size));
+    while (result != 0 && errno == EINTR);
+    return result == 0 || errno == EOPNOTSUPP || errno == ENOSYS;
+}
+
+/// The range in which two contents differ, as places in the newer one.
+struct Difference {
+    std::size_t begin = 0;
+    std::size_t end = 0;
+};
+
+Difference differenceOf(const std::string& before, const std::string& after) {
+    const auto [differs, unused] = std::mismatch(before.begin(), before.end(), after.begin(), after.end());
+    Difference range{static_cast<std::size_t>(differs - before.begin()), after.size()};
+    if (before.size() == after.size())
+        while (range.end > range.begin && before[range.end - 1] == after[range.end - 1])
+            --range.end;
+    return range;
+}
+
+/// Turns the file from one content into another and sees it to the disk.
+bool overwrite(int file, const std::string& before, const std::string& after) {
+    const Difference range = differenceOf(before, after);
+    const std::string_view changed = std::string_view(after).substr(range.begin, range.end - range.begin);
+    return writeAt(file, changed, range.begin) && (after.size() >= before.size() || cutAt(file, after.size())) &&
+           flush(file);
+}
+
+/// Puts a content back after a failed overwrite, whatever that left. As much as a failing disk lets it.
+void restore(int file, const std::string& content) {
+    const bool back = writeAt(file, content, 0);
+    const bool cut = cutAt(file, content.size());
+    const bool flushed = flush(file);
+    static_cast<void>(back && cut && flushed); // the caller already reports the failure
+}
+
+} // namespace
+
+Kind kindOf(const std::string& path) {
+    struct stat status {};
+    if (hasNul(path) || ::stat(path.c_str(), &status) != 0)
+        return Kind::none;
+    if (S_ISREG(status.st_mode))
+        return Kind::file;
+    return S_ISDIR(status.st_mode) ? Kind::folder : Kind::other;
+}
+
+bool makeFolder(const std::string& path) { return !hasNul(path) && ::mkdir(path.c_str(), ownerOnlyFolder) == 0; }
+
+std::optional<std::string> read(const std::string& path) {
+    const int file = openPlain(path, O_RDONLY);
+    if (file < 0)
+        return std::nullopt;
+    std::optional<std::string> content = readAll(file);
+    ::close(file);
+    return content;
+}
+
+Replacement::Replacement(int file, std::string path, bool made) : file_(file), path_(std::move(path)), made_(made) {}
+
+std::unique_ptr<Replacement> Replacement::open(const std::string& path) {
+    const bool made = kindOf(path) == Kind::none;
+    const int file = openPlain(path, O_RDWR | O_CREAT);
+    if (file < 0)
+        return nullptr;
+    return std::unique_ptr<Replacement>(new Replacement(file, path, made));
+}
+
+Replacement::~Replacement() {
+    if (made_)
+        ::unlink(path_.c_str());
+    if (file_ >= 0)
+        ::close(file_);
+}
+
+void Replacement::replace(const std::string& text) {
+    const std::optional<std::string> before = readAll(file_);
+    if (!before)
+        throw IOException("can't read the file that is to be replaced: " + path_);
+    if (text.size() > before->size() && !reserve(file_, text.size())) {
+        const bool released = cutAt(file_, before->size());
+        throw IOException((released ? "no room for " : "no room, and none given back, for ") + path_);
+    }
+    if (!overwrite(file_, *before, text)) {
+        restore(file_, *before);
+        throw IOException("can't write " + path_);
+    }
+    made_ = false;
+    if (::close(std::exchange(file_, -1)) != 0)
+        throw IOException("can't close " + path_);
+}
+
+FolderClaim::FolderClaim(int file) : file_(file) {}
+
+std::unique_ptr<FolderClaim> FolderClaim::take(const std::string& path) {
+    const int folder = ::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (folder >= 0 && ::flock(folder, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
+        ::close(folder);
+        return nullptr;
+    }
+    return std::unique_ptr<FolderClaim>(new FolderClaim(folder));
+}
+
+FolderClaim::~FolderClaim() {
+    if (file_ >= 0)
+        ::close(file_);
+}
+
+} // namespace tallyvane::SystemFiles

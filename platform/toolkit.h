@@ -1,0 +1,47 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "platform/window.h"
+
+namespace tallyvane {
+
+/// What the program asks of the desktop that it runs on. One is in force at a time; with none, windows work unseen
+/// and messages go nowhere.
+class Toolkit {
+public:
+    Toolkit() = default;
+    Toolkit(const Toolkit&) = delete;
+    Toolkit& operator=(const Toolkit&) = delete;
+    virtual ~Toolkit() = default;
+
+    /// The peers of the window and of the controls in its table; the window owns the result.
+    virtual std::unique_ptr<WindowPeer> show(Window& window) = 0;
+    /// The bounds that a new window gets: its size, in the middle of its owner or of the screen.
+    virtual Rect placeFor(const Window& window) = 0;
+    /// A modal message with one button; returns when the user has pressed it.
+    virtual void message(const std::string& text) = 0;
+    virtual void beep() = 0;
+    /// Hands an address to the desktop's default program for it.
+    virtual void openUrl(const std::string& address) = 0;
+    /// Ends the event loop with that exit code.
+    virtual void quit(int code) = 0;
+
+    /// Nil when there is none.
+    static Toolkit* inForce();
+    /// The caller keeps the toolkit and takes it out of force before it goes.
+    static void putInForce(Toolkit* toolkit);
+};
+
+/// A modal message with one button.
+void MsgBox(const std::string& text);
+/// The system sound.
+void Beep();
+/// Hands a "http:", "https:" or "mailto:" address to the desktop; any other text goes nowhere.
+void ShowURL(const std::string& address);
+/// Closes every window that is still open and ends the program.
+void Quit(int code);
+
+} // namespace tallyvane

@@ -1,0 +1,149 @@
+#include "platform/window.h"
+
+#include <algorithm>
+
+#include "platform/toolkit.h"
+
+namespace tallyvane {
+
+namespace {
+
+std::vector<Window*>& registry() {
+    static std::vector<Window*> windows;
+    return windows;
+}
+
+/// Raises a control's Open event, if it has one and someone set it.
+struct RaiseOpen {
+    void operator()(Listbox* list) const { raise(list->Open); }
+    void operator()(CalendarControl* calendar) const { raise(calendar->Open); }
+    template <class Other>
+    void operator()(Other*) const {}
+
+    static void raise(const std::function<void()>& event) {
+        if (event)
+            event();
+    }
+};
+
+/// Holds a flag up for as long as it lives, however its block ends.
+class WhileTrue {
+public:
+    explicit WhileTrue(bool& flag) : flag_(flag) { flag_ = true; }
+    WhileTrue(const WhileTrue&) = delete;
+    WhileTrue& operator=(const WhileTrue&) = delete;
+    ~WhileTrue() { flag_ = false; }
+
+private:
+    bool& flag_;
+};
+
+} // namespace
+
+const std::vector<Window*>& Window::openWindows() { return registry(); }
+
+Window::~Window() { std::erase(registry(), this); }
+
+void Window::shape(Kind kind, int width, int height, int minHeight, int maxHeight) {
+    kind_ = kind;
+    createdHeight_ = height;
+    minHeight_ = minHeight;
+    maxHeight_ = maxHeight;
+    bounds_ = {0, 0, width, height};
+}
+
+void Window::carry(MenuBar* menuBar, Toolbar* toolbar) {
+    menuBar_ = menuBar;
+    toolbar_ = toolbar;
+}
+
+void Window::Title(std::string value) {
+    title_ = std::move(value);
+    changed();
+}
+
+void Window::Visible(bool value) {
+    visible_ = value;
+    changed();
+}
+
+void Window::bounds(Rect value) {
+    value.width = bounds_.width;
+    value.height = std::clamp(value.height, minHeight_, maxHeight_);
+    if (value == bounds_)
+        return;
+    bounds_ = value;
+    changed();
+}
+
+void Window::userChangedBounds(const Rect& bounds) {
+    const Rect before = std::exchange(bounds_, bounds);
+    if (before.left != bounds.left || before.top != bounds.top)
+        Event_Moved();
+    if (before.width != bounds.width || before.height != bounds.height)
+        Event_Resized();
+}
+
+void Window::changed() {
+    if (peer_)
+        peer_->windowChanged();
+}
+
+Rect Window::frameOf(const Placement& placement) const {
+    Rect frame = placement.frame;
+    const int grown = bounds_.height - createdHeight_;
+    if ((placement.locks & lockBottom) == 0)
+        return frame;
+    if ((placement.locks & lockTop) != 0)
+        frame.height += grown;
+    else
+        frame.top += grown;
+    return frame;
+}
+
+void Window::raiseControlsOpen() {
+    for (const Placement& placement : placements_)
+        std::visit(RaiseOpen(), placement.control);
+}
+
+void Window::Refresh() {
+    for (const Placement& placement : placements_)
+        if (!std::holds_alternative<Timer*>(placement.control)) // nothing to paint, and it would count anew
+            std::visit([](Control* control) { control->Refresh(); }, placement.control);
+}
+
+void Window::Open() {
+    if (open_)
+        return;
+    open_ = true;
+    registry().push_back(this);
+    Toolkit* toolkit = Toolkit::inForce();
+    if (toolkit != nullptr)
+        bounds_ = toolkit->placeFor(*this);
+    raiseControlsOpen();
+    Event_Open();
+    if (toolkit != nullptr)
+        peer_ = toolkit->show(*this);
+}
+
+void Window::Show() {
+    Open();
+    Visible(true);
+    if (peer_)
+        peer_->bringToFront();
+}
+
+void Window::Close() {
+    if (!open_ || closing_)
+        return;
+    {
+        const WhileTrue closing(closing_); // Quit, called from Event_Close, passes this window over
+        Event_Close();
+    }
+    open_ = false;
+    visible_ = false;
+    std::erase(registry(), this);
+    peer_.reset();
+}
+
+} // namespace tallyvane

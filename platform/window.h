@@ -1,0 +1,143 @@
+#pragma once
+
+#include <initializer_list>
+#include <memory>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "platform/controls.h"
+#include "platform/geometry.h"
+#include "platform/listbox.h"
+#include "platform/menus.h"
+
+namespace tallyvane {
+
+class Window;
+
+/// Shows a window on a screen.
+class WindowPeer {
+public:
+    virtual ~WindowPeer() = default;
+    /// Title, visibility or geometry have new values.
+    virtual void windowChanged() = 0;
+    /// Brings the window before all others and gives it the focus.
+    virtual void bringToFront() = 0;
+};
+
+/// Which edges of a control keep their distance from the same edge of the window.
+enum Lock : unsigned { lockLeft = 1, lockTop = 2, lockRight = 4, lockBottom = 8 };
+
+/// A line of a window's table of controls: what, where, and how it follows the window's size.
+struct Placement {
+    using AnyControl = std::variant<StaticText*, Canvas*, PushButton*, BevelButton*, TextArea*, TabPanel*,
+                                    CalendarControl*, ProgressWheel*, Listbox*, Timer*>;
+
+    AnyControl control;
+    /// In the window as it is created. Timers have none.
+    Rect frame = {};
+    unsigned locks = lockLeft | lockTop;
+    /// The tab panel and the page that the control stands on; nil for the window itself.
+    TabPanel* panel = nullptr;
+    int page = 0;
+};
+
+/// What all windows have in common. A window of the program derives from it, owns its controls as members and
+/// declares them in one table. It shows itself by the toolkit in force; without one it works unseen.
+class Window {
+public:
+    enum class Kind {
+        document, // resizable as far as the limits let it
+        fixed,
+        dialog,   // fixed, and modal to the window that was in front
+        splash,   // fixed, without title and close button
+    };
+
+    Window() = default;
+    Window(const Window&) = delete;
+    Window& operator=(const Window&) = delete;
+    virtual ~Window();
+
+    Kind kind() const { return kind_; }
+    const std::string& Title() const { return title_; }
+    void Title(std::string value);
+    bool Visible() const { return visible_; }
+    void Visible(bool value);
+
+    /// Place and size of the content, in points of the screen. The limits win over what is set.
+    int Left() const { return bounds_.left; }
+    int Top() const { return bounds_.top; }
+    int Width() const { return bounds_.width; }
+    int Height() const { return bounds_.height; }
+    void Left(int value) { bounds({value, Top(), Width(), Height()}); }
+    void Top(int value) { bounds({Left(), value, Width(), Height()}); }
+    void Width(int value) { bounds({Left(), Top(), value, Height()}); }
+    void Height(int value) { bounds({Left(), Top(), Width(), value}); }
+    int MinHeight() const { return minHeight_; }
+    int MaxHeight() const { return maxHeight_; }
+
+    /// Brings the window into being, unseen: the open events of its controls, its own, then its peer.
+    void Open();
+    bool isOpen() const { return open_; }
+    /// Brings it into being if need be, and to the front.
+    void Show();
+    /// Raises Event_Close and takes the window away. An exception of the event leaves it open.
+    void Close();
+
+    /// Paints the window and all its controls anew.
+    void Refresh();
+
+    virtual void Event_Open() {}
+    virtual void Event_Close() {}
+    virtual void Event_EnableMenuItems(MenuBar& /*menuBar*/) {}
+    virtual void Event_Resized() {}
+    virtual void Event_Moved() {}
+
+    /// The user has moved or resized the window: the peer's news.
+    void userChangedBounds(const Rect& bounds);
+
+    const std::vector<Placement>& placements() const { return placements_; }
+    /// Where a control of the table stands now.
+    Rect frameOf(const Placement& placement) const;
+    /// The menu bar and the toolbar that the window carries; nil for none.
+    MenuBar* menuBar() const { return menuBar_; }
+    Toolbar* toolbar() const { return toolbar_; }
+    /// The window that this one is modal to or belongs to; nil for none.
+    Window* owner() const { return owner_; }
+
+    /// Answers to menu items that hold while this window is in front.
+    MenuHandlers menuHandlers;
+
+    /// All windows that are open, in the order of their opening.
+    static const std::vector<Window*>& openWindows();
+
+protected:
+    /// Size at creation. The width never changes; the height stays between the limits.
+    void shape(Kind kind, int width, int height, int minHeight, int maxHeight);
+    void shape(Kind kind, int width, int height) { shape(kind, width, height, height, height); }
+    void place(std::initializer_list<Placement> placements) { placements_ = placements; }
+    void carry(MenuBar* menuBar, Toolbar* toolbar);
+    void belongTo(Window* owner) { owner_ = owner; }
+
+private:
+    void bounds(Rect value);
+    void changed();
+    void raiseControlsOpen();
+
+    Kind kind_ = Kind::fixed;
+    std::string title_;
+    bool visible_ = false;
+    bool open_ = false;
+    bool closing_ = false;
+    Rect bounds_;
+    int createdHeight_ = 0;
+    int minHeight_ = 0;
+    int maxHeight_ = 0;
+    std::vector<Placement> placements_;
+    MenuBar* menuBar_ = nullptr;
+    Toolbar* toolbar_ = nullptr;
+    Window* owner_ = nullptr;
+    std::unique_ptr<WindowPeer> peer_;
+};
+
+} // namespace tallyvane

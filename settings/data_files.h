@@ -1,0 +1,35 @@
+/// Where every file of the user lives, and how its fields are joined. Nothing is quoted or escaped in any of them.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "platform/folder_item.h"
+
+namespace tallyvane::DataFiles {
+
+/// Between the fields of a line.
+inline constexpr std::string_view fieldSeparator = "@#@";
+/// A line end inside a field.
+inline constexpr std::string_view lineEndMark = "$%$";
+
+/// The application's own folder in the desktop's folder for application data. Nil where the desktop has none.
+std::optional<FolderItem> applicationFolder();
+/// A file of the application's folder; nil when that folder does not exist.
+std::optional<FolderItem> applicationFile(std::string_view name);
+/// The same, with the folder made first where it is missing.
+std::optional<FolderItem> applicationFileToWrite(std::string_view name);
+/// A stream on a file that may be nil, missing or unreadable; all three give nil.
+std::optional<TextInputStream> openText(const std::optional<FolderItem>& file);
+/// A stream that replaces a file; nil for a nil file and for one that can't be opened.
+std::optional<TextOutputStream> createText(const std::optional<FolderItem>& file);
+
+inline constexpr std::string_view applicationName = "Tallyvane";
+inline constexpr std::string_view dayTable = "7VXData"; // in the data folder; all others in the application's folder
+inline constexpr std::string_view preferences = "Brindlemarks Preferences";
+inline constexpr std::string_view headings = "7VXHeadings";
+inline constexpr std::string_view runningLogs = "QVXLogData";
+inline constexpr std::string_view journal = "Tallyvane Journal";
+inline constexpr std::string_view windowData = "QVXWindowData";
+
+} // namespace tallyvane::DataFiles

@@ -1,0 +1,50 @@
+/// The settings and running texts that all rooms read directly.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "platform/folder_item.h"
+
+namespace tallyvane {
+
+namespace Globals {
+
+/// Personal limits, in the unit of the readings (mmol/L or mg/dL): the lower bounds of the ranges over, caution,
+/// in zone and low. Nothing keeps them in order.
+extern double gOver;
+extern double gCaution;
+extern double gLow;
+extern double gUnder;
+/// Whether values show the light of their range.
+extern bool gShowIndicators;
+
+/// What a report says of a day besides its readings.
+extern bool gIncludeMeds;
+extern bool gIncludeExercise;
+extern bool gIncludeFood;
+
+/// The running logs. The journal has real line ends; the others keep their stored form, with "$%$" for a line end,
+/// until the logs window has opened them.
+extern std::string gExercise;
+extern std::string gFood;
+extern std::string gJournal;
+extern std::string gMedication;
+
+/// The resources window is open, as the window itself keeps it.
+extern bool gFileWindowOpen;
+/// The toolbar has shown the resources window.
+extern bool gFilesOpen;
+
+} // namespace Globals
+
+namespace StartupGlobals {
+
+/// The folder that holds the day table; nil until it is settled at start.
+extern std::optional<FolderItem> gDataFolder;
+/// The data folder that the preferences name but that is not there; "" normally.
+extern std::string gMissingDataFolder;
+
+} // namespace StartupGlobals
+
+} // namespace tallyvane

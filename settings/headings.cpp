@@ -1,0 +1,23 @@
+#include "settings/headings.h"
+
+#include "settings/data_files.h"
+
+namespace tallyvane {
+
+const Headings& defaultHeadings() {
+    static const Headings headings{"Breakfast", "Lunch", "Supper", "Weight",     "Before",  "After", "Before",
+                                   "After",     "Before", "After", "Before Bed", "Average", "Weight"};
+    return headings;
+}
+
+std::optional<Headings> readHeadings() {
+    std::optional<TextInputStream> stream = DataFiles::openText(DataFiles::applicationFile(DataFiles::headings));
+    if (!stream)
+        return std::nullopt;
+    Headings headings;
+    for (std::string& heading : headings)
+        heading = stream->ReadLine();
+    return headings;
+}
+
+} // namespace tallyvane

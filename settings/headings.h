@@ -1,0 +1,18 @@
+/// The user's names for the meal groups and the columns of the day table.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+
+namespace tallyvane {
+
+/// Breakfast, lunch, supper and weight over the groups, then the columns 1 to 9.
+inline constexpr std::size_t headingGroups = 4;
+using Headings = std::array<std::string, 13>;
+
+const Headings& defaultHeadings();
+/// The headings as they were saved; a file that is too short gives empty ones for the rest. Nothing without a file.
+[[nodiscard]] std::optional<Headings> readHeadings();
+
+} // namespace tallyvane

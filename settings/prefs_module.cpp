@@ -1,0 +1,96 @@
+#include "settings/prefs_module.h"
+
+#include "platform/number.h"
+#include "platform/text.h"
+#include "settings/data_files.h"
+#include "settings/globals.h"
+
+namespace tallyvane::PrefsModule {
+
+std::string gDataLocation;
+std::function<void()> bringUpMainWindow;
+
+namespace {
+
+constexpr std::string_view defaultLocation = "ApplicationSupport";
+
+bool isTrue(std::string_view line) { return compareTexts(line, "true") == 0; }
+
+std::string_view truth(bool value) { return value ? "true" : "false"; }
+
+/// Where the preferences are looked for: the application's folder, and the user's synchronised folder where the
+/// desktop gives no place for the first. Nil when neither can be had.
+std::optional<FolderItem> preferencesFile() {
+    if (std::optional<FolderItem> file = DataFiles::applicationFile(DataFiles::preferences))
+        return file;
+    std::optional<FolderItem> folder = SpecialFolder::UserHome;
+    for (const std::string_view name : {std::string_view("Dropbox"), DataFiles::applicationName})
+        folder = folder ? folder->Child(name) : std::nullopt;
+    return folder ? folder->Child(DataFiles::preferences) : std::nullopt;
+}
+
+void useDefaultFolder() {
+    StartupGlobals::gDataFolder = DataFiles::applicationFolder();
+    gDataLocation = defaultLocation;
+}
+
+/// Takes the folder that the preferences name; an empty path names the application's folder.
+void settleDataFolder(std::string_view path) {
+    StartupGlobals::gDataFolder = path.empty() ? DataFiles::applicationFolder() : GetFolderItem(path, 0);
+    if (StartupGlobals::gDataFolder && StartupGlobals::gDataFolder->Directory())
+        return;
+    StartupGlobals::gMissingDataFolder = path;
+    StartupGlobals::gDataFolder = DataFiles::applicationFolder();
+}
+
+void turnOn(bool& global, std::string_view line) {
+    if (isTrue(line))
+        global = true;
+}
+
+void read(TextInputStream& stream) {
+    Globals::gShowIndicators = isTrue(stream.ReadLine());
+    Globals::gOver = Val(stream.ReadLine());
+    Globals::gCaution = Val(stream.ReadLine());
+    Globals::gLow = Val(stream.ReadLine());
+    Globals::gUnder = Val(stream.ReadLine());
+    turnOn(Globals::gIncludeMeds, stream.ReadLine());
+    turnOn(Globals::gIncludeExercise, stream.ReadLine());
+    turnOn(Globals::gIncludeFood, stream.ReadLine());
+    settleDataFolder(stream.ReadLine());
+    const std::string_view location = stream.ReadLine();
+    gDataLocation = location.empty() ? defaultLocation : location;
+}
+
+} // namespace
+
+void getPrefs() {
+    if (const std::optional<FolderItem> file = preferencesFile()) {
+        if (std::optional<TextInputStream> stream = DataFiles::openText(file))
+            read(*stream);
+        else
+            useDefaultFolder();
+    }
+    if (bringUpMainWindow)
+        bringUpMainWindow();
+}
+
+void savePrefs() {
+    const std::optional<FolderItem>& folder = StartupGlobals::gDataFolder;
+    std::optional<TextOutputStream> stream =
+        DataFiles::createText(folder ? folder->Child(DataFiles::preferences) : std::nullopt);
+    if (!stream)
+        return;
+    if (gDataLocation.empty())
+        gDataLocation = defaultLocation;
+    stream->WriteLine(truth(Globals::gShowIndicators));
+    for (const double limit : {Globals::gOver, Globals::gCaution, Globals::gLow, Globals::gUnder})
+        stream->WriteLine(Str(limit));
+    for (const bool included : {Globals::gIncludeMeds, Globals::gIncludeExercise, Globals::gIncludeFood})
+        stream->WriteLine(truth(included));
+    stream->WriteLine(folder->AbsolutePath());
+    stream->WriteLine(gDataLocation);
+    stream->Close();
+}
+
+} // namespace tallyvane::PrefsModule

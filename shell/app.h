@@ -1,0 +1,70 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "diary/window1.h"
+#include "platform/folder_item.h"
+#include "platform/menus.h"
+#include "platform/system_files.h"
+#include "shell/about_window.h"
+#include "shell/splash_window.h"
+#include "shell/toolbar1.h"
+
+namespace tallyvane {
+
+/// The main window, kept for the splash window; nil until it is there.
+namespace StartUpManager {
+extern Window1* primaryWindow;
+}
+
+/// The application: the order of start and end, the menu items that hold for every window, and the one catch-all.
+class App {
+public:
+    App();
+    App(const App&) = delete;
+    App& operator=(const App&) = delete;
+    ~App();
+
+    /// What a second start does instead of starting: it asks the running program to come to the front.
+    std::function<void()> wakeRunningProgram;
+
+    void Event_Open();
+    void Event_Close();
+    void Event_Deactivate();
+    /// Shows the message of last resort. False: the exception counts as not handled.
+    bool Event_UnhandledException();
+
+    void HelpUsersGuide_Action();
+    void HelpSupportForum_Action();
+    void FileAboutBrindlemarks_Action();
+    void FileQuit_Action();
+
+    /// Runs an event to its end, or to the catch-all. Every event of the program comes this way.
+    void run(const std::function<void()>& event);
+    /// Brings the main window, or the splash window while that is up, before all others.
+    void comeToFront();
+
+    /// Nil before Event_Open, and in a second start.
+    Window1* window1() { return window1_.get(); }
+    SplashWindow* splashWindow() { return splash_.get(); }
+    AboutWindow* aboutWindow() { return about_.get(); }
+    MenuBar menuBar;
+
+private:
+    bool claim(const std::optional<FolderItem>& folder);
+    void bringUpMainWindow();
+    void showMainWindow();
+    void tellMissingDataFolder();
+    void giveWay();
+    void enableToolbar();
+
+    Toolbar1 toolbar_;
+    std::vector<std::unique_ptr<SystemFiles::FolderClaim>> claims_;
+    std::unique_ptr<Window1> window1_;
+    std::unique_ptr<SplashWindow> splash_;
+    std::unique_ptr<AboutWindow> about_;
+};
+
+} // namespace tallyvane

@@ -1,0 +1,19 @@
+#include "platform/qt/program.h"
+#include "shell/app.h"
+
+using namespace tallyvane;
+
+/// Joins the application and the toolkit, and runs until the main window is closed.
+int main(int argc, char** argv) {
+    QtProgram program(argc, argv);
+    App app;
+    program.guard = [&app](const std::function<void()>& event) { app.run(event); };
+    program.onDeactivate = [&app] { app.Event_Deactivate(); };
+    program.onEndRequested = [&app] { app.FileQuit_Action(); };
+    program.onWake = [&app] { app.comeToFront(); };
+    app.wakeRunningProgram = [&program] { program.wakeRunningProgram(); };
+
+    const int code = program.run([&app] { app.Event_Open(); });
+    app.run([&app] { app.Event_Close(); });
+    return code;
+}

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "platform/menus.h"
+
+namespace tallyvane {
+
+/// The menu bar of the program.
+MenuBar MenuBar1();
+
+} // namespace tallyvane

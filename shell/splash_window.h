@@ -1,0 +1,30 @@
+#pragma once
+
+#include <functional>
+
+#include "platform/window.h"
+
+namespace tallyvane {
+
+/// Shows for one second at start, then hands over to the main window.
+class SplashWindow : public Window {
+public:
+    SplashWindow();
+
+    Canvas Canvas1; // the logo
+    StaticText AppNameLabel;
+    StaticText StaticText1;  // credit
+    StaticText StaticText11; // what is going on
+    ProgressWheel ProgressWheel1;
+    Timer Timer1;
+
+    /// Starts the version check in the background; without one the window does not speak of it.
+    std::function<void()> doVersionCheck;
+    /// What the end of the second brings.
+    std::function<void()> showPrimaryWindow;
+
+    void Event_Open() override;
+    void Timer1_Action();
+};
+
+} // namespace tallyvane

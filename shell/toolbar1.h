@@ -1,0 +1,15 @@
+#pragma once
+
+#include <vector>
+
+#include "platform/menus.h"
+
+namespace tallyvane {
+
+/// The buttons of the main window's toolbar.
+class Toolbar1 : public Toolbar {
+public:
+    Toolbar1();
+};
+
+} // namespace tallyvane
