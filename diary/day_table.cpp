@@ -26,7 +26,6 @@ void setUp(Listbox& table) {
 }
 
 std::string columnWidths(int rows, int listHeight) {
-    constexpr int rowHeight = 15;
     const bool overflow = (rows + 1) * rowHeight > listHeight; // the headings take the place of a row
     return overflow ? "82,72,72,72,72,72,72,72,72,72" : "82,72,72,72,72,72,72,72,72,87";
 }

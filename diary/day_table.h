@@ -20,6 +20,9 @@ inline constexpr int firstKey = 10;
 inline constexpr int savedColumns = 11;
 inline constexpr int columnCount = 20;
 
+/// Points.
+inline constexpr int rowHeight = 15;
+
 /// Column types and alignments.
 void setUp(Listbox& table);
 

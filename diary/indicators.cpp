@@ -21,7 +21,7 @@ struct Light {
 };
 
 const Light& lightOf(Range range) {
-    static constexpr std::array<Light, 5> lights{
+    static const std::array<Light, 5> lights{
         {{over2, 3, 2}, {caution2, 2, 2}, {zone2, 3, 2}, {low3, 2, 2}, {under3, 3, 2}}};
     return lights.at(static_cast<std::size_t>(range));
 }

@@ -9,11 +9,11 @@ namespace tallyvane::Indicators {
 
 enum class Range { over, caution, inZone, low, under };
 
-inline constexpr Picture over2{"over2.tiff"};
-inline constexpr Picture caution2{"caution2.tiff"};
-inline constexpr Picture zone2{"zone2.tiff"};
-inline constexpr Picture low3{"low3.tiff"};
-inline constexpr Picture under3{"under3.tiff"};
+inline const Picture over2{"over2.tiff"};
+inline const Picture caution2{"caution2.tiff"};
+inline const Picture zone2{"zone2.tiff"};
+inline const Picture low3{"low3.tiff"};
+inline const Picture under3{"under3.tiff"};
 
 /// Text of the averages and of the weights, in the table and in the strip below it.
 inline constexpr Color averageColor = RGB(148, 9, 16);

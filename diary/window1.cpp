@@ -1,5 +1,7 @@
 #include "diary/window1.h"
 
+#include <exception>
+
 #include "diary/cell_navigation.h"
 #include "diary/date_window.h"
 #include "diary/day_table.h"
@@ -8,6 +10,7 @@
 #include "diary/sort_keys.h"
 #include "diary/window_data.h"
 #include "platform/number.h"
+#include "platform/system_files.h"
 #include "platform/toolkit.h"
 #include "settings/globals.h"
 
@@ -31,9 +34,16 @@ void Window1::Event_Open() {
 }
 
 void Window1::Event_Close() {
-    saveData();
-    saveLogs();
-    saveWindowData();
+    std::exception_ptr failure;
+    for (const auto save : {&Window1::saveData, &Window1::saveLogs, &Window1::saveWindowData}) {
+        try {
+            (this->*save)();
+        } catch (const IOException&) { // what fails one file must not cost the others
+            failure = failure ? failure : std::current_exception();
+        }
+    }
+    if (failure)
+        std::rethrow_exception(failure);
     Quit(0);
 }
 

@@ -99,7 +99,7 @@ void Window1::build() {
         label->TextColor(white);
         label->Bold(true);
     }
-    ListBox1.DefaultRowHeight(15);
+    ListBox1.DefaultRowHeight(DayTable::rowHeight);
     ListBox1.SelectionType(Listbox::SelectionTypes::multiple);
     ListBox1.AccessibleName("Days");
     ListBox1.Heading(DayTable::dateColumn, "Date");

@@ -1,7 +1,6 @@
 #include "platform/date.h"
 
-#include <array>
-#include <cstdlib>
+#include <algorithm>
 #include <ctime>
 #include <vector>
 

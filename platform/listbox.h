@@ -91,11 +91,12 @@ public:
     /// The open cell's place; -1 when none is open.
     int openRow() const { return openRow_; }
     int openColumn() const { return openColumn_; }
-    /// The user has typed in the open cell: the cell takes the text at once, then CellTextChange is raised.
+    /// The user has typed in the open cell: the cell takes the text at once, in one line, then CellTextChange is raised.
     void userTyped(std::string text, int selStart, int selLength);
     /// Ends the editing; the cell keeps what was typed.
     void closeCell();
-    /// Ends the editing and puts the text back as it was when the cell was opened, with CellTextChange if it differs.
+    /// Ends the editing and puts the text back as it was when the cell was opened, and with it the other cells of the
+    /// row, which may have followed what was typed. CellTextChange if anything was typed.
     void revertCell();
 
     // Sorting
@@ -163,7 +164,7 @@ private:
     TextField activeCell_;
     int openRow_ = -1;
     int openColumn_ = -1;
-    std::string textAtOpening_;
+    std::vector<std::string> cellsBeforeTyping_; // of the open cell's row; empty until the first key
     ListboxObserver* list_ = nullptr;
 };
 

@@ -3,15 +3,27 @@
 
 namespace tallyvane {
 
+namespace {
+
+/// A cell holds no line end. One behind a pasted text, as spreadsheets leave it, goes; others become blanks.
+std::string inOneLine(std::string_view text) {
+    const std::size_t end = text.find_last_not_of("\r\n");
+    return ReplaceLineEndings(text.substr(0, end + 1), " ");
+}
+
+} // namespace
+
 void Listbox::EditCell(int row, int column) {
-    if (!contains(row, column) || (row == openRow_ && column == openColumn_))
+    if (!contains(row, column))
+        return;
+    ListIndex(row);
+    if (row == openRow_ && column == openColumn_)
         return;
     closeCell();
-    ListIndex(row);
     openRow_ = row;
     openColumn_ = column;
-    textAtOpening_ = Cell(row, column);
-    activeCell_.userChanged(textAtOpening_, 0, Len(textAtOpening_));
+    cellsBeforeTyping_.clear();
+    activeCell_.userChanged(Cell(row, column), 0, Len(Cell(row, column)));
     if (list_ != nullptr)
         list_->openCellChanged();
 }
@@ -21,8 +33,12 @@ void Listbox::userTyped(std::string text, int selStart, int selLength) {
         return;
     const int row = openRow_;
     const int column = openColumn_;
-    write(row, column, text);
+    if (cellsBeforeTyping_.empty())
+        cellsBeforeTyping_ = rows_[index(row)].cells;
+    std::string line = inOneLine(text);
+    write(row, column, line);
     activeCell_.userChanged(std::move(text), selStart, selLength);
+    activeCell_.Text(std::move(line));
     raiseTextChange(row, column);
 }
 
@@ -39,9 +55,10 @@ void Listbox::revertCell() {
     const int row = openRow_;
     const int column = openColumn_;
     closeCell();
-    if (row < 0 || Cell(row, column) == textAtOpening_)
+    if (row < 0 || cellsBeforeTyping_.empty())
         return;
-    write(row, column, textAtOpening_);
+    for (int followed = 0; followed < ColumnCount(); ++followed)
+        Cell(row, followed, cellsBeforeTyping_[index(followed)]);
     raiseTextChange(row, column);
 }
 

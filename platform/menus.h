@@ -20,7 +20,7 @@ enum class MenuRole {
     paste,
     clear,
     selectAll,
-    quit,        // these three stand where the platform's users look for them
+    quit, // these three belong into the application menu of a desktop that has one
     about,
     preferences,
 };

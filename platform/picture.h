@@ -1,7 +1,7 @@
 #pragma once
 
 #include <string>
-#include <string_view>
+#include <utility>
 
 namespace tallyvane {
 
@@ -9,14 +9,14 @@ namespace tallyvane {
 /// the file's size in points and is drawn as sharp as the surface is. One that is not there shows nothing.
 class Picture {
 public:
-    constexpr explicit Picture(std::string_view file) : file_(file) {}
+    explicit Picture(std::string file) : file_(std::move(file)) {}
 
-    std::string File() const { return std::string(file_); }
+    const std::string& File() const { return file_; }
 
     bool operator==(const Picture&) const = default;
 
 private:
-    std::string_view file_; // a literal of the program
+    std::string file_;
 };
 
 } // namespace tallyvane

@@ -24,7 +24,7 @@ Kind kindOf(const std::string& path);
 /// Makes a folder that only its owner can enter. False when it could not be made.
 [[nodiscard]] bool makeFolder(const std::string& path);
 
-/// The whole content of a file; nothing for what is no plain file or can't be read.
+/// The whole content of a file; nothing for what is no plain file, can't be read or is larger than a gigabyte.
 [[nodiscard]] std::optional<std::string> read(const std::string& path);
 
 /// A file that is open to be replaced in place: same inode, no second file. It may be open while the new text is
@@ -57,6 +57,9 @@ class FolderClaim {
 public:
     /// Nil when another process holds the folder. Where the folder's disk knows no claims, it is given to everyone.
     [[nodiscard]] static std::unique_ptr<FolderClaim> take(const std::string& path);
+
+    /// Whether that path leads to the folder that is held, by whatever way.
+    bool isOn(const std::string& path) const;
 
     FolderClaim(const FolderClaim&) = delete;
     FolderClaim& operator=(const FolderClaim&) = delete;

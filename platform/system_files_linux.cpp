@@ -35,8 +35,9 @@ int openPlain(const std::string& path, int flags) {
 }
 
 std::optional<std::string> readAll(int file) {
+    constexpr off_t largest = off_t{1} << 30; // no file of a diary comes near
     struct stat status {};
-    if (::fstat(file, &status) != 0)
+    if (::fstat(file, &status) != 0 || status.st_size > largest)
         return std::nullopt;
     std::string content(static_cast<std::size_t>(status.st_size), '\0');
     std::size_t done = 0;
@@ -84,6 +85,16 @@ bool flush(int file) {
         result = ::fsync(file);
     while (result != 0 && errno == EINTR);
     return result == 0;
+}
+
+/// Sees the name of a new file to the disk.
+bool flushFolderOf(const std::string& path) {
+    const int folder = ::open(path.substr(0, path.rfind('/') + 1).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (folder < 0)
+        return true; // a folder that may be written but not read
+    const bool flushed = flush(folder) || errno == EINVAL; // some disks know no such thing
+    ::close(folder);
+    return flushed;
 }
 
 /// Reserves room up to `size` bytes without changing the file's length. True also where the disk can't reserve.
@@ -151,8 +162,10 @@ std::optional<std::string> read(const std::string& path) {
 Replacement::Replacement(int file, std::string path, bool made) : file_(file), path_(std::move(path)), made_(made) {}
 
 std::unique_ptr<Replacement> Replacement::open(const std::string& path) {
-    const bool made = kindOf(path) == Kind::none;
-    const int file = openPlain(path, O_RDWR | O_CREAT);
+    int file = openPlain(path, O_RDWR | O_CREAT | O_EXCL);
+    const bool made = file >= 0;
+    if (!made)
+        file = openPlain(path, O_RDWR | O_CREAT); // it was there, or a link leads to where it is to be
     if (file < 0)
         return nullptr;
     return std::unique_ptr<Replacement>(new Replacement(file, path, made));
@@ -177,7 +190,8 @@ void Replacement::replace(const std::string& text) {
         restore(file_, *before);
         throw IOException("can't write " + path_);
     }
-    made_ = false;
+    if (std::exchange(made_, false) && !flushFolderOf(path_))
+        throw IOException("can't enter " + path_ + " into its folder");
     if (::close(std::exchange(file_, -1)) != 0)
         throw IOException("can't close " + path_);
 }
@@ -191,6 +205,13 @@ std::unique_ptr<FolderClaim> FolderClaim::take(const std::string& path) {
         return nullptr;
     }
     return std::unique_ptr<FolderClaim>(new FolderClaim(folder));
+}
+
+bool FolderClaim::isOn(const std::string& path) const {
+    struct stat held {};
+    struct stat other {};
+    return ::fstat(file_, &held) == 0 && ::stat(path.c_str(), &other) == 0 && held.st_dev == other.st_dev &&
+           held.st_ino == other.st_ino;
 }
 
 FolderClaim::~FolderClaim() {

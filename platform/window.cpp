@@ -1,6 +1,7 @@
 #include "platform/window.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/toolkit.h"
 
@@ -115,8 +116,6 @@ void Window::Refresh() {
 void Window::Open() {
     if (open_)
         return;
-    open_ = true;
-    registry().push_back(this);
     Toolkit* toolkit = Toolkit::inForce();
     if (toolkit != nullptr)
         bounds_ = toolkit->placeFor(*this);
@@ -124,6 +123,8 @@ void Window::Open() {
     Event_Open();
     if (toolkit != nullptr)
         peer_ = toolkit->show(*this);
+    open_ = true;
+    registry().push_back(this);
 }
 
 void Window::Show() {

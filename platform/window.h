@@ -49,7 +49,7 @@ public:
     enum class Kind {
         document, // resizable as far as the limits let it
         fixed,
-        dialog,   // fixed, and modal to the window that was in front
+        dialog,   // fixed, and modal to its owner
         splash,   // fixed, without title and close button
     };
 
@@ -76,7 +76,8 @@ public:
     int MinHeight() const { return minHeight_; }
     int MaxHeight() const { return maxHeight_; }
 
-    /// Brings the window into being, unseen: the open events of its controls, its own, then its peer.
+    /// Brings the window into being, unseen: the open events of its controls, its own, then its peer. An exception of
+    /// an event leaves it unopened.
     void Open();
     bool isOpen() const { return open_; }
     /// Brings it into being if need be, and to the front.

@@ -42,7 +42,8 @@ namespace StartupGlobals {
 
 /// The folder that holds the day table; nil until it is settled at start.
 extern std::optional<FolderItem> gDataFolder;
-/// The data folder that the preferences name but that is not there; "" normally.
+/// The data folder that the preferences name but that is not there; "" normally. The preferences go on naming it, so
+/// that a start after its return finds it again.
 extern std::string gMissingDataFolder;
 
 } // namespace StartupGlobals

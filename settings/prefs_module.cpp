@@ -88,7 +88,8 @@ void savePrefs() {
         stream->WriteLine(Str(limit));
     for (const bool included : {Globals::gIncludeMeds, Globals::gIncludeExercise, Globals::gIncludeFood})
         stream->WriteLine(truth(included));
-    stream->WriteLine(folder->AbsolutePath());
+    const std::string& missing = StartupGlobals::gMissingDataFolder;
+    stream->WriteLine(missing.empty() ? folder->AbsolutePath() : missing); // a folder that is away is not forgotten
     stream->WriteLine(gDataLocation);
     stream->Close();
 }

@@ -16,7 +16,7 @@ AboutWindow::AboutWindow() {
     StaticText1.Text("Tallyvane");
     StaticText1.TextSize(22);
     StaticText1.Bold(true);
-    StaticText2.Text("v1.1.7");
+    StaticText2.Text("v" TALLYVANE_VERSION);
     StaticText3.Text("Made by the Tallyvane team");
 }
 

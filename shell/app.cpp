@@ -1,5 +1,7 @@
 #include "shell/app.h"
 
+#include <utility>
+
 #include "platform/toolkit.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
@@ -53,16 +55,23 @@ void App::Event_Open() {
         return;
     StartUpManager::primaryWindow = window1_.get();
     splash_ = std::make_unique<SplashWindow>();
-    splash_->showPrimaryWindow = [this] { showMainWindow(); };
+    splash_->showPrimaryWindow = [] { StartUpManager::primaryWindow->Show(); };
+    splash_->handedOver = [this] { tellMissingDataFolder(); };
     splash_->Show();
 }
 
-/// Holds a folder for this program, once. False when another program holds it.
+/// Holds a folder for this program. False when another program holds it.
 bool App::claim(const std::optional<FolderItem>& folder) {
     if (!folder || !folder->Directory())
         return true;
-    claims_.push_back(SystemFiles::FolderClaim::take(folder->AbsolutePath()));
-    return claims_.back() != nullptr;
+    for (const auto& held : claims_)
+        if (held->isOn(folder->AbsolutePath()))
+            return true;
+    auto claim = SystemFiles::FolderClaim::take(folder->AbsolutePath());
+    if (!claim)
+        return false;
+    claims_.push_back(std::move(claim));
+    return true;
 }
 
 void App::giveWay() {
@@ -72,36 +81,31 @@ void App::giveWay() {
 }
 
 void App::bringUpMainWindow() {
-    const bool elsewhere = StartupGlobals::gDataFolder != DataFiles::applicationFolder();
-    if (elsewhere && !claim(StartupGlobals::gDataFolder)) {
+    if (!claim(StartupGlobals::gDataFolder)) {
         MsgBox("The days in \u201c" + StartupGlobals::gDataFolder->AbsolutePath() +
                "\u201d are open in another Tallyvane. Close that one first, then start again.");
         giveWay();
         return;
     }
-    window1_ = std::make_unique<Window1>(toolbar_, menuBar);
-    enableToolbar();
-    window1_->Open();
-    window1_->Visible(false);
-    window1_->Timer1.Mode(Timer::ModeSingle);
+    auto window = std::make_unique<Window1>(toolbar_, menuBar);
+    enableToolbar(*window);
+    window->Open();
+    window->Visible(false);
+    window->Timer1.Mode(Timer::ModeSingle);
+    window1_ = std::move(window); // only now: a table that could not be loaded must never be saved
 }
 
 /// A button whose window there is none of is off rather than dead.
-void App::enableToolbar() {
-    toolbar_.enable("ResourcesBtn", window1_->showResources != nullptr);
-    toolbar_.enable("HeadingsBtn", window1_->showHeadingsEditor != nullptr);
-    toolbar_.enable("LogsBtn", window1_->showLogs != nullptr);
-    toolbar_.enable("TeamMedBtn", window1_->showTeamAndMedications != nullptr);
-    toolbar_.enable("GraphBtn", window1_->showGraph != nullptr);
-}
-
-void App::showMainWindow() {
-    StartUpManager::primaryWindow->Show();
-    tellMissingDataFolder();
+void App::enableToolbar(const Window1& window) {
+    toolbar_.enable("ResourcesBtn", window.showResources != nullptr);
+    toolbar_.enable("HeadingsBtn", window.showHeadingsEditor != nullptr);
+    toolbar_.enable("LogsBtn", window.showLogs != nullptr);
+    toolbar_.enable("TeamMedBtn", window.showTeamAndMedications != nullptr);
+    toolbar_.enable("GraphBtn", window.showGraph != nullptr);
 }
 
 void App::tellMissingDataFolder() {
-    const std::string missing = std::exchange(StartupGlobals::gMissingDataFolder, "");
+    const std::string& missing = StartupGlobals::gMissingDataFolder;
     if (missing.empty() || !StartupGlobals::gDataFolder)
         return;
     MsgBox("The folder with your days is not there: \u201c" + missing + "\u201d. Until it is back, your days are kept in \u201c" +
@@ -126,7 +130,11 @@ void App::run(const std::function<void()>& event) {
 }
 
 bool App::Event_UnhandledException() {
+    // Going to another program to make room for the diary saves again, and may fail again: one message is enough.
+    if (std::exchange(showingException_, true))
+        return false;
     MsgBox("An error has occured. You should quit Tallyvane now to save your data.");
+    showingException_ = false;
     return false;
 }
 
@@ -145,6 +153,8 @@ void App::Event_Close() {
 void App::FileQuit_Action() {
     if (window1_)
         window1_->Close();
+    else
+        Quit(0);
 }
 
 void App::FileAboutBrindlemarks_Action() { showSingle(about_); }

@@ -55,12 +55,12 @@ public:
 private:
     bool claim(const std::optional<FolderItem>& folder);
     void bringUpMainWindow();
-    void showMainWindow();
     void tellMissingDataFolder();
     void giveWay();
-    void enableToolbar();
+    void enableToolbar(const Window1& window);
 
     Toolbar1 toolbar_;
+    bool showingException_ = false;
     std::vector<std::unique_ptr<SystemFiles::FolderClaim>> claims_;
     std::unique_ptr<Window1> window1_;
     std::unique_ptr<SplashWindow> splash_;

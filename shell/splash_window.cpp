@@ -35,6 +35,8 @@ void SplashWindow::Timer1_Action() {
     if (showPrimaryWindow)
         showPrimaryWindow();
     Close();
+    if (handedOver)
+        handedOver();
 }
 
 } // namespace tallyvane

@@ -22,6 +22,8 @@ public:
     std::function<void()> doVersionCheck;
     /// What the end of the second brings.
     std::function<void()> showPrimaryWindow;
+    /// After that, with this window closed.
+    std::function<void()> handedOver;
 
     void Event_Open() override;
     void Timer1_Action();

@@ -2,6 +2,8 @@
 
 #include <QKeyEvent>
 
+#include <limits>
+
 #include "platform/qt/event_guard.h"
 
 namespace tallyvane {
@@ -34,17 +36,18 @@ std::string nameOf(const QKeyEvent& key) {
     }
 }
 
-/// A key that would mean something else to the text field, such as selecting or a shortcut.
-bool hasModifier(const QKeyEvent& key) {
-    const bool shiftedTab = key.key() == Qt::Key_Backtab;
-    const auto plain = Qt::KeypadModifier | (shiftedTab ? Qt::ShiftModifier : Qt::NoModifier);
-    return (key.modifiers() & ~plain) != Qt::NoModifier && key.text().isEmpty();
+/// A key that belongs to the window or to the text field: a shortcut, or the selecting by Shift and an arrow.
+bool isShortcut(const QKeyEvent& key) {
+    if ((key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0)
+        return true;
+    return (key.modifiers() & Qt::ShiftModifier) != 0 && key.text().isEmpty() && key.key() != Qt::Key_Backtab;
 }
 
 } // namespace
 
 CellEditor::CellEditor(Listbox& list, QWidget* parent) : Peer(list.ActiveCell(), parent), list_(&list) {
     setStyleSheet(QStringLiteral("border: 1px solid #265caa; background: white; padding: 0 3px;"));
+    setMaxLength(std::numeric_limits<int>::max()); // Qt's own limit would cut a text without a word
     hide();
     connect(this, &QLineEdit::textEdited, this, [this] { textTyped(); });
     connect(this, &QLineEdit::selectionChanged, this, [this] { selectionMoved(); });
@@ -55,6 +58,13 @@ void CellEditor::detach() {
     list_ = nullptr;
     Peer::detach();
 }
+
+void CellEditor::controlGone() {
+    list_ = nullptr;
+    Peer::controlGone();
+}
+
+void CellEditor::controlChanged() { sync(); }
 
 void CellEditor::sync() {
     const QSignalBlocker quiet(this);
@@ -97,7 +107,7 @@ bool CellEditor::raiseKeyDown(const std::string& key) {
 /// True for a key that is done with: consumed by the list's event, or the end of the editing.
 bool CellEditor::takesKey(const QKeyEvent& key) {
     const std::string name = nameOf(key);
-    if (name.empty() || hasModifier(key))
+    if (name.empty() || isShortcut(key))
         return false;
     if (raiseKeyDown(name) || list_ == nullptr)
         return true;
@@ -112,13 +122,16 @@ bool CellEditor::takesKey(const QKeyEvent& key) {
 
 bool CellEditor::event(QEvent* event) {
     const bool open = list_ != nullptr && list_->openRow() >= 0;
-    if (open && event->type() == QEvent::ShortcutOverride) {
-        event->accept(); // keys of an open cell are not shortcuts of the window
-        return true;
-    }
-    if (open && event->type() == QEvent::KeyPress && takesKey(*static_cast<QKeyEvent*>(event)))
-        return true;
-    return QLineEdit::event(event);
+    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
+    if (!open || !isKey)
+        return QLineEdit::event(event);
+    const auto& key = *static_cast<QKeyEvent*>(event);
+    if (event->type() == QEvent::KeyPress)
+        return takesKey(key) || QLineEdit::event(event);
+    if (isShortcut(key))
+        return QLineEdit::event(event);
+    event->accept(); // Return and Escape are for the cell, not for the window's buttons
+    return true;
 }
 
 void CellEditor::focusOutEvent(QFocusEvent* event) {

@@ -13,6 +13,9 @@ public:
     CellEditor(Listbox& list, QWidget* parent);
 
     void detach() override;
+    void controlGone() override;
+    /// Text and selection alone; the list's peer shows and hides the field.
+    void controlChanged() override;
 
 protected:
     void sync() override;

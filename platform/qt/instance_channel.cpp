@@ -30,13 +30,13 @@ void InstanceChannel::listen(std::function<void()> onCall) {
             caller->deleteLater();
         onCall();
     });
-    server_->listen(channelName()); // without it a second start still ends, it just can't call
+    static_cast<void>(server_->listen(channelName())); // without it a second start still ends, it just can't call
 }
 
 void InstanceChannel::call() {
     QLocalSocket socket;
     socket.connectToServer(channelName(), QLocalSocket::WriteOnly);
-    socket.waitForConnected(patienceMilliseconds);
+    static_cast<void>(socket.waitForConnected(patienceMilliseconds));
 }
 
 } // namespace tallyvane

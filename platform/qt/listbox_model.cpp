@@ -5,20 +5,24 @@
 
 namespace tallyvane {
 
-std::vector<int> columnWidthsOf(const Listbox& list) {
+namespace {
+
+std::vector<int> widthsOf(const Listbox& list) {
     std::vector<int> widths;
     for (FieldWalk fields(list.ColumnWidths(), ","); !fields.atEnd();)
         widths.push_back(static_cast<int>(Val(fields.next())));
     return widths;
 }
 
+} // namespace
+
 ListboxModel::ListboxModel(const Listbox& list, QObject* parent)
-    : QAbstractTableModel(parent), list_(list), rows_(list.ListCount()) {}
+    : QAbstractTableModel(parent), list_(list), rows_(list.ListCount()), widths_(widthsOf(list)) {}
 
 int ListboxModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows_; }
 
 int ListboxModel::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(columnWidthsOf(list_).size());
+    return parent.isValid() ? 0 : static_cast<int>(widths_.size());
 }
 
 QVariant ListboxModel::data(const QModelIndex& index, int role) const {
@@ -64,6 +68,15 @@ void ListboxModel::tellCellChanged(int row, int column) {
         Q_EMIT dataChanged(cell, cell);
 }
 
-void ListboxModel::tellHeadingsChanged() { Q_EMIT headerDataChanged(Qt::Horizontal, 0, columnCount() - 1); }
+void ListboxModel::tellColumnsChanged() {
+    std::vector<int> widths = widthsOf(list_);
+    const bool reset = widths.size() != widths_.size();
+    if (reset)
+        beginResetModel();
+    widths_ = std::move(widths);
+    if (reset)
+        endResetModel();
+    Q_EMIT headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
+}
 
 } // namespace tallyvane

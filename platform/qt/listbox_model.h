@@ -6,8 +6,8 @@
 
 namespace tallyvane {
 
-/// The cells of a list as Qt's views and its accessibility ask for them. Nothing is kept here but the number of rows
-/// that the views have been told of.
+/// The cells of a list as Qt's views and its accessibility ask for them. Nothing is kept here but the numbers of
+/// rows and columns that the views have been told of.
 class ListboxModel : public QAbstractTableModel {
 public:
     ListboxModel(const Listbox& list, QObject* parent);
@@ -22,14 +22,15 @@ public:
     void tellRowRemoved(int row);
     void tellRowsReplaced();
     void tellCellChanged(int row, int column);
-    void tellHeadingsChanged();
+    /// Widths, their number and the headings.
+    void tellColumnsChanged();
+    /// Of the columns that are shown.
+    const std::vector<int>& widths() const { return widths_; }
 
 private:
     const Listbox& list_;
     int rows_ = 0;
+    std::vector<int> widths_;
 };
-
-/// The widths of the columns that are shown.
-std::vector<int> columnWidthsOf(const Listbox& list);
 
 } // namespace tallyvane

@@ -104,10 +104,10 @@ void ListboxPeer::sync() {
     const bool several = control_->SelectionType() == Listbox::SelectionTypes::multiple;
     setSelectionMode(several ? ExtendedSelection : SingleSelection);
     verticalHeader()->setDefaultSectionSize(control_->DefaultRowHeight());
-    const std::vector<int> widths = columnWidthsOf(*control_);
+    model_->tellColumnsChanged();
+    const std::vector<int>& widths = model_->widths();
     for (std::size_t column = 0; column < widths.size(); ++column)
         horizontalHeader()->resizeSection(static_cast<int>(column), widths[column]);
-    model_->tellHeadingsChanged();
     viewport()->update();
     placeEditor();
 }
@@ -128,13 +128,22 @@ void ListboxPeer::rowsReplaced() {
     {
         const QScopedValueRollback bringing(bringingSelection_, true);
         const int scrolled = verticalScrollBar()->value();
+        const QModelIndex current = currentIndex();
+        const int column = std::max(0, current.column());
+        const int row = control_->SelectedCount() > 0 ? control_->ListIndex() : current.row();
         model_->tellRowsReplaced();
+        const int nearest = std::min(row, model_->rowCount() - 1);
+        selectionModel()->setCurrentIndex(model_->index(nearest, column), QItemSelectionModel::NoUpdate);
         verticalScrollBar()->setValue(scrolled);
     }
     selectionChanged();
 }
 
-void ListboxPeer::cellChanged(int row, int column) { model_->tellCellChanged(row, column); }
+void ListboxPeer::cellChanged(int row, int column) {
+    model_->tellCellChanged(row, column);
+    if (row == control_->openRow() && column == control_->openColumn())
+        scrollTo(model_->index(row, column)); // typed out of sight
+}
 
 void ListboxPeer::selectionChanged() {
     const QScopedValueRollback bringing(bringingSelection_, true);
@@ -215,10 +224,20 @@ void ListboxPeer::click(const QModelIndex& cell, const QPoint& place) {
 
 void ListboxPeer::keyPressEvent(QKeyEvent* event) {
     const bool opens = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_F2;
-    if (opens && control_ != nullptr && currentIndex().isValid())
-        click(currentIndex(), QPoint());
-    else
+    const QModelIndex cell = currentIndex();
+    if (!opens || control_ == nullptr || !cell.isValid()) {
         QTableView::keyPressEvent(event);
+        return;
+    }
+    deliver([&] { control_->ListIndex(cell.row()); }); // as a click does
+    if (control_ != nullptr)
+        click(cell, QPoint());
+}
+
+/// The columns stay under their group labels and over their averages, whatever their widths.
+void ListboxPeer::updateGeometries() {
+    QTableView::updateGeometries();
+    horizontalScrollBar()->setRange(0, 0);
 }
 
 void ListboxPeer::scrollContentsBy(int dx, int dy) {
@@ -247,7 +266,7 @@ void ListboxPeer::paintCell(QPainter& painter, const QRect& area, int row, int c
         painter.fillRect(area.left(), area.bottom(), area.width(), 1, tallyvane::toQt(selectionLine));
     if (row < control_->ListCount())
         drawText(painter, area, row, column);
-    if (hasFocus() && currentIndex() == model_->index(row, column)) {
+    if (hasFocus() && row < control_->ListCount() && currentIndex() == model_->index(row, column)) {
         painter.setPen(tallyvane::toQt(selectionLine));
         painter.drawRect(area.adjusted(0, 0, -1, -1));
     }
@@ -265,7 +284,9 @@ void ListboxPeer::drawText(QPainter& painter, const QRect& area, int row, int co
     if (drawn)
         return;
     painter.setPen(tallyvane::toQt(g.ForeColor()));
-    const QString shown = fontMetrics().elidedText(tallyvane::toQt(control_->Cell(row, column)), Qt::ElideRight, inner.width());
+    constexpr int mostCharacters = 200; // more never find room, and megabytes take their time
+    const QString whole = tallyvane::toQt(Left(control_->Cell(row, column), mostCharacters));
+    const QString shown = fontMetrics().elidedText(whole, Qt::ElideRight, inner.width());
     painter.drawText(inner.translated(-area.topLeft()), toQt(control_->ColumnAlignment(column)) | Qt::AlignVCenter, shown);
 }
 

@@ -35,13 +35,13 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     /// Nothing: a digit typed while no cell is open must not take the selection elsewhere.
     void keyboardSearch(const QString& /*search*/) override {}
+    void updateGeometries() override;
     void scrollContentsBy(int dx, int dy) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
 
 private:
     void setUpLook();
     void click(const QModelIndex& cell, const QPoint& place);
-    void open(const QModelIndex& cell);
     void placeEditor();
     void drawText(QPainter& painter, const QRect& area, int row, int column);
 

@@ -1,8 +1,8 @@
 #include "platform/qt/menu_peer.h"
 
 #include <QApplication>
-#include <QKeyEvent>
-#include <QMetaMethod>
+#include <QLineEdit>
+#include <QPlainTextEdit>
 
 #include "platform/qt/convert.h"
 #include "platform/qt/event_guard.h"
@@ -11,36 +11,62 @@ namespace tallyvane {
 
 namespace {
 
-/// The slot of Qt's text fields that does a standard editing action; nil for any other role.
-const char* editingSlot(MenuRole role) {
+bool isEditing(MenuRole role) { return role >= MenuRole::undo && role <= MenuRole::selectAll; }
+
+void deleteSelection(QLineEdit& field) {
+    if (field.hasSelectedText())
+        field.del();
+}
+
+void deleteSelection(QPlainTextEdit& field) { field.textCursor().removeSelectedText(); }
+
+template <class Field>
+void editField(Field& field, MenuRole role) {
     switch (role) {
     case MenuRole::undo:
-        return "undo";
+        return field.undo();
     case MenuRole::cut:
-        return "cut";
+        return field.cut();
     case MenuRole::copy:
-        return "copy";
+        return field.copy();
     case MenuRole::paste:
-        return "paste";
+        return field.paste();
     case MenuRole::clear:
-        return "clear";
+        return deleteSelection(field);
     case MenuRole::selectAll:
-        return "selectAll";
+        return field.selectAll();
     default:
-        return nullptr;
+        return;
     }
 }
 
-bool focusTakes(const char* slot) {
-    const QWidget* focus = QApplication::focusWidget();
-    const QByteArray signature = QByteArray(slot) + "()";
-    return focus != nullptr && focus->metaObject()->indexOfSlot(signature.constData()) >= 0;
+/// The standard editing action on a field of text; nothing on any other control.
+void edit(QWidget* focus, MenuRole role) {
+    if (auto* line = qobject_cast<QLineEdit*>(focus))
+        editField(*line, role);
+    else if (auto* text = qobject_cast<QPlainTextEdit*>(focus))
+        editField(*text, role);
 }
 
-/// Delete takes the selected text away, as Cut does but without the clipboard: a key press of Delete does just that.
-void deleteSelection(QWidget* focus) {
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier);
-    QApplication::sendEvent(focus, &press);
+bool isField(const QWidget* focus) {
+    return qobject_cast<const QLineEdit*>(focus) != nullptr || qobject_cast<const QPlainTextEdit*>(focus) != nullptr;
+}
+
+bool isMenu(const QWidget* widget) {
+    return qobject_cast<const QMenu*>(widget) != nullptr || qobject_cast<const QMenuBar*>(widget) != nullptr;
+}
+
+QAction::MenuRole actionRole(MenuRole role) {
+    switch (role) {
+    case MenuRole::quit:
+        return QAction::QuitRole;
+    case MenuRole::about:
+        return QAction::AboutRole;
+    case MenuRole::preferences:
+        return QAction::PreferencesRole;
+    default:
+        return QAction::NoRole;
+    }
 }
 
 QKeySequence shortcutOf(const MenuItem& item) {
@@ -58,7 +84,10 @@ MenuPeer::MenuPeer(MenuBar& bar, std::function<Window*()> front, QWidget* parent
         for (const MenuItem& item : menu.items)
             add(*shown, item);
     }
-    placeByRole();
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*old*/, QWidget* now) {
+        if (now != nullptr && !isMenu(now))
+            focus_ = now;
+    });
     refresh();
 }
 
@@ -71,52 +100,22 @@ void MenuPeer::add(QMenu& menu, const MenuItem& item) {
     action->setObjectName(toQt(item.Name));
     action->setShortcut(shortcutOf(item));
     action->setShortcutContext(Qt::ApplicationShortcut);
+    action->setMenuRole(actionRole(item.role));
     connect(action, &QAction::triggered, this, [this, &item] { choose(item); });
     entries_.push_back({action, &item});
 }
 
-/// Where the desktop has an application menu Qt puts the three there; elsewhere Preferences ends the first menu, Quit
-/// the second, About the last.
-void MenuPeer::placeByRole() {
-    const QList<QAction*> menus = actions();
-    for (const Entry& entry : entries_) {
-        QMenu* home = nullptr;
-        if (entry.item->role == MenuRole::preferences) {
-            entry.action->setMenuRole(QAction::PreferencesRole);
-            home = menus.front()->menu();
-        } else if (entry.item->role == MenuRole::quit) {
-            entry.action->setMenuRole(QAction::QuitRole);
-            home = menus.at(1)->menu();
-        } else if (entry.item->role == MenuRole::about) {
-            entry.action->setMenuRole(QAction::AboutRole);
-            home = menus.back()->menu();
-        } else {
-            entry.action->setMenuRole(QAction::NoRole);
-            continue;
-        }
-        for (const QAction* menu : menus)
-            menu->menu()->removeAction(entry.action);
-        home->addSeparator();
-        home->addAction(entry.action);
-    }
-}
-
 void MenuPeer::refresh() {
     deliver([this] { bar_.enableItems(front_()); });
-    for (const Entry& entry : entries_) {
-        const char* slot = editingSlot(entry.item->role);
-        entry.action->setEnabled(slot != nullptr ? focusTakes(slot) : entry.item->Enabled);
-    }
+    for (const Entry& entry : entries_)
+        entry.action->setEnabled(isEditing(entry.item->role) ? isField(focus_) : entry.item->Enabled);
 }
 
 void MenuPeer::choose(const MenuItem& item) {
-    const char* slot = editingSlot(item.role);
-    if (slot == nullptr)
+    if (isEditing(item.role))
+        edit(focus_, item.role);
+    else
         deliver([&] { bar_.choose(item.Name, front_()); });
-    else if (item.role == MenuRole::clear && focusTakes(slot))
-        deleteSelection(QApplication::focusWidget());
-    else if (focusTakes(slot))
-        QMetaObject::invokeMethod(QApplication::focusWidget(), slot);
 }
 
 } // namespace tallyvane

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMenuBar>
+#include <QPointer>
 
 #include <functional>
 #include <vector>
@@ -11,8 +12,7 @@ namespace tallyvane {
 
 class Window;
 
-/// Shows the menu bar. Quit, About and Preferences stand where users of this desktop look for them; all other items
-/// in their own order.
+/// Shows the menu bar. Qt itself moves Quit, About and Preferences to the application menu where the desktop has one.
 class MenuPeer : public QMenuBar {
 public:
     /// `front` gives the window of ours that is in front, or nil.
@@ -28,12 +28,12 @@ private:
     };
 
     void add(QMenu& menu, const MenuItem& item);
-    void placeByRole();
     void choose(const MenuItem& item);
 
     MenuBar& bar_;
     std::function<Window*()> front_;
     std::vector<Entry> entries_;
+    QPointer<QWidget> focus_; // the last control that had it: an open menu takes it away
 };
 
 } // namespace tallyvane

@@ -12,7 +12,8 @@ class WidgetPeer {
 public:
     virtual ~WidgetPeer() = default;
     virtual QWidget* widget() = 0;
-    virtual const Control* control() const = 0;
+    /// Whether the page that the control stands on is in front.
+    virtual void standInFront(bool inFront) = 0;
     /// Cuts the tie to the control, for good: the window is being closed, the widget goes a little later.
     virtual void detach() = 0;
 };
@@ -26,15 +27,21 @@ public:
     ~Peer() override { Peer::detach(); }
 
     QWidget* widget() override { return this; }
-    const Control* control() const override { return control_; }
     void detach() override {
         if (control_ != nullptr)
             control_->observe(nullptr);
         control_ = nullptr;
     }
 
+    void standInFront(bool inFront) override {
+        inFront_ = inFront;
+        if (control_ != nullptr)
+            Widget::setVisible(control_->Visible() && inFront_);
+    }
+
     void controlGone() override { control_ = nullptr; }
     void controlChanged() override {
+        Widget::setVisible(control_->Visible() && inFront_);
         Widget::setEnabled(control_->Enabled());
         Widget::setToolTip(toQt(control_->HelpTag()));
         if (!control_->AccessibleName().empty())
@@ -48,6 +55,9 @@ protected:
     virtual void sync() {}
 
     ControlType* control_;
+
+private:
+    bool inFront_ = true;
 };
 
 } // namespace tallyvane

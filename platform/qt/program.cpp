@@ -23,7 +23,7 @@ std::optional<FolderItem> folderAt(const QString& path) { return GetFolderItem(Q
 /// The desktop's folders. That for application data is made on a new account that has none yet.
 void settleFolders() {
     const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-    QDir().mkpath(data);
+    static_cast<void>(QDir().mkpath(data)); // without it the diary runs, and has nowhere to save
     SpecialFolder::ApplicationData = folderAt(data);
     SpecialFolder::UserHome = folderAt(QDir::homePath());
 }

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDesktopServices>
 #include <QMessageBox>
+#include <QPointer>
 #include <QScreen>
 #include <QUrl>
 
@@ -47,10 +48,12 @@ Rect QtToolkit::placeFor(const Window& window) {
 }
 
 void QtToolkit::message(const std::string& text) {
-    QMessageBox box(QMessageBox::NoIcon, QStringLiteral("Tallyvane"), toQt(text), QMessageBox::Ok,
-                    QApplication::activeWindow());
-    box.setTextFormat(Qt::PlainText);
-    box.exec();
+    // The window below may go while the message is up, and takes the message with it.
+    const QPointer<QMessageBox> box = new QMessageBox(QMessageBox::NoIcon, QStringLiteral("Tallyvane"), toQt(text),
+                                                      QMessageBox::Ok, QApplication::activeWindow());
+    box->setTextFormat(Qt::PlainText);
+    box->exec();
+    delete box;
 }
 
 void QtToolkit::beep() { QApplication::beep(); }

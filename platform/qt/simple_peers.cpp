@@ -1,5 +1,6 @@
 #include "platform/qt/simple_peers.h"
 
+#include <QApplication>
 #include <QPainter>
 #include <QShortcut>
 #include <QTabBar>
@@ -39,12 +40,13 @@ void StaticTextPeer::sync() {
     if (control_->TextSize() > 0)
         font.setPixelSize(control_->TextSize());
     font.setBold(control_->Bold());
-    setFont(font);
-    if (const auto& color = control_->TextColor()) {
-        QPalette colors = palette();
+    if (font != this->font())
+        setFont(font);
+    QPalette colors = parentWidget()->palette();
+    if (const auto& color = control_->TextColor())
         colors.setColor(QPalette::WindowText, tallyvane::toQt(*color));
+    if (colors != palette())
         setPalette(colors);
-    }
 }
 
 // Canvas
@@ -75,7 +77,10 @@ PushButtonPeer::PushButtonPeer(PushButton& button, QWidget* parent) : Peer(butto
     };
     connect(this, &QPushButton::clicked, this, press);
     const auto pressBy = [&](int key) {
-        connect(new QShortcut(QKeySequence(key), this), &QShortcut::activated, this, [this] { click(); });
+        connect(new QShortcut(QKeySequence(key), this), &QShortcut::activated, this, [this, key] {
+            auto* focused = key == Qt::Key_Escape ? nullptr : qobject_cast<QPushButton*>(QApplication::focusWidget());
+            (focused != nullptr ? focused : this)->click(); // Return presses the button that has the focus
+        });
     };
     if (button.Default()) {
         pressBy(Qt::Key_Return);
@@ -106,22 +111,30 @@ void BevelButtonPeer::sync() { setText(tallyvane::toQt(control_->Caption())); }
 
 // TextArea
 
+namespace {
+
+/// The text letter by letter; toPlainText would make blanks of the blanks that do not break.
+std::string textOf(const QTextDocument& document) {
+    return fromQt(document.toRawText().replace(QChar::ParagraphSeparator, QLatin1Char('\n')));
+}
+
+} // namespace
+
 TextAreaPeer::TextAreaPeer(TextArea& area, QWidget* parent) : Peer(area, parent) {
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setTabChangesFocus(true);
     controlChanged();
     connect(this, &QPlainTextEdit::textChanged, this, [this] {
         if (control_ != nullptr)
-            deliver([this] { control_->userTyped(fromQt(toPlainText())); });
+            deliver([this] { control_->userTyped(textOf(*document())); });
     });
 }
 
 void TextAreaPeer::sync() {
-    const QString text = tallyvane::toQt(control_->Text());
-    if (text == toPlainText())
+    if (control_->Text() == textOf(*document()))
         return;
     const QSignalBlocker quiet(this);
-    setPlainText(text);
+    setPlainText(tallyvane::toQt(control_->Text()));
 }
 
 // TabPanel

@@ -81,7 +81,7 @@ void ContentArea::layOut() {
         return;
     for (const Child& child : children_) {
         child.peer->widget()->setGeometry(toQt(window_->frameOf(*child.placement)));
-        child.peer->widget()->setVisible(child.peer->control()->Visible() && isOnPageInFront(*child.placement));
+        child.peer->standInFront(isOnPageInFront(*child.placement));
     }
 }
 
@@ -98,6 +98,7 @@ void ContentArea::resizeEvent(QResizeEvent* event) {
 
 WindowFrame::WindowFrame(Window& window, QWidget* owner, std::function<Window*()> front)
     : QMainWindow(owner, flagsOf(window.kind())), window_(&window), content_(new ContentArea(window, this)) {
+    setContextMenuPolicy(Qt::NoContextMenu); // Qt's own would hide the toolbar
     if (window.kind() == Window::Kind::dialog)
         setWindowModality(Qt::WindowModal);
     if (MenuBar* bar = window.menuBar()) {
@@ -163,7 +164,7 @@ void WindowFrame::tellBounds() {
 
 void WindowFrame::closeEvent(QCloseEvent* event) {
     event->ignore(); // the window itself takes the frame away, unless its saving fails
-    if (window_ != nullptr)
+    if (window_ != nullptr && window_->kind() != Window::Kind::splash) // that one has no close button
         deliver([this] { window_->Close(); });
 }
 

@@ -1,0 +1,163 @@
+#include "diary/window1.h"
+
+#include "diary/date_window.h"
+#include "settings/globals.h"
+#include "support/test_desk.h"
+
+namespace tallyvane {
+
+namespace {
+
+class Window1Test : public DiaryDesk {
+protected:
+    /// The date dialog that a click has opened.
+    DateWindow& dateWindow() { return dynamic_cast<DateWindow&>(*Window::openWindows().back()); }
+};
+
+TEST_F(Window1Test, GeometryComesFromItsFileAndIsCorrected) {
+    struct Row {
+        const char* name;
+        const char* file;
+        Rect want;
+    };
+    const Row rows[] = {
+        {"as saved", "120\n80\n746\n600\n", {120, 80, 746, 600}},
+        {"off the top and the left", "-30\n20\n746\n518\n", {0, 50, 746, 518}},
+        {"another width, too low", "5\n60\n1000\n100\n", {5, 60, 746, 490}},
+        {"too high", "5\n60\n746\n99999999999\n", {5, 60, 746, 32000}},
+        {"too short", "7\n", {7, 50, 746, 490}},
+        {"no numbers", "left\ntop\nwidth\nheight", {0, 50, 746, 490}},
+        {"no number fits", "1e9\n-99999999999999999999\n\n", {1, 50, 746, 490}},
+    };
+    for (const Row& row : rows) {
+        write(applicationFile("QVXWindowData"), row.file);
+        Window1 window(toolbar_, menuBar_);
+        window.Open();
+        EXPECT_EQ((Rect{window.Left(), window.Top(), window.Width(), window.Height()}), row.want) << row.name;
+        window.saveWindowData();
+        Rect saved = row.want;
+        EXPECT_EQ(read(applicationFile("QVXWindowData")),
+                  std::to_string(saved.left) + "\n" + std::to_string(saved.top) + "\n746\n" + std::to_string(saved.height) + "\n")
+            << row.name;
+    }
+}
+
+TEST_F(Window1Test, WithoutAFileTheWindowKeepsItsSizeAndPlaceOfCreation) {
+    open();
+    EXPECT_EQ((Rect{window1_.Left(), window1_.Top(), window1_.Width(), window1_.Height()}), (Rect{400, 300, 746, 518}));
+    EXPECT_EQ(window1_.Title(), "Tallyvane");
+    EXPECT_FALSE(window1_.Visible());
+}
+
+TEST_F(Window1Test, HeadingsGoToTheirLabelsAndColumns) {
+    write(applicationFile("7VXHeadings"), "g1\ng2\ng3\ng4\nc1\nc2\nc3\nc4\nc5\nc6\nc7\nc8\nc9\nmore\n");
+    open();
+    EXPECT_EQ(window1_.StaticText13.Text(), "g1");
+    EXPECT_EQ(window1_.StaticText20.Text(), "g4");
+    EXPECT_EQ(table_.Heading(0), "Date");
+    for (int column = 1; column <= 9; ++column)
+        EXPECT_EQ(table_.Heading(column), "c" + std::to_string(column));
+}
+
+TEST_F(Window1Test, TheLastColumnIsNarrowerWhenTheRowsNeedAScrollBar) {
+    open();
+    const std::string wide = "82,72,72,72,72,72,72,72,72,87";
+    const std::string narrow = "82,72,72,72,72,72,72,72,72,72";
+    for (int row = 0; row < 15; ++row)
+        addRow({"1/1/2026"});
+    window1_.BevelButton1_Action(); // 16 rows and the headings: 255 of 259 points
+    EXPECT_EQ(table_.ColumnWidths(), wide);
+    window1_.CalendarControl1_DayDoubleClicked(); // leaves the widths as they are
+    EXPECT_EQ(table_.ColumnWidths(), wide);
+    window1_.BevelButton2_Action();
+    window1_.BevelButton1_Action();
+    EXPECT_EQ(table_.ColumnWidths(), narrow);
+    window1_.BevelButton2_Action();
+    EXPECT_EQ(table_.ColumnWidths(), wide);
+}
+
+TEST_F(Window1Test, TheDialogChangesTheDateOfTheSelectedDay) {
+    open();
+    addRow({"1/1/2026", "5"});
+    addRow({"2/2/2026"});
+    table_.ListIndex(1);
+    EXPECT_FALSE(window1_.ListBox1_CellClick(1, 0, 0, 0));
+    EXPECT_EQ(dateWindow().CalendarControl1.SelectedDate(), Date(2026, 2, 2));
+    dateWindow().CalendarControl1.SelectedDate(Date(2025, 12, 24));
+    dateWindow().PushButton1_Action();
+    EXPECT_EQ(column(0), (std::vector<std::string>{"1/1/2026", "12/24/2025"})) << "the row keeps its place";
+    EXPECT_LT(table_.Cell(1, 10), table_.Cell(0, 10));
+    EXPECT_EQ(Window::openWindows().size(), 1U);
+
+    window1_.ListBox1_CellClick(1, 0, 0, 0);
+    dateWindow().CalendarControl1.SelectedDate(Date(2000, 1, 1));
+    dateWindow().PushButton2_Action();
+    EXPECT_EQ(table_.Cell(1, 0), "12/24/2025");
+    EXPECT_EQ(Window::openWindows().size(), 1U);
+
+    EXPECT_FALSE(window1_.ListBox1_CellClick(1, 1, 0, 0)); // no date, no dialog
+    EXPECT_EQ(Window::openWindows().size(), 1U);
+}
+
+TEST_F(Window1Test, TheDialogOpensAlsoForADateThatCantBeRead) {
+    open();
+    addRow({"soon"});
+    table_.ListIndex(0);
+    window1_.ListBox1_CellClick(0, 0, 0, 0);
+    EXPECT_EQ(dateWindow().CalendarControl1.SelectedDate(), Date(2026, 11, 22, 12 * 3600)) << "today";
+    dateWindow().PushButton1_Action();
+    EXPECT_EQ(table_.Cell(0, 0), "11/22/2026");
+}
+
+TEST_F(Window1Test, ToolbarButtonsReachTheirWindows) {
+    std::string log;
+    window1_.showResources = [&] {
+        log += "resources ";
+        Globals::gFileWindowOpen = true; // as the window itself does
+    };
+    window1_.closeResources = [&] {
+        log += "close ";
+        Globals::gFileWindowOpen = false;
+    };
+    window1_.showLogs = [&] { log += "logs "; };
+    window1_.showTeamAndMedications = [&] { log += "team "; };
+    window1_.showGraph = [&] { log += "graph "; };
+    window1_.showHeadingsEditor = [&] { log += "headings "; };
+    const auto press = [&](const char* name) { toolbar_.Action(ToolItem{name, "", "", ""}); };
+
+    press("ResourcesBtn");
+    EXPECT_TRUE(Globals::gFilesOpen);
+    press("ResourcesBtn");
+    EXPECT_FALSE(Globals::gFilesOpen);
+    for (const char* name : {"LogsBtn", "TeamMedBtn", "HeadingsBtn", "NoSuchBtn"})
+        press(name);
+    EXPECT_EQ(log, "resources close logs team headings ");
+}
+
+TEST_F(Window1Test, AGraphNeedsTwoSelectedDays) {
+    int graphs = 0;
+    window1_.showGraph = [&] { ++graphs; };
+    for (int row = 0; row < 2; ++row)
+        addRow({"1/1/2026"});
+    const ToolItem button{"GraphBtn", "", "", ""};
+    window1_.Toolbar11_Action(button);
+    table_.Selected(0, true);
+    window1_.Toolbar11_Action(button);
+    EXPECT_EQ(toolkit_.messages, std::vector<std::string>(2, "Please select 2 or more days to graph."));
+    table_.Selected(1, true);
+    window1_.Toolbar11_Action(button);
+    EXPECT_EQ(graphs, 1);
+    EXPECT_EQ(toolkit_.messages.size(), 2U);
+}
+
+TEST_F(Window1Test, ClosingSavesThreeFilesAndEndsTheProgram) {
+    open();
+    addRow({"1/1/2026", "5"});
+    window1_.Close();
+    for (const char* file : {"7VXData", "QVXLogData", "QVXWindowData"})
+        EXPECT_TRUE(std::filesystem::exists(applicationFile(file))) << file;
+    EXPECT_EQ(toolkit_.quits, std::vector<int>{0});
+}
+
+} // namespace
+} // namespace tallyvane

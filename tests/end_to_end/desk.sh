@@ -1,0 +1,93 @@
+# A desktop for a story: a virtual display with a window manager, and a home for the program's files. Sourced by the
+# stories, each of which gets the path of the program as its argument.
+set -euo pipefail
+
+program=$1
+home=$(mktemp -d)
+days="$home/data/Tallyvane/7VXData"
+mkdir -p "$home/data" "$home/run"
+chmod 700 "$home/run"
+export XDG_DATA_HOME="$home/data" XDG_RUNTIME_DIR="$home/run" LC_ALL=C.UTF-8 QT_QPA_PLATFORM=xcb
+unset WAYLAND_DISPLAY
+
+fail() {
+    echo "FAILED: $*" >&2
+    exit 1
+}
+
+# Waits until a command succeeds, half a minute at most.
+until_true() {
+    local deadline=$((SECONDS + 30))
+    until "$@" >/dev/null 2>&1; do
+        ((SECONDS < deadline)) || fail "still not true after 30 seconds: $*"
+        sleep 0.05
+    done
+}
+
+clean_up() {
+    kill $(jobs -p) 2>/dev/null || true
+    wait 2>/dev/null || true
+    rm -rf "$home"
+}
+trap clean_up EXIT
+
+exec 3>"$home/display"
+Xvfb -displayfd 3 -screen 0 1280x1024x24 >/dev/null 2>&1 &
+until_true grep -q . "$home/display"
+export DISPLAY=":$(cat "$home/display")"
+openbox >/dev/null 2>&1 &
+until_true xdotool get_desktop
+
+start() {
+    "$program" 2>"$home/errors" &
+    pid=$!
+    until_true main_window
+}
+
+# The visible main window: the wide one; the splash window bears the same name.
+main_window() {
+    local id
+    for id in $(xdotool search --onlyvisible --name '^Tallyvane$'); do
+        [[ $(xdotool getwindowgeometry --shell "$id") == *WIDTH=746* ]] && window=$id && return 0
+    done
+    return 1
+}
+
+in_front() {
+    xdotool windowactivate "$window"
+    until_true active "$window"
+}
+
+inactive() { ! active "$window"; }
+
+go_to_another_program() {
+    xmessage "another program" &
+    other=$!
+    until_true inactive
+}
+
+come_back() {
+    kill "$other"
+    in_front
+}
+
+active() { [[ $(xdotool getwindowfocus) == "$1" ]]; }
+
+# Clicks at a place of the table and what lies below it: points from the left, and from the bottom of the window, since
+# the height of menus and toolbar is the theme's.
+click_from_bottom() {
+    local X Y WIDTH HEIGHT WINDOW SCREEN
+    eval "$(xdotool getwindowgeometry --shell "$window")"
+    xdotool mousemove --window "$window" "$1" $((HEIGHT - $2)) click 1
+}
+
+plus() { click_from_bottom 19 219; } # the "+" button
+
+day_is() { grep -qxE "$1" "$days"; }
+
+# The end of the program, with exit code 0.
+ends_well() {
+    local code=0
+    wait "$pid" || code=$?
+    ((code == 0)) || fail "the program ended with $code: $(cat "$home/errors")"
+}

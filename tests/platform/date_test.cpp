@@ -1,0 +1,67 @@
+#include "platform/date.h"
+
+#include <gtest/gtest.h>
+
+namespace tallyvane {
+
+namespace {
+
+class DateTest : public ::testing::Test {
+protected:
+    DateTest() {
+        DateSource::now = [] { return Date(2026, 11, 22, 3600); };
+    }
+    ~DateTest() override { DateSource::setShortPattern("yyyy-MM-dd"); }
+};
+
+TEST_F(DateTest, ShortFormsOfTheLocales) {
+    struct Row {
+        const char* pattern;
+        const char* want;
+        const char* twoDigitYear;
+    };
+    const Row rows[] = {
+        {"M/d/yy", "11/2/2026", "11/2/26"},         {"dd.MM.yy", "02.11.2026", "2.11.26"},
+        {"dd/MM/yyyy", "02/11/2026", "2/11/26"},    {"yyyy-MM-dd", "2026-11-02", "26-11-2"},
+        {"yyyy. MM. dd.", "2026. 11. 02.", "26. 11. 2."}, {"d.MM.yyyy '\u0433'.", "2.11.2026 \u0433.", "2.11.26 \u0433."},
+        {"d MMM yyyy", "2026-11-02", "26-11-2"}, // a month by name: ISO instead
+        {"d/d/yyyy", "2026-11-02", "26-11-2"},   // no month at all
+        {"", "2026-11-02", "26-11-2"},
+    };
+    const Date date(2026, 11, 2);
+    for (const Row& row : rows) {
+        DateSource::setShortPattern(row.pattern);
+        EXPECT_EQ(date.ShortDate(), row.want);
+        EXPECT_EQ(ParseDate(row.want), date) << row.pattern;
+        EXPECT_EQ(ParseDate(row.twoDigitYear), date) << row.pattern;
+        EXPECT_EQ(ParseDate("2026-11-02"), date) << row.pattern;
+    }
+}
+
+TEST_F(DateTest, TextsThatAreNoDayDoNotParse) {
+    DateSource::setShortPattern("M/d/yyyy");
+    for (const char* text : {"", "hello", "2/29/2026", "2/30/2024", "13/1/2026", "0/1/2026", "1/0/2026", "1/1/0000",
+                             "1/1/202", "1/1/20266", "1/1", "1/1/2026x", "x1/1/2026", "1-1-2026", "2026/11/02", "-1/1/2026"})
+        EXPECT_FALSE(ParseDate(text)) << text;
+    EXPECT_EQ(ParseDate("2/29/2024"), Date(2024, 2, 29));
+    EXPECT_EQ(ParseDate(" 1/1/2026\t"), Date(2026, 1, 1));
+}
+
+TEST_F(DateTest, ATwoDigitYearIsTheNearestToToday) {
+    DateSource::setShortPattern("M/d/yyyy");
+    EXPECT_EQ(ParseDate("1/1/76"), Date(2076, 1, 1));
+    EXPECT_EQ(ParseDate("1/1/77"), Date(1977, 1, 1));
+    EXPECT_EQ(ParseDate("1/1/91"), Date(1991, 1, 1));
+    DateSource::now = [] { return Date(2096, 1, 1); };
+    EXPECT_EQ(ParseDate("1/1/05"), Date(2105, 1, 1));
+}
+
+TEST_F(DateTest, SecondsRiseWithTheDaysAndFitInTwelveDigits) {
+    EXPECT_EQ(Date(1, 1, 1).TotalSeconds(), 0);
+    EXPECT_EQ(Date(2000, 3, 1).TotalSeconds() - Date(2000, 2, 28).TotalSeconds(), 2 * 86400);
+    EXPECT_EQ(Date().TotalSeconds() - Date(2026, 11, 22).TotalSeconds(), 3600);
+    EXPECT_LT(Date(9999, 12, 31, 86399).TotalSeconds(), 1e12);
+}
+
+} // namespace
+} // namespace tallyvane

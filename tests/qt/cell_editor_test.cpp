@@ -1,0 +1,103 @@
+#include <QClipboard>
+
+#include "qt/qt_desk.h"
+
+namespace tallyvane {
+
+namespace {
+
+class CellEditorTest : public QtDesk {
+protected:
+    void SetUp() override {
+        QtDesk::SetUp();
+        std::string days;
+        for (int day = 1; day <= 40; ++day)
+            days += "1/" + std::to_string(day % 28 + 1) + "/2026@#@5@#@6@#@@#@@#@@#@@#@@#@@#@180@#@\n";
+        write(applicationFile("7VXData"), days);
+        start();
+    }
+};
+
+TEST_F(CellEditorTest, AClickOpensAReadingAndTypingReplacesIt) {
+    click(3, 1);
+    ASSERT_TRUE(editor()->isVisible());
+    EXPECT_EQ(editor()->selectedText(), QStringLiteral("5"));
+    QTest::keyClicks(editor(), QStringLiteral("7.2"));
+    EXPECT_EQ(list().Cell(3, 1), "7.2");
+    EXPECT_EQ(list().Cell(3, 8), "6.6");
+    EXPECT_EQ(app_->window1()->StaticText1.Text(), "7.2");
+    QTest::keyClick(editor(), Qt::Key_Tab);
+    EXPECT_EQ(list().openColumn(), 2);
+    EXPECT_EQ(editor()->selectedText(), QStringLiteral("6"));
+    QTest::keyClick(editor(), Qt::Key_Down);
+    EXPECT_EQ(list().openRow(), 4);
+    QTest::keyClick(editor(), Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(list().openColumn(), 1);
+    QTest::keyClick(editor(), Qt::Key_Return);
+    EXPECT_EQ(list().openRow(), -1);
+    EXPECT_FALSE(editor()->isVisible());
+    EXPECT_EQ(list().Cell(3, 1), "7.2");
+}
+
+TEST_F(CellEditorTest, ColumnsWithoutTypingDoNotOpen) {
+    click(2, 8);
+    EXPECT_EQ(list().openRow(), -1);
+    EXPECT_EQ(list().ListIndex(), 2);
+    click(2, 9);
+    EXPECT_EQ(list().openColumn(), 9);
+}
+
+TEST_F(CellEditorTest, AtAnEdgeTheTextIsSelectedAnew) {
+    click(0, 1);
+    QTest::keyClick(editor(), Qt::Key_End);
+    EXPECT_FALSE(editor()->hasSelectedText());
+    QTest::keyClick(editor(), Qt::Key_Left);
+    EXPECT_EQ(list().openColumn(), 1);
+    EXPECT_EQ(editor()->selectedText(), QStringLiteral("5"));
+}
+
+TEST_F(CellEditorTest, EscapeTakesTheTypingBack) {
+    click(5, 2);
+    QTest::keyClicks(editor(), QStringLiteral("99"));
+    EXPECT_EQ(list().Cell(5, 8), "52.0");
+    QTest::keyClick(editor(), Qt::Key_Escape);
+    EXPECT_EQ(list().Cell(5, 2), "6");
+    EXPECT_EQ(list().Cell(5, 8), "5.5");
+    EXPECT_FALSE(editor()->isVisible());
+}
+
+TEST_F(CellEditorTest, PastedLinesBecomeOneLine) {
+    QGuiApplication::clipboard()->setText(QStringLiteral("5\n6\r\n7"));
+    click(1, 1);
+    editor()->paste();
+    EXPECT_EQ(list().Cell(1, 1).find_first_of("\r\n"), std::string::npos);
+    EXPECT_NE(list().Cell(1, 1), "5");
+}
+
+TEST_F(CellEditorTest, TheOpenCellStaysWithItsRowWhileTheListScrolls) {
+    click(3, 1);
+    const int top = editor()->y();
+    table_->scrollToBottom();
+    EXPECT_NE(editor()->y(), top);
+    QTest::keyClicks(editor(), QStringLiteral("8"));
+    EXPECT_EQ(list().Cell(3, 1), "8");
+}
+
+TEST_F(CellEditorTest, ACellOpenElsewhereInTheWindowIsClosed) {
+    click(3, 1);
+    QTest::keyClicks(editor(), QStringLiteral("8"));
+    frame_->findChild<QPlainTextEdit*>()->setFocus();
+    EXPECT_EQ(list().openRow(), -1);
+    EXPECT_EQ(list().Cell(3, 1), "8");
+}
+
+TEST_F(CellEditorTest, BytesThatAreNoTextSurviveALook) {
+    list().Cell(2, 1, "\xFF\xFE");
+    click(2, 1);
+    EXPECT_EQ(editor()->text(), QString(2, QChar(0xFFFD)));
+    QTest::keyClick(editor(), Qt::Key_Return);
+    EXPECT_EQ(list().Cell(2, 1), "\xFF\xFE");
+}
+
+} // namespace
+} // namespace tallyvane

@@ -1,0 +1,191 @@
+#include <QCalendarWidget>
+#include <QHeaderView>
+#include <QMenu>
+#include <QToolBar>
+#include <QToolButton>
+
+#include "qt/qt_desk.h"
+#include "settings/globals.h"
+
+namespace tallyvane {
+
+namespace {
+
+class MainWindowTest : public QtDesk {};
+
+TEST_F(MainWindowTest, ADayIsAddedTypedKeptAndRemoved) {
+    start();
+    QTest::mouseClick(button<QToolButton>(frame_, QStringLiteral("+")), Qt::LeftButton);
+    ASSERT_TRUE(editor()->isVisible());
+    EXPECT_TRUE(editor()->hasFocus());
+    QTest::keyClicks(editor(), QStringLiteral("5.6"));
+    app_->Event_Deactivate();
+    EXPECT_TRUE(read(applicationFile("7VXData")).starts_with("11/22/2026@#@5.6@#@"));
+    QTest::mouseClick(button<QToolButton>(frame_, QString(QChar(0x2212))), Qt::LeftButton);
+    EXPECT_EQ(list().ListCount(), 0);
+    EXPECT_EQ(table_->model()->rowCount(), 0);
+    EXPECT_FALSE(editor()->isVisible());
+}
+
+TEST_F(MainWindowTest, SelectionsGoBothWays) {
+    write(applicationFile("7VXData"), "1/1/2026@#@5\n1/2/2026@#@6\n1/3/2026@#@7\n1/4/2026@#@8\n");
+    start();
+    click(0, 8);
+    click(2, 8, Qt::ShiftModifier);
+    EXPECT_EQ(list().SelectedCount(), 3);
+    EXPECT_EQ(app_->window1()->StaticText1.Text(), "6.0");
+    click(1, 0, Qt::ControlModifier); // no click in the date: the selection changes, no dialog comes
+    EXPECT_EQ(list().SelectedCount(), 2);
+    EXPECT_EQ(frameTitled(QStringLiteral("Change Date")), nullptr);
+    list().ListIndex(3);
+    EXPECT_EQ(table_->selectionModel()->selectedRows().size(), 1);
+    QTest::mouseClick(table_->viewport(), Qt::LeftButton, {}, {20, table_->viewport()->height() - 3});
+    EXPECT_EQ(list().SelectedCount(), 0);
+    EXPECT_EQ(app_->window1()->StaticText1.Text(), "6.5");
+}
+
+TEST_F(MainWindowTest, AHeadingSortsAndTheSelectionStaysWithItsDays) {
+    write(applicationFile("7VXData"), "1/2/2026@#@5\n1/1/2026@#@6\n");
+    start();
+    click(0, 8);
+    QHeaderView* header = table_->horizontalHeader();
+    QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, {20, 8});
+    EXPECT_EQ(list().Cell(0, 0), "1/1/2026");
+    EXPECT_TRUE(list().Selected(1));
+    EXPECT_EQ(table_->selectionModel()->selectedRows().front().row(), 1);
+}
+
+TEST_F(MainWindowTest, ADateIsChangedInItsDialog) {
+    write(applicationFile("7VXData"), "1/2/2026@#@5\nsoon@#@6\n");
+    start();
+    click(0, 0);
+    WindowFrame* dialog = frameTitled(QStringLiteral("Change Date"));
+    ASSERT_NE(dialog, nullptr);
+    auto* calendar = dialog->findChild<QCalendarWidget*>();
+    EXPECT_EQ(calendar->selectedDate(), QDate(2026, 1, 2));
+    calendar->setSelectedDate(QDate(2025, 12, 31));
+    QTest::mouseClick(button<QPushButton>(dialog, QStringLiteral("OK")), Qt::LeftButton);
+    EXPECT_EQ(list().Cell(0, 0), "12/31/2025");
+    EXPECT_EQ(frameTitled(QStringLiteral("Change Date")), nullptr);
+
+    click(1, 0);
+    dialog = frameTitled(QStringLiteral("Change Date"));
+    QApplication::setActiveWindow(dialog);
+    QTest::keyClick(dialog, Qt::Key_Escape);
+    EXPECT_EQ(list().Cell(1, 0), "soon");
+    EXPECT_EQ(frameTitled(QStringLiteral("Change Date")), nullptr);
+}
+
+TEST_F(MainWindowTest, ADoubleClickInTheCalendarAddsThatDay) {
+    start();
+    auto* calendar = frame_->findChild<QCalendarWidget*>();
+    calendar->setSelectedDate(QDate(2026, 3, 4));
+    Q_EMIT calendar->activated(QDate(2026, 3, 4));
+    EXPECT_EQ(list().Cell(0, 0), "3/4/2026");
+}
+
+TEST_F(MainWindowTest, ItemsAndButtonsWithoutAnAnswerAreOff) {
+    start();
+    std::vector<std::string> enabled;
+    for (const QAction* menu : frame_->menuBar()->actions()) {
+        Q_EMIT menu->menu()->aboutToShow();
+        for (const QAction* action : menu->menu()->actions())
+            if (!action->isSeparator() && action->isEnabled() && !action->objectName().startsWith(QStringLiteral("Edit")))
+                enabled.push_back(fromQt(action->objectName()));
+    }
+    std::sort(enabled.begin(), enabled.end());
+    EXPECT_EQ(enabled, (std::vector<std::string>{"FileAboutBrindlemarks", "FileQuit", "HelpSupportForum", "HelpUsersGuide"}));
+    for (const QAction* action : frame_->findChild<QToolBar*>()->actions())
+        if (!action->text().isEmpty())
+            EXPECT_FALSE(action->isEnabled()) << fromQt(action->text());
+}
+
+TEST_F(MainWindowTest, TheEditMenuActsOnTheFocusedField) {
+    start();
+    auto* journal = frame_->findChild<QPlainTextEdit*>();
+    journal->setFocus();
+    journal->setPlainText(QStringLiteral("felt well"));
+    const auto choose = [&](const char* name) {
+        auto* action = frame_->findChild<QAction*>(QLatin1String(name));
+        Q_EMIT qobject_cast<QMenu*>(action->parent())->aboutToShow();
+        EXPECT_TRUE(action->isEnabled()) << name;
+        action->trigger();
+    };
+    choose("EditSelectAll");
+    choose("EditClear");
+    EXPECT_EQ(Globals::gJournal, "");
+    choose("EditUndo");
+    EXPECT_EQ(Globals::gJournal, "felt well");
+}
+
+TEST_F(MainWindowTest, TheIndicatorSwitchHidesAndShowsTheStripsLights) {
+    write(applicationFile("7VXData"), "1/1/2026@#@5\n");
+    start();
+    const QRect light(82 + 3 + 4, 26 + 259 + 6 + 4, 3, 3);
+    const auto shows = [&] { return frame_->centralWidget()->grab(light).toImage().pixelColor(1, 1).saturationF() > 0.5; };
+    EXPECT_TRUE(shows());
+    for (const bool on : {false, true}) {
+        Globals::gShowIndicators = on;
+        app_->window1()->Timer1.fire();
+        EXPECT_EQ(shows(), on);
+    }
+}
+
+TEST_F(MainWindowTest, ReturnOpensTheDateOfItsOwnRow) {
+    write(applicationFile("7VXData"), "1/1/2026@#@5\n1/2/2026@#@6\n1/3/2026@#@7\n");
+    start();
+    list().ListIndex(0);
+    table_->setCurrentIndex(table_->model()->index(0, 0));
+    QTest::keyClick(table_, Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(list().SelectedCount(), 2);
+    QTest::keyClick(table_, Qt::Key_Return);
+    EXPECT_EQ(list().ListIndex(), 1);
+    WindowFrame* dialog = frameTitled(QStringLiteral("Change Date"));
+    dialog->findChild<QCalendarWidget*>()->setSelectedDate(QDate(2020, 1, 1));
+    QTest::mouseClick(button<QPushButton>(dialog, QStringLiteral("OK")), Qt::LeftButton);
+    EXPECT_EQ(list().Cell(0, 0), "1/1/2026");
+    EXPECT_EQ(list().Cell(1, 0), "1/1/2020");
+}
+
+TEST_F(MainWindowTest, ShortcutsWorkWhileACellIsOpen) {
+    start();
+    QTest::mouseClick(button<QToolButton>(frame_, QStringLiteral("+")), Qt::LeftButton);
+    QTest::keyClick(editor(), Qt::Key_I, Qt::ControlModifier); // no Tab, although it comes as character 9
+    EXPECT_EQ(list().openColumn(), 1);
+    QTest::keyClick(editor(), Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_TRUE(qt_.quitAsked());
+}
+
+TEST_F(MainWindowTest, MovesAndSizesOfTheUserAreSaved) {
+    write(applicationFile("QVXWindowData"), "60\n70\n746\n560\n");
+    start();
+    EXPECT_EQ(frame_->pos(), QPoint(60, 70));
+    EXPECT_EQ(frame_->centralWidget()->size(), QSize(746, 560));
+    frame_->move(90, 100);
+    frame_->resize(frame_->width() + 50, frame_->height() + 40);
+    frame_->close();
+    EXPECT_EQ(read(applicationFile("QVXWindowData")), "90\n100\n746\n600\n");
+    EXPECT_TRUE(qt_.quitAsked());
+    EXPECT_EQ(frameTitled(QStringLiteral("Tallyvane")), nullptr);
+}
+
+TEST_F(MainWindowTest, TheSelectedRowIsLegibleOnBothBands) {
+    write(applicationFile("7VXData"), "1/1/2026@#@5\n1/2/2026@#@5\n1/3/2026@#@5\n1/4/2026@#@5\n");
+    start();
+    list().select({true, true, false, false});
+    const QImage shown = table_->viewport()->grab().toImage();
+    // A free place of the cell, and the middle of its light.
+    const auto ground = [&](int row) { return shown.pixelColor(82 + 25, row * 15 + 3); };
+    const auto light = [&](int row) { return shown.pixelColor(82 + 8, row * 15 + 7); };
+    EXPECT_EQ(ground(2), QColor(217, 233, 255));
+    EXPECT_EQ(ground(3), QColor(255, 255, 255));
+    for (const int row : {0, 1}) {
+        EXPECT_NE(ground(row), ground(row + 2)) << "a selected row looks like one that is not";
+        EXPECT_EQ(light(row), light(row + 2)) << "the selection changes the light";
+        const auto brightness = [](const QColor& color) { return color.lightnessF(); };
+        EXPECT_GT(brightness(ground(row)), 0.6) << "dark text is hard to read";
+    }
+}
+
+} // namespace
+} // namespace tallyvane

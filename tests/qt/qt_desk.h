@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QApplication>
+#include <QTest>
+
+#include "platform/qt/event_guard.h"
+#include "platform/qt/listbox_peer.h"
+#include "platform/qt/qt_toolkit.h"
+#include "platform/qt/window_peer.h"
+#include "support/test_desk.h"
+
+namespace tallyvane {
+
+/// The whole program on Qt, with the diary in front.
+class QtDesk : public TestDesk {
+protected:
+    /// Starts on the files that the test has laid out and waits for nothing: the splash is over at once.
+    void start() {
+        app_ = std::make_unique<App>();
+        setEventGuard([this](const std::function<void()>& event) { app_->run(event); });
+        app_->Event_Open();
+        app_->splashWindow()->Timer1.fire();
+        frame_ = frameTitled(QStringLiteral("Tallyvane"));
+        ASSERT_NE(frame_, nullptr);
+        table_ = frame_->findChild<ListboxPeer*>();
+        QApplication::setActiveWindow(frame_);
+    }
+    void TearDown() override {
+        app_.reset();
+        setEventGuard(nullptr);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        TestDesk::TearDown();
+    }
+
+    static WindowFrame* frameTitled(const QString& title) {
+        for (QWidget* widget : QApplication::topLevelWidgets())
+            if (auto* frame = dynamic_cast<WindowFrame*>(widget); frame != nullptr && frame->isVisible() && frame->windowTitle() == title)
+                return frame;
+        return nullptr;
+    }
+    /// The button with that text.
+    template <class Button>
+    static Button* button(QWidget* parent, const QString& text) {
+        for (auto* found : parent->findChildren<Button*>())
+            if (found->text() == text)
+                return found;
+        return nullptr;
+    }
+    void click(int row, int column, Qt::KeyboardModifiers modifiers = {}) {
+        const QRect cell = table_->visualRect(table_->model()->index(row, column));
+        QTest::mouseClick(table_->viewport(), Qt::LeftButton, modifiers, cell.center());
+    }
+    QLineEdit* editor() { return table_->findChild<CellEditor*>(); }
+    Listbox& list() { return app_->window1()->ListBox1; }
+
+    QtToolkit qt_; // in force instead of the recording one
+    std::unique_ptr<App> app_;
+    WindowFrame* frame_ = nullptr;
+    ListboxPeer* table_ = nullptr;
+};
+
+} // namespace tallyvane

@@ -1,0 +1,149 @@
+#include "settings/prefs_module.h"
+
+#include "settings/data_files.h"
+#include "settings/globals.h"
+#include "settings/headings.h"
+#include "support/test_desk.h"
+
+namespace tallyvane {
+
+namespace {
+
+class PrefsTest : public TestDesk {
+protected:
+    void SetUp() override {
+        TestDesk::SetUp();
+        makeApplicationFolder();
+        PrefsModule::bringUpMainWindow = [this] { ++windowsBroughtUp_; };
+    }
+    void TearDown() override {
+        EXPECT_EQ(windowsBroughtUp_, reads_) << "the main window comes on every path";
+        PrefsModule::bringUpMainWindow = nullptr;
+        TestDesk::TearDown();
+    }
+
+    void readPreferences(const std::string& content) {
+        write(applicationFile("Brindlemarks Preferences"), content);
+        getPrefs();
+    }
+    void getPrefs() {
+        ++reads_;
+        PrefsModule::getPrefs();
+    }
+    static std::string dataFolder() { return StartupGlobals::gDataFolder->AbsolutePath(); }
+
+    int reads_ = 0;
+    int windowsBroughtUp_ = 0;
+};
+
+TEST_F(PrefsTest, AFirstRunHasTheDefaults) {
+    getPrefs();
+    EXPECT_EQ(Globals::gOver, 13.0);
+    EXPECT_EQ(Globals::gUnder, 3.0);
+    EXPECT_TRUE(Globals::gShowIndicators);
+    EXPECT_FALSE(Globals::gIncludeMeds);
+    EXPECT_EQ(dataFolder(), (folder_ / "Tallyvane").string());
+    EXPECT_EQ(PrefsModule::gDataLocation, "ApplicationSupport");
+    EXPECT_FALSE(std::filesystem::exists(applicationFile("Brindlemarks Preferences")));
+}
+
+TEST_F(PrefsTest, EachLineIsReadByItsOwnRule) {
+    Globals::gIncludeFood = true;
+    readPreferences("false\n180\n140.5\n80\nx\ntrue\nTRUE\nfalse\n\nSomewhere\nmore");
+    EXPECT_FALSE(Globals::gShowIndicators);
+    EXPECT_EQ(Globals::gOver, 180);
+    EXPECT_EQ(Globals::gCaution, 140.5);
+    EXPECT_EQ(Globals::gLow, 80);
+    EXPECT_EQ(Globals::gUnder, 0) << "no number reads as 0";
+    EXPECT_TRUE(Globals::gIncludeMeds);
+    EXPECT_FALSE(Globals::gIncludeExercise) << "only the exact word turns a switch on";
+    EXPECT_TRUE(Globals::gIncludeFood) << "these lines turn nothing off";
+    EXPECT_EQ(dataFolder(), (folder_ / "Tallyvane").string());
+    EXPECT_EQ(PrefsModule::gDataLocation, "Somewhere");
+}
+
+TEST_F(PrefsTest, AShortFileGivesEmptyLines) {
+    readPreferences("anything else\r\n12");
+    EXPECT_FALSE(Globals::gShowIndicators);
+    EXPECT_EQ(Globals::gOver, 12);
+    EXPECT_EQ(Globals::gCaution, 0);
+    EXPECT_EQ(PrefsModule::gDataLocation, "ApplicationSupport");
+}
+
+TEST_F(PrefsTest, AFolderInPlaceOfTheFileGivesTheDefaults) {
+    std::filesystem::create_directory(applicationFile("Brindlemarks Preferences"));
+    getPrefs();
+    EXPECT_EQ(Globals::gOver, 13.0);
+    EXPECT_EQ(dataFolder(), (folder_ / "Tallyvane").string());
+}
+
+TEST_F(PrefsTest, TheSecondPlaceIsSearchedOnlyWithoutAnApplicationFolder) {
+    write(folder_ / "Dropbox" / "Tallyvane" / "Brindlemarks Preferences", "true\n99\n");
+    getPrefs();
+    EXPECT_EQ(Globals::gOver, 13.0);
+    std::filesystem::remove_all(folder_ / "Tallyvane");
+    getPrefs();
+    EXPECT_EQ(Globals::gOver, 99);
+}
+
+TEST_F(PrefsTest, WithoutAnyPlaceNothingIsSettled) {
+    SpecialFolder::ApplicationData.reset();
+    SpecialFolder::UserHome.reset();
+    getPrefs();
+    EXPECT_FALSE(StartupGlobals::gDataFolder);
+    PrefsModule::savePrefs();
+    EXPECT_EQ(PrefsModule::gDataLocation, "");
+}
+
+TEST_F(PrefsTest, AMissingDataFolderGivesWayToTheApplicationFolder) {
+    struct Row {
+        const char* name;
+        std::string path;
+        bool there;
+    };
+    write(folder_ / "file", "");
+    std::filesystem::create_directory(folder_ / "days");
+    const Row rows[] = {
+        {"there", (folder_ / "days").string(), true},
+        {"gone", (folder_ / "gone").string(), false},
+        {"a file", (folder_ / "file").string(), false},
+        {"no path", "days", false},
+    };
+    for (const Row& row : rows) {
+        StartupGlobals::gMissingDataFolder.clear();
+        readPreferences("true\n1\n2\n3\n4\n\n\n\n" + row.path + "\nword\n");
+        EXPECT_EQ(dataFolder(), row.there ? row.path : (folder_ / "Tallyvane").string()) << row.name;
+        EXPECT_EQ(StartupGlobals::gMissingDataFolder, row.there ? "" : row.path) << row.name;
+        PrefsModule::savePrefs();
+        const std::string saved = read(std::filesystem::path(dataFolder()) / "Brindlemarks Preferences");
+        EXPECT_NE(saved.find("\n" + row.path + "\n"), std::string::npos) << row.name << ": the folder is forgotten";
+    }
+}
+
+TEST_F(PrefsTest, SavesTenLinesIntoTheDataFolderAndReadsThemBack) {
+    std::filesystem::create_directory(folder_ / "days");
+    StartupGlobals::gDataFolder = GetFolderItem((folder_ / "days").string());
+    Globals::gOver = 10.55;
+    Globals::gShowIndicators = false;
+    Globals::gIncludeExercise = true;
+    PrefsModule::savePrefs();
+    const std::string saved = read(folder_ / "days" / "Brindlemarks Preferences");
+    EXPECT_EQ(saved, "false\n10.55\n9\n5\n3\nfalse\ntrue\nfalse\n" + dataFolder() + "\nApplicationSupport\n");
+
+    Globals::gOver = 0;
+    Globals::gIncludeExercise = false;
+    readPreferences(saved);
+    EXPECT_EQ(Globals::gOver, 10.55);
+    EXPECT_TRUE(Globals::gIncludeExercise);
+    EXPECT_EQ(dataFolder(), (folder_ / "days").string());
+}
+
+TEST_F(PrefsTest, HeadingsAreThirteenLinesOfTheApplicationFolder) {
+    EXPECT_FALSE(readHeadings());
+    write(applicationFile("7VXHeadings"), "Morning\nNoon\n\nKilos\nbefore");
+    const Headings headings = readHeadings().value();
+    EXPECT_EQ(headings, (Headings{"Morning", "Noon", "", "Kilos", "before"}));
+}
+
+} // namespace
+} // namespace tallyvane

@@ -1,0 +1,176 @@
+#include "shell/app.h"
+
+#include "settings/data_files.h"
+#include "settings/globals.h"
+#include "shell/menu_bar1.h"
+#include "support/failing_disk.h"
+#include "support/test_desk.h"
+
+namespace tallyvane {
+
+namespace {
+
+class AppTest : public TestDesk {
+protected:
+    std::vector<std::string> enabledItems(App& app, Window* front) {
+        app.menuBar.enableItems(front);
+        std::vector<std::string> names;
+        for (const Menu& menu : app.menuBar.menus())
+            for (const MenuItem& item : menu.items)
+                if (item.Enabled)
+                    names.push_back(item.Name);
+        return names;
+    }
+};
+
+TEST_F(AppTest, AFirstStartMakesItsFolderAndShowsTheDiaryAfterTheSplash) {
+    App app;
+    app.Event_Open();
+    EXPECT_TRUE(std::filesystem::is_directory(folder_ / "Tallyvane"));
+    EXPECT_EQ(StartUpManager::primaryWindow, app.window1());
+    EXPECT_FALSE(app.window1()->Visible());
+    EXPECT_EQ(app.window1()->Timer1.Mode(), Timer::ModeSingle);
+    EXPECT_TRUE(app.splashWindow()->Visible());
+    EXPECT_EQ(app.splashWindow()->Timer1.Period(), 1000);
+    EXPECT_EQ(app.splashWindow()->AppNameLabel.Text(), "Tallyvane");
+
+    app.splashWindow()->Timer1.fire();
+    EXPECT_TRUE(app.window1()->Visible());
+    EXPECT_FALSE(app.splashWindow()->isOpen());
+    EXPECT_TRUE(toolkit_.messages.empty());
+    EXPECT_EQ(app.window1()->StaticText16.Text(), "000");
+}
+
+TEST_F(AppTest, EveryLossOfFocusSavesAndTheEndSavesTwiceTheSame) {
+    App app;
+    app.Event_Deactivate(); // before there is a window
+    app.Event_Open();
+    app.Event_Deactivate(); // while the splash window is up
+    EXPECT_EQ(read(applicationFile("7VXData")), "");
+    app.window1()->BevelButton1_Action();
+    app.window1()->ListBox1.userTyped("5.6", 3, 0);
+    app.Event_Deactivate();
+    const std::string saved = read(applicationFile("7VXData"));
+    EXPECT_TRUE(saved.starts_with("11/22/2026@#@5.6@#@@#@")) << saved;
+    app.FileQuit_Action();
+    EXPECT_EQ(read(applicationFile("7VXData")), saved);
+    app.Event_Close();
+    EXPECT_EQ(read(applicationFile("7VXData")), saved);
+    EXPECT_EQ(toolkit_.quits, std::vector<int>{0});
+}
+
+TEST_F(AppTest, AMissingDataFolderIsToldOnceWhenTheDiaryIsShown) {
+    makeApplicationFolder();
+    write(applicationFile("Brindlemarks Preferences"), "true\n13\n9\n5\n3\n\n\n\n/no/such/folder\n");
+    App app;
+    app.Event_Open();
+    EXPECT_TRUE(toolkit_.messages.empty());
+    app.splashWindow()->Timer1.fire();
+    ASSERT_EQ(toolkit_.messages.size(), 1U);
+    EXPECT_NE(toolkit_.messages[0].find("/no/such/folder"), std::string::npos);
+    EXPECT_NE(toolkit_.messages[0].find((folder_ / "Tallyvane").string()), std::string::npos);
+    app.comeToFront();
+    EXPECT_EQ(toolkit_.messages.size(), 1U);
+}
+
+TEST_F(AppTest, ASecondStartWakesTheFirstAndEndsWithoutAWindow) {
+    makeApplicationFolder();
+    const auto first = SystemFiles::FolderClaim::take((folder_ / "Tallyvane").string());
+    App second;
+    bool woken = false;
+    second.wakeRunningProgram = [&] { woken = true; };
+    second.Event_Open();
+    EXPECT_TRUE(woken);
+    EXPECT_EQ(second.window1(), nullptr);
+    EXPECT_EQ(toolkit_.quits, std::vector<int>{0});
+    second.Event_Deactivate();
+    second.Event_Close();
+    EXPECT_FALSE(std::filesystem::exists(applicationFile("7VXData")));
+}
+
+TEST_F(AppTest, DaysThatAnotherProgramHoldsAreNotOpenedTwice) {
+    makeApplicationFolder();
+    std::filesystem::create_directory(folder_ / "days");
+    write(applicationFile("Brindlemarks Preferences"), "true\n13\n9\n5\n3\n\n\n\n" + (folder_ / "days").string() + "\n");
+    const auto other = SystemFiles::FolderClaim::take((folder_ / "days").string());
+    App app;
+    app.Event_Open();
+    EXPECT_EQ(app.window1(), nullptr);
+    ASSERT_EQ(toolkit_.messages.size(), 1U);
+    EXPECT_EQ(toolkit_.quits, std::vector<int>{0});
+}
+
+TEST_F(AppTest, TheApplicationFolderByAnotherNameIsNoOtherProgram) {
+    makeApplicationFolder();
+    std::filesystem::create_directory_symlink(folder_ / "Tallyvane", folder_ / "link");
+    write(applicationFile("Brindlemarks Preferences"), "true\n13\n9\n5\n3\n\n\n\n" + (folder_ / "link").string() + "\n");
+    App app;
+    app.Event_Open();
+    EXPECT_NE(app.window1(), nullptr);
+    EXPECT_TRUE(toolkit_.messages.empty());
+}
+
+TEST_F(AppTest, WhatFailsOneFileDoesNotCostTheOthers) {
+    App app;
+    app.Event_Open();
+    app.window1()->JournalFld.Text("felt well");
+    app.window1()->BevelButton1_Action();
+    {
+        const FailingDisk disk(FailingDisk::Call::reserve); // once: under the day table
+        app.run([&] { app.FileQuit_Action(); });
+    }
+    EXPECT_FALSE(std::filesystem::exists(applicationFile("7VXData")));
+    EXPECT_EQ(read(applicationFile("QVXLogData")), "@#@@#@felt well@#@\n");
+    EXPECT_TRUE(std::filesystem::exists(applicationFile("QVXWindowData")));
+}
+
+TEST_F(AppTest, AFailedSaveReachesTheCatchAllAndTheProgramGoesOn) {
+    App app;
+    app.Event_Open();
+    app.window1()->BevelButton1_Action();
+    {
+        const FailingDisk disk(FailingDisk::Call::reserve);
+        app.run([&] { app.FileQuit_Action(); });
+    }
+    EXPECT_EQ(toolkit_.messages,
+              std::vector<std::string>{"An error has occured. You should quit Tallyvane now to save your data."});
+    EXPECT_TRUE(app.window1()->isOpen());
+    EXPECT_TRUE(toolkit_.quits.empty());
+    app.run([&] { app.FileQuit_Action(); });
+    EXPECT_FALSE(app.window1()->isOpen());
+    EXPECT_FALSE(app.Event_UnhandledException());
+}
+
+TEST_F(AppTest, MenuItemsAnswerOrAreOff) {
+    App app;
+    app.Event_Open();
+    const std::vector<std::string> everywhere{"FileQuit", "FileAboutBrindlemarks", "HelpUsersGuide", "HelpSupportForum"};
+    EXPECT_EQ(enabledItems(app, nullptr), everywhere);
+    EXPECT_EQ(enabledItems(app, app.window1()), everywhere);
+
+    // The manual items follow the selection as soon as something answers them.
+    Window1& window1 = *app.window1();
+    for (const char* item : {"FilePrintSelected", "FileArchiveSelectedDays", "FileSaveAsPDF", "FileOpenArchivedDays", "FileImportData"})
+        window1.menuHandlers[item] = [] {};
+    EXPECT_EQ(enabledItems(app, &window1).size(), everywhere.size() + 3);
+    window1.BevelButton1_Action();
+    EXPECT_EQ(enabledItems(app, &window1).size(), everywhere.size() + 5);
+    EXPECT_EQ(enabledItems(app, app.splashWindow()), everywhere);
+}
+
+TEST_F(AppTest, HelpAndAboutItems) {
+    App app;
+    app.Event_Open();
+    for (const char* item : {"HelpUsersGuide", "HelpSupportForum", "FileAboutBrindlemarks"})
+        app.menuBar.choose(item, nullptr);
+    ASSERT_EQ(toolkit_.addresses.size(), 2U);
+    EXPECT_TRUE(toolkit_.addresses[0].ends_with("/docs/TallyvaneGuide.pdf"));
+    EXPECT_EQ(app.aboutWindow()->Title(), "About Tallyvane");
+    EXPECT_EQ(app.aboutWindow()->StaticText2.Text(), "v1.1.7");
+    app.aboutWindow()->Close();
+    app.menuBar.choose("FileAboutBrindlemarks", nullptr);
+    EXPECT_TRUE(app.aboutWindow()->isOpen());
+}
+
+} // namespace
+} // namespace tallyvane

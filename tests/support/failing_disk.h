@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+
+namespace tallyvane {
+
+/// Makes the disk fail under the program, as long as it lives. The calls to the kernel are taken in place of the C
+/// library's own.
+class FailingDisk {
+public:
+    enum class Call { reserve, write, cut, flush };
+
+    /// That call fails with "no space left". A write fails after so many bytes in all; with `once`, what comes after
+    /// the first failure works again.
+    explicit FailingDisk(Call call, std::size_t afterBytes = 0, bool once = true);
+    FailingDisk(const FailingDisk&) = delete;
+    FailingDisk& operator=(const FailingDisk&) = delete;
+    ~FailingDisk();
+
+    /// Whether a failure has taken place.
+    bool hasFailed() const;
+};
+
+} // namespace tallyvane

@@ -1,0 +1,77 @@
+#include "support/test_desk.h"
+
+#include <fstream>
+#include <iterator>
+
+#include "settings/data_files.h"
+#include "settings/globals.h"
+#include "settings/prefs_module.h"
+
+namespace tallyvane {
+
+void TestDesk::SetUp() {
+    std::string pattern = (std::filesystem::temp_directory_path() / "tallyvane-test-XXXXXX").string();
+    folder_ = ::mkdtemp(pattern.data());
+    SpecialFolder::ApplicationData = GetFolderItem(folder_.string());
+    SpecialFolder::UserHome = GetFolderItem(folder_.string());
+    StartupGlobals::gDataFolder.reset();
+    StartupGlobals::gMissingDataFolder.clear();
+    PrefsModule::gDataLocation.clear();
+    Globals::gOver = 13.0;
+    Globals::gCaution = 9.0;
+    Globals::gLow = 5.0;
+    Globals::gUnder = 3.0;
+    Globals::gShowIndicators = true;
+    Globals::gIncludeMeds = Globals::gIncludeExercise = Globals::gIncludeFood = false;
+    for (std::string* log : {&Globals::gExercise, &Globals::gFood, &Globals::gJournal, &Globals::gMedication})
+        log->clear();
+    Globals::gFileWindowOpen = Globals::gFilesOpen = false;
+    DateSource::setShortPattern("M/d/yyyy");
+    DateSource::now = [] { return Date(2026, 11, 22, 12 * 3600); };
+}
+
+void TestDesk::TearDown() { std::filesystem::remove_all(folder_); }
+
+void TestDesk::write(const std::filesystem::path& path, const std::string& content) const {
+    std::filesystem::create_directories(path.parent_path());
+    std::ofstream(path, std::ios::binary) << content;
+}
+
+std::string TestDesk::read(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    EXPECT_TRUE(file.good()) << path << " can't be read";
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+void DiaryDesk::SetUp() {
+    TestDesk::SetUp();
+    makeApplicationFolder();
+    StartupGlobals::gDataFolder = DataFiles::applicationFolder();
+}
+
+Window1& DiaryDesk::open() {
+    window1_.Open();
+    return window1_;
+}
+
+void DiaryDesk::addRow(const std::vector<std::string>& cells) {
+    table_.AddRow(cells.front());
+    for (std::size_t column = 1; column < cells.size(); ++column)
+        table_.Cell(table_.LastIndex(), static_cast<int>(column), cells[column]);
+}
+
+std::vector<std::string> DiaryDesk::column(int column) const {
+    std::vector<std::string> cells;
+    for (int row = 0; row < table_.ListCount(); ++row)
+        cells.push_back(table_.Cell(row, column));
+    return cells;
+}
+
+std::vector<std::string> DiaryDesk::row(int row, int columns) const {
+    std::vector<std::string> cells;
+    for (int column = 0; column < columns; ++column)
+        cells.push_back(table_.Cell(row, column));
+    return cells;
+}
+
+} // namespace tallyvane

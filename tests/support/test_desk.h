@@ -1,0 +1,68 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "platform/folder_item.h"
+#include "platform/toolkit.h"
+#include "shell/app.h"
+
+namespace tallyvane {
+
+/// A desktop without a screen: it keeps what the program asks of it.
+class RecordingToolkit : public Toolkit {
+public:
+    RecordingToolkit() { putInForce(this); }
+    ~RecordingToolkit() override { putInForce(nullptr); }
+
+    std::unique_ptr<WindowPeer> show(Window& /*window*/) override { return nullptr; }
+    Rect placeFor(const Window& window) override { return {400, 300, window.Width(), window.Height()}; }
+    void message(const std::string& text) override { messages.push_back(text); }
+    void beep() override { ++beeps; }
+    void openUrl(const std::string& address) override { addresses.push_back(address); }
+    void quit(int code) override { quits.push_back(code); }
+
+    std::vector<std::string> messages;
+    std::vector<std::string> addresses;
+    std::vector<int> quits;
+    int beeps = 0;
+};
+
+/// Gives each test a desktop of its own: a new folder for application data, the globals as at a first start, and
+/// noon of 22 November 2026.
+class TestDesk : public ::testing::Test {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    /// Path of a file in the application's folder.
+    std::filesystem::path applicationFile(const std::string& name) const { return folder_ / "Tallyvane" / name; }
+    void makeApplicationFolder() const { std::filesystem::create_directory(folder_ / "Tallyvane"); }
+    void write(const std::filesystem::path& path, const std::string& content) const;
+    static std::string read(const std::filesystem::path& path);
+
+    std::filesystem::path folder_;
+    RecordingToolkit toolkit_;
+};
+
+/// The main window with nothing around it, on the files that the test has laid out.
+class DiaryDesk : public TestDesk {
+protected:
+    void SetUp() override;
+    /// Brings the main window into being; the data folder is the application's.
+    Window1& open();
+    /// Adds a row with these texts from column 0 on.
+    void addRow(const std::vector<std::string>& cells);
+    std::vector<std::string> column(int column) const;
+    std::vector<std::string> row(int row, int columns = 10) const;
+
+    Toolbar toolbar_{{}};
+    MenuBar menuBar_{{}};
+    Window1 window1_{toolbar_, menuBar_};
+    Listbox& table_ = window1_.ListBox1;
+};
+
+} // namespace tallyvane
