@@ -97,6 +97,7 @@ void Window1::build() {
     for (StaticText* label : groupLabels()) {
         label->Align(TextAlign::center);
         label->TextColor(white);
+        label->TextSize(13);
         label->Bold(true);
     }
     ListBox1.DefaultRowHeight(DayTable::rowHeight);
@@ -109,6 +110,7 @@ void Window1::build() {
     for (StaticText* label : stripLabels()) {
         label->Align(TextAlign::center);
         label->TextColor(stripText);
+        label->TextSize(13);
         label->Text("00.0");
     }
     StaticText16.Text("000");

@@ -16,10 +16,6 @@ CalendarPeer::CalendarPeer(CalendarControl& calendar, QWidget* parent) : Peer(ca
         days->horizontalHeader()->setMinimumSectionSize(1); // seven columns find room in a small calendar
         days->verticalHeader()->setMinimumSectionSize(1);
     }
-    // The longest month and its year find room beside the arrows; the one that says "menu" does not.
-    setStyleSheet(QStringLiteral("QToolButton { padding: 0; margin: 0; border: none; font-weight: normal; }"
-                                 "QToolButton::menu-indicator { image: none; }"
-                                 "#qt_calendar_prevmonth, #qt_calendar_nextmonth { max-width: 16px; icon-size: 14px; }"));
     findChild<QWidget*>(QStringLiteral("qt_calendar_navigationbar"))->layout()->setSpacing(0);
     controlChanged();
     connect(this, &QCalendarWidget::selectionChanged, this, [this] {
@@ -41,9 +37,15 @@ void CalendarPeer::sync() {
 void CalendarPeer::resizeEvent(QResizeEvent* event) {
     constexpr int smallest = 10;
     constexpr int largest = 13;
+    const int pixels = std::clamp(width() / 13, smallest, largest);
     QFont fitting = font();
-    fitting.setPixelSize(std::clamp(width() / 13, smallest, largest));
+    fitting.setPixelSize(pixels);
     setFont(fitting);
+    // The longest month and its year find room beside the arrows; the arrow that says "menu" does not.
+    setStyleSheet(QStringLiteral("QToolButton { padding: 0; margin: 0; border: none; font: normal %1px; }"
+                                 "QToolButton::menu-indicator { image: none; }"
+                                 "#qt_calendar_prevmonth, #qt_calendar_nextmonth { max-width: 16px; icon-size: 14px; }")
+                      .arg(pixels));
     QCalendarWidget::resizeEvent(event);
 }
 
