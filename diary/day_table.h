@@ -10,7 +10,7 @@ namespace tallyvane::DayTable {
 
 inline constexpr int dateColumn = 0;
 inline constexpr int firstReading = 1; // before breakfast ...
-inline constexpr int lastReading = 7;  // ... to before bed
+inline constexpr int lastReading = 7; // ... to before bed
 inline constexpr int averageColumn = 8;
 inline constexpr int weightColumn = 9;
 inline constexpr int visibleColumns = 10;

@@ -22,7 +22,9 @@ constexpr unsigned lockAll = lockLeft | lockTop | lockRight | lockBottom;
 constexpr int columnLeft(int column) { return column == 0 ? 0 : 82 + 72 * (column - 1); }
 
 /// A label and a light of the strip stand under their column.
-constexpr Rect labelUnder(int column, int width = 72) { return {columnLeft(column) + 16, stripTop + 4, width - 20, 18}; }
+constexpr Rect labelUnder(int column, int width = 72) {
+    return {columnLeft(column) + 16, stripTop + 4, width - 20, 18};
+}
 constexpr Rect lightUnder(int column) { return {columnLeft(column) + 3, stripTop + 6, 15, 15}; }
 
 /// A heading over the columns from `first`.

@@ -45,7 +45,7 @@ class Canvas : public Control {
 public:
     /// The picture on show, at its own size from the top left corner; empty for none.
     const std::optional<Picture>& Backdrop() const { return backdrop_; }
-    void Backdrop(std::optional<Picture> value) { set(backdrop_, value); }
+    void Backdrop(std::optional<Picture> value) { set(backdrop_, std::move(value)); }
 
     std::function<void(Graphics& g)> Paint;
 

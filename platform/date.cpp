@@ -9,13 +9,12 @@
 namespace tallyvane {
 
 using std::chrono::sys_days;
-using std::chrono::year_month_day;
 
 namespace {
 
 /// A piece of a short form: a number, or a text between numbers.
 struct Piece {
-    char field = 0;      // 'd', 'M' or 'y'; 0 for a text
+    char field = 0; // 'd', 'M' or 'y'; 0 for a text
     std::string literal; // the text
     std::size_t digits = 0;
 };
@@ -136,7 +135,9 @@ std::function<Date()> DateSource::now = readClock;
 
 void DateSource::setShortPattern(std::string_view pattern) {
     Pattern pieces = piecesOf(pattern);
-    shortPattern() = isUsable(pieces) ? std::move(pieces) : isoPattern();
+    if (!isUsable(pieces))
+        pieces = isoPattern();
+    shortPattern() = std::move(pieces);
 }
 
 Date::Date() : Date(DateSource::now()) {}

@@ -12,8 +12,8 @@ class GraphicsRecorder : public Graphics {
 public:
     struct Call {
         std::string operation; // "FillRect" or "DrawPicture"
-        Color color = 0;       // FillRect's
-        std::string picture;   // DrawPicture's file
+        Color color = 0; // FillRect's
+        std::string picture; // DrawPicture's file
         double x = 0;
         double y = 0;
         double width = 0;

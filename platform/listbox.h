@@ -91,7 +91,8 @@ public:
     /// The open cell's place; -1 when none is open.
     int openRow() const { return openRow_; }
     int openColumn() const { return openColumn_; }
-    /// The user has typed in the open cell: the cell takes the text at once, in one line, then CellTextChange is raised.
+    /// The user has typed in the open cell: the cell takes the text at once, in one line, then CellTextChange is
+    /// raised.
     void userTyped(std::string text, int selStart, int selLength);
     /// Ends the editing; the cell keeps what was typed.
     void closeCell();

@@ -14,7 +14,7 @@ namespace tallyvane {
 /// What the platform does for an item by itself, and where it puts it.
 enum class MenuRole {
     none,
-    undo,       // the standard editing actions, on the control with the focus
+    undo, // the standard editing actions, on the control with the focus
     cut,
     copy,
     paste,

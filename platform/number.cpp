@@ -63,7 +63,8 @@ double Val(std::string_view text) {
         text.remove_prefix(1);
     const std::string_view digits = unsignedNumber(text);
     double value = 0;
-    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed);
+    const auto [end, error] =
+        std::from_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed);
     if (error == std::errc::result_out_of_range) {
         const bool tiny = digits.find_first_of("123456789") > digits.find('.');
         value = tiny ? 0 : std::numeric_limits<double>::max();
@@ -75,7 +76,8 @@ std::string Str(double number) {
     if (number == 0)
         return "0";
     std::array<char, 400> buffer{}; // the longest double without an exponent has 343 characters
-    const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::fixed);
+    const auto [end, error] =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::fixed);
     return {buffer.data(), end};
 }
 

@@ -44,8 +44,7 @@ std::optional<std::string> readAll(int file) {
     for (;;) {
         if (done == content.size())
             content.resize(done + 4096); // also sees the end of a file that has grown since
-        const ssize_t got =
-            ::pread(file, content.data() + done, content.size() - done, static_cast<off_t>(done));
+        const ssize_t got = ::pread(file, content.data() + done, content.size() - done, static_cast<off_t>(done));
         if (got < 0 && errno == EINTR)
             continue;
         if (got < 0)

@@ -49,8 +49,8 @@ public:
     enum class Kind {
         document, // resizable as far as the limits let it
         fixed,
-        dialog,   // fixed, and modal to its owner
-        splash,   // fixed, without title and close button
+        dialog, // fixed, and modal to its owner
+        splash, // fixed, without title and close button
     };
 
     Window() = default;

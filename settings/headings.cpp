@@ -5,8 +5,8 @@
 namespace tallyvane {
 
 const Headings& defaultHeadings() {
-    static const Headings headings{"Breakfast", "Lunch", "Supper", "Weight",     "Before",  "After", "Before",
-                                   "After",     "Before", "After", "Before Bed", "Average", "Weight"};
+    static const Headings headings{"Breakfast", "Lunch",  "Supper", "Weight",     "Before",  "After", "Before",
+                                   "After",     "Before", "After",  "Before Bed", "Average", "Weight"};
     return headings;
 }
 

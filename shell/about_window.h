@@ -9,7 +9,7 @@ class AboutWindow : public Window {
 public:
     AboutWindow();
 
-    Canvas Canvas1;         // the logo
+    Canvas Canvas1; // the logo
     StaticText StaticText1; // name
     StaticText StaticText2; // version
     StaticText StaticText3; // credit

@@ -108,8 +108,9 @@ void App::tellMissingDataFolder() {
     const std::string& missing = StartupGlobals::gMissingDataFolder;
     if (missing.empty() || !StartupGlobals::gDataFolder)
         return;
-    MsgBox("The folder with your days is not there: \u201c" + missing + "\u201d. Until it is back, your days are kept in \u201c" +
-           StartupGlobals::gDataFolder->AbsolutePath() + "\u201d.");
+    MsgBox("The folder with your days is not there: \u201c" + missing +
+           "\u201d. Until it is back, your days are kept in \u201c" + StartupGlobals::gDataFolder->AbsolutePath() +
+           "\u201d.");
 }
 
 void App::comeToFront() {

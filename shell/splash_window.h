@@ -13,7 +13,7 @@ public:
 
     Canvas Canvas1; // the logo
     StaticText AppNameLabel;
-    StaticText StaticText1;  // credit
+    StaticText StaticText1; // credit
     StaticText StaticText11; // what is going on
     ProgressWheel ProgressWheel1;
     Timer Timer1;

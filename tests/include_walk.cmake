@@ -1,4 +1,5 @@
 # Holds every #include of every room against the plan of the house (cmake/Houseplan.cmake).
+cmake_minimum_required(VERSION 3.25)
 include(${SOURCE}/cmake/Houseplan.cmake)
 
 # The room that a path belongs to: the longest name among the rooms that it starts with; "" for none.

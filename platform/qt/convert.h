@@ -13,7 +13,9 @@
 namespace tallyvane {
 
 /// Bytes that are not UTF-8 show as U+FFFD.
-inline QString toQt(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
+inline QString toQt(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
 inline QColor toQt(Color color) { return QColor::fromRgb(color); }
 inline QRect toQt(const Rect& rect) { return {rect.left, rect.top, rect.width, rect.height}; }
 inline QDate toQt(const Date& date) { return {date.Year(), date.Month(), date.Day()}; }

@@ -41,7 +41,8 @@ std::unique_ptr<WindowPeer> QtToolkit::show(Window& window) {
 
 Rect QtToolkit::placeFor(const Window& window) {
     const WindowFrame* owner = frameOf(window.owner());
-    const QRect around = owner != nullptr ? owner->frameGeometry() : QGuiApplication::primaryScreen()->availableGeometry();
+    const QRect around =
+        owner != nullptr ? owner->frameGeometry() : QGuiApplication::primaryScreen()->availableGeometry();
     QRect place(0, 0, window.Width(), window.Height());
     place.moveCenter(around.center());
     return {place.x(), place.y(), place.width(), place.height()};

@@ -13,10 +13,9 @@ class AveragesTest : public DiaryDesk {
 protected:
     std::vector<std::string> strip() const {
         std::vector<std::string> texts;
-        for (const StaticText* label :
-             {&window1_.StaticText1, &window1_.StaticText2, &window1_.StaticText3, &window1_.StaticText4,
-              &window1_.StaticText5, &window1_.StaticText6, &window1_.StaticText23, &window1_.StaticText22,
-              &window1_.StaticText16})
+        for (const StaticText* label : {&window1_.StaticText1, &window1_.StaticText2, &window1_.StaticText3,
+                                        &window1_.StaticText4, &window1_.StaticText5, &window1_.StaticText6,
+                                        &window1_.StaticText23, &window1_.StaticText22, &window1_.StaticText16})
             texts.push_back(label->Text());
         return texts;
     }
@@ -113,7 +112,9 @@ Texts plainStrip(const Listbox& table) {
 TEST_F(AveragesTest, WhatIsRememberedIsNeverStale) {
     open();
     std::mt19937 random(7);
-    const auto pick = [&](int below) { return below > 0 ? static_cast<int>(random() % static_cast<unsigned>(below)) : 0; };
+    const auto pick = [&](int below) {
+        return below > 0 ? static_cast<int>(random() % static_cast<unsigned>(below)) : 0;
+    };
     for (int step = 0; step < 3000; ++step) {
         const int rows = table_.ListCount();
         switch (pick(12)) {

@@ -22,14 +22,19 @@ TEST_F(CellEditingTest, KeysMoveTheEditing) {
         int wantRow, wantColumn;
     };
     const Row rows[] = {
-        {"up", 1, 4, 30, 0, 4},           {"up in the first row", 0, 4, 30, 0, 4},
-        {"down", 1, 4, 31, 2, 4},         {"down in the last row", 2, 4, 31, 2, 4},
-        {"left", 1, 4, 28, 1, 3},         {"left in the first reading", 1, 1, 28, 1, 1},
+        {"up", 1, 4, 30, 0, 4},
+        {"up in the first row", 0, 4, 30, 0, 4},
+        {"down", 1, 4, 31, 2, 4},
+        {"down in the last row", 2, 4, 31, 2, 4},
+        {"left", 1, 4, 28, 1, 3},
+        {"left in the first reading", 1, 1, 28, 1, 1},
         {"left from the weight", 1, 9, 28, 1, 8},
-        {"right", 1, 4, 29, 1, 5},        {"right in the last reading", 1, 7, 29, 1, 7},
+        {"right", 1, 4, 29, 1, 5},
+        {"right in the last reading", 1, 7, 29, 1, 7},
         {"right in the weight", 1, 9, 29, 1, 9},
         {"right in the average", 1, 8, 29, 1, 8},
-        {"tab", 1, 6, 9, 1, 7},           {"tab in the last reading", 1, 7, 9, 1, 7},
+        {"tab", 1, 6, 9, 1, 7},
+        {"tab in the last reading", 1, 7, 9, 1, 7},
     };
     for (const Row& row : rows) {
         table_.EditCell(row.row, row.column);

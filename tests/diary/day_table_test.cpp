@@ -39,8 +39,10 @@ TEST_F(DayTableTest, LinesBecomeRowsAndRowsLines) {
         {"an empty file", "", ""},
         {"empty lines are skipped", "\n" + full + "\n\n", full},
         {"fields that are missing are empty", "1/1/2026@#@5", "1/1/2026@#@5@#@@#@@#@@#@@#@@#@@#@@#@@#@\n"},
-        {"fields past the eleventh are dropped", "a@#@@#@@#@@#@@#@@#@@#@@#@@#@@#@k@#@l@#@m", "a@#@@#@@#@@#@@#@@#@@#@@#@@#@@#@k\n"},
-        {"a date that can't be read", "soon@#@5@#@@#@@#@@#@@#@@#@@#@5.0@#@@#@123\n", "soon@#@5@#@@#@@#@@#@@#@@#@@#@5.0@#@@#@123\n"},
+        {"fields past the eleventh are dropped", "a@#@@#@@#@@#@@#@@#@@#@@#@@#@@#@k@#@l@#@m",
+         "a@#@@#@@#@@#@@#@@#@@#@@#@@#@@#@k\n"},
+        {"a date that can't be read", "soon@#@5@#@@#@@#@@#@@#@@#@@#@5.0@#@@#@123\n",
+         "soon@#@5@#@@#@@#@@#@@#@@#@@#@5.0@#@@#@123\n"},
         {"two days of one date", full + full, full + full},
         {"CR LF", full.substr(0, full.size() - 1) + "\r\n" + full, full + full},
         {"half a separator", "a@#b@@#@#@c", "a@#b@@#@#@c@#@@#@@#@@#@@#@@#@@#@@#@@#@\n"},
@@ -72,7 +74,8 @@ TEST_F(DayTableTest, BytesThatAreNotTouchedAreWrittenBackAsTheyWere) {
 
 TEST_F(DayTableTest, AnyBytesAsAFileLoadAndReadTheSameOnceSaved) {
     std::mt19937 random(43);
-    const std::string pieces[] = {"@#@", "@", "#", "\n", "\r", "\r\n", std::string(1, '\0'), "\xFF", "\xE2\x82", "1/1/2026", "5.6"};
+    const std::string pieces[] = {"@#@",  "@",        "#",        "\n", "\r", "\r\n", std::string(1, '\0'),
+                                  "\xFF", "\xE2\x82", "1/1/2026", "5.6"};
     for (int round = 0; round < 300; ++round) {
         std::string file;
         for (unsigned piece = random() % 60; piece > 0; --piece)

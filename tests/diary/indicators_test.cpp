@@ -16,9 +16,9 @@ TEST_F(IndicatorsTest, ALimitBelongsToTheRangeAboveIt) {
         const char* want;
     };
     const Row rows[] = {
-        {20, "over2.tiff"},   {13, "over2.tiff"}, {12.99, "caution2.tiff"}, {9, "caution2.tiff"}, {8.99, "zone2.tiff"},
-        {5, "zone2.tiff"},    {4.99, "low3.tiff"}, {3, "low3.tiff"},        {2.99, "under3.tiff"}, {0, "under3.tiff"},
-        {-1, "under3.tiff"},
+        {20, "over2.tiff"},    {13, "over2.tiff"}, {12.99, "caution2.tiff"}, {9, "caution2.tiff"},
+        {8.99, "zone2.tiff"},  {5, "zone2.tiff"},  {4.99, "low3.tiff"},      {3, "low3.tiff"},
+        {2.99, "under3.tiff"}, {0, "under3.tiff"}, {-1, "under3.tiff"},
     };
     for (const Row& row : rows)
         EXPECT_EQ(window1_.getLight(row.value), Picture(row.want)) << row.value;

@@ -60,18 +60,24 @@ TEST_P(RealReadingsTest, AveragesAgreeWithIntegerArithmetic) {
         EXPECT_EQ(table_.Cell(static_cast<int>(day), 8), tenths(sum, count)) << days_[day][0];
     }
     const StaticText* labels[] = {nullptr,
-                                  &window1_.StaticText1, &window1_.StaticText2, &window1_.StaticText3,
-                                  &window1_.StaticText4, &window1_.StaticText5, &window1_.StaticText6,
+                                  &window1_.StaticText1,
+                                  &window1_.StaticText2,
+                                  &window1_.StaticText3,
+                                  &window1_.StaticText4,
+                                  &window1_.StaticText5,
+                                  &window1_.StaticText6,
                                   &window1_.StaticText23};
     for (std::size_t column = 1; column <= 7; ++column)
-        EXPECT_EQ(labels[column]->Text(), counts[column] == 0 ? "00.0" : tenths(sums[column], counts[column])) << column;
+        EXPECT_EQ(labels[column]->Text(), counts[column] == 0 ? "00.0" : tenths(sums[column], counts[column]))
+            << column;
 }
 
 TEST_P(RealReadingsTest, EveryDateIsReadAndTheFileComesBackInDateOrder) {
     std::vector<Date> dates;
     for (const auto& day : days_)
         dates.push_back(ParseDate(day[0]).value());
-    std::stable_sort(dates.begin(), dates.end(), [](const Date& a, const Date& b) { return a.TotalSeconds() < b.TotalSeconds(); });
+    std::stable_sort(dates.begin(), dates.end(),
+                     [](const Date& a, const Date& b) { return a.TotalSeconds() < b.TotalSeconds(); });
     window1_.ListBox1_HeaderPressed(0);
     for (std::size_t day = 0; day < dates.size(); ++day)
         EXPECT_EQ(ParseDate(table_.Cell(static_cast<int>(day), 0)), dates[day]);
@@ -81,7 +87,8 @@ TEST_P(RealReadingsTest, EveryDateIsReadAndTheFileComesBackInDateOrder) {
     EXPECT_EQ(read(applicationFile("7VXData")), saved);
 }
 
-INSTANTIATE_TEST_SUITE_P(Patients, RealReadingsTest, ::testing::Values("patient-01.csv", "patient-20.csv", "patient-27.csv"));
+INSTANTIATE_TEST_SUITE_P(Patients, RealReadingsTest,
+                         ::testing::Values("patient-01.csv", "patient-20.csv", "patient-27.csv"));
 
 } // namespace
 } // namespace tallyvane

@@ -36,8 +36,9 @@ TEST_F(Window1Test, GeometryComesFromItsFileAndIsCorrected) {
         EXPECT_EQ((Rect{window.Left(), window.Top(), window.Width(), window.Height()}), row.want) << row.name;
         window.saveWindowData();
         Rect saved = row.want;
-        EXPECT_EQ(read(applicationFile("QVXWindowData")),
-                  std::to_string(saved.left) + "\n" + std::to_string(saved.top) + "\n746\n" + std::to_string(saved.height) + "\n")
+        EXPECT_EQ(read(applicationFile("QVXWindowData")), std::to_string(saved.left) + "\n" +
+                                                              std::to_string(saved.top) + "\n746\n" +
+                                                              std::to_string(saved.height) + "\n")
             << row.name;
     }
 }

@@ -21,11 +21,14 @@ TEST_F(DateTest, ShortFormsOfTheLocales) {
         const char* twoDigitYear;
     };
     const Row rows[] = {
-        {"M/d/yy", "11/2/2026", "11/2/26"},         {"dd.MM.yy", "02.11.2026", "2.11.26"},
-        {"dd/MM/yyyy", "02/11/2026", "2/11/26"},    {"yyyy-MM-dd", "2026-11-02", "26-11-2"},
-        {"yyyy. MM. dd.", "2026. 11. 02.", "26. 11. 2."}, {"d.MM.yyyy '\u0433'.", "2.11.2026 \u0433.", "2.11.26 \u0433."},
+        {"M/d/yy", "11/2/2026", "11/2/26"},
+        {"dd.MM.yy", "02.11.2026", "2.11.26"},
+        {"dd/MM/yyyy", "02/11/2026", "2/11/26"},
+        {"yyyy-MM-dd", "2026-11-02", "26-11-2"},
+        {"yyyy. MM. dd.", "2026. 11. 02.", "26. 11. 2."},
+        {"d.MM.yyyy '\u0433'.", "2.11.2026 \u0433.", "2.11.26 \u0433."},
         {"d MMM yyyy", "2026-11-02", "26-11-2"}, // a month by name: ISO instead
-        {"d/d/yyyy", "2026-11-02", "26-11-2"},   // no month at all
+        {"d/d/yyyy", "2026-11-02", "26-11-2"}, // no month at all
         {"", "2026-11-02", "26-11-2"},
     };
     const Date date(2026, 11, 2);
@@ -40,8 +43,9 @@ TEST_F(DateTest, ShortFormsOfTheLocales) {
 
 TEST_F(DateTest, TextsThatAreNoDayDoNotParse) {
     DateSource::setShortPattern("M/d/yyyy");
-    for (const char* text : {"", "hello", "2/29/2026", "2/30/2024", "13/1/2026", "0/1/2026", "1/0/2026", "1/1/0000",
-                             "1/1/202", "1/1/20266", "1/1", "1/1/2026x", "x1/1/2026", "1-1-2026", "2026/11/02", "-1/1/2026"})
+    for (const char* text :
+         {"", "hello", "2/29/2026", "2/30/2024", "13/1/2026", "0/1/2026", "1/0/2026", "1/1/0000", "1/1/202",
+          "1/1/20266", "1/1", "1/1/2026x", "x1/1/2026", "1-1-2026", "2026/11/02", "-1/1/2026"})
         EXPECT_FALSE(ParseDate(text)) << text;
     EXPECT_EQ(ParseDate("2/29/2024"), Date(2024, 2, 29));
     EXPECT_EQ(ParseDate(" 1/1/2026\t"), Date(2026, 1, 1));

@@ -95,9 +95,15 @@ TEST_F(FilesTest, AFileIsReplacedInPlace) {
         std::string after;
     };
     const Row rows[] = {
-        {"grows", "one\n", "one\ntwo\n"},  {"shrinks", "one\ntwo\n", "one\n"},   {"changes in the middle", "abcdef", "abXdef"},
-        {"changes at once", "abc", "xyz"}, {"becomes empty", "abc", ""},         {"was empty", "", "abc"},
-        {"stays", "abc", "abc"},           {"grows in the middle", "ad", "abcd"}, {"shrinks in the middle", "abcd", "ad"},
+        {"grows", "one\n", "one\ntwo\n"},
+        {"shrinks", "one\ntwo\n", "one\n"},
+        {"changes in the middle", "abcdef", "abXdef"},
+        {"changes at once", "abc", "xyz"},
+        {"becomes empty", "abc", ""},
+        {"was empty", "", "abc"},
+        {"stays", "abc", "abc"},
+        {"grows in the middle", "ad", "abcd"},
+        {"shrinks in the middle", "abcd", "ad"},
     };
     for (const Row& row : rows) {
         const std::filesystem::path path = folder_ / "file";

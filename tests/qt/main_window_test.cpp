@@ -90,11 +90,13 @@ TEST_F(MainWindowTest, ItemsAndButtonsWithoutAnAnswerAreOff) {
     for (const QAction* menu : frame_->menuBar()->actions()) {
         Q_EMIT menu->menu()->aboutToShow();
         for (const QAction* action : menu->menu()->actions())
-            if (!action->isSeparator() && action->isEnabled() && !action->objectName().startsWith(QStringLiteral("Edit")))
+            if (!action->isSeparator() && action->isEnabled() &&
+                !action->objectName().startsWith(QStringLiteral("Edit")))
                 enabled.push_back(fromQt(action->objectName()));
     }
     std::sort(enabled.begin(), enabled.end());
-    EXPECT_EQ(enabled, (std::vector<std::string>{"FileAboutBrindlemarks", "FileQuit", "HelpSupportForum", "HelpUsersGuide"}));
+    EXPECT_EQ(enabled,
+              (std::vector<std::string>{"FileAboutBrindlemarks", "FileQuit", "HelpSupportForum", "HelpUsersGuide"}));
     for (const QAction* action : frame_->findChild<QToolBar*>()->actions())
         if (!action->text().isEmpty())
             EXPECT_FALSE(action->isEnabled()) << fromQt(action->text());
@@ -122,7 +124,9 @@ TEST_F(MainWindowTest, TheIndicatorSwitchHidesAndShowsTheStripsLights) {
     write(applicationFile("7VXData"), "1/1/2026@#@5\n");
     start();
     const QRect light(82 + 3 + 4, 26 + 259 + 6 + 4, 3, 3);
-    const auto shows = [&] { return frame_->centralWidget()->grab(light).toImage().pixelColor(1, 1).saturationF() > 0.5; };
+    const auto shows = [&] {
+        return frame_->centralWidget()->grab(light).toImage().pixelColor(1, 1).saturationF() > 0.5;
+    };
     EXPECT_TRUE(shows());
     for (const bool on : {false, true}) {
         Globals::gShowIndicators = on;

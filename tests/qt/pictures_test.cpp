@@ -14,10 +14,12 @@ TEST(Pictures, EachIsThereInItsSizeAndSharpAtTwiceTheScale) {
         QSize size;
     };
     std::vector<Row> rows{
-        {"over2.tiff", {11, 11}},           {"caution2.tiff", {13, 11}},  {"zone2.tiff", {11, 11}},
-        {"low3.tiff", {13, 11}},            {"under3.tiff", {11, 11}},    {"blackBar.png", {746, 26}},
-        {"7VXiconMed3.png", {64, 64}},      {"vaneLogo128.png", {128, 128}}, {"vaneLogo64.png", {64, 64}},
-        {"calendarpng_32x32.png", {32, 32}}, {"printItem3.png", {32, 32}}, {"download_pagepng_32x32.png", {32, 32}},
+        {"over2.tiff", {11, 11}},      {"caution2.tiff", {13, 11}},
+        {"zone2.tiff", {11, 11}},      {"low3.tiff", {13, 11}},
+        {"under3.tiff", {11, 11}},     {"blackBar.png", {746, 26}},
+        {"7VXiconMed3.png", {64, 64}}, {"vaneLogo128.png", {128, 128}},
+        {"vaneLogo64.png", {64, 64}},  {"calendarpng_32x32.png", {32, 32}},
+        {"printItem3.png", {32, 32}},  {"download_pagepng_32x32.png", {32, 32}},
     };
     const Toolbar1 toolbar;
     for (const ToolItem& item : toolbar.items())

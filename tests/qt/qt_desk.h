@@ -34,7 +34,8 @@ protected:
 
     static WindowFrame* frameTitled(const QString& title) {
         for (QWidget* widget : QApplication::topLevelWidgets())
-            if (auto* frame = dynamic_cast<WindowFrame*>(widget); frame != nullptr && frame->isVisible() && frame->windowTitle() == title)
+            if (auto* frame = dynamic_cast<WindowFrame*>(widget);
+                frame != nullptr && frame->isVisible() && frame->windowTitle() == title)
                 return frame;
         return nullptr;
     }

@@ -91,7 +91,8 @@ TEST_F(AppTest, ASecondStartWakesTheFirstAndEndsWithoutAWindow) {
 TEST_F(AppTest, DaysThatAnotherProgramHoldsAreNotOpenedTwice) {
     makeApplicationFolder();
     std::filesystem::create_directory(folder_ / "days");
-    write(applicationFile("Brindlemarks Preferences"), "true\n13\n9\n5\n3\n\n\n\n" + (folder_ / "days").string() + "\n");
+    write(applicationFile("Brindlemarks Preferences"),
+          "true\n13\n9\n5\n3\n\n\n\n" + (folder_ / "days").string() + "\n");
     const auto other = SystemFiles::FolderClaim::take((folder_ / "days").string());
     App app;
     app.Event_Open();
@@ -103,7 +104,8 @@ TEST_F(AppTest, DaysThatAnotherProgramHoldsAreNotOpenedTwice) {
 TEST_F(AppTest, TheApplicationFolderByAnotherNameIsNoOtherProgram) {
     makeApplicationFolder();
     std::filesystem::create_directory_symlink(folder_ / "Tallyvane", folder_ / "link");
-    write(applicationFile("Brindlemarks Preferences"), "true\n13\n9\n5\n3\n\n\n\n" + (folder_ / "link").string() + "\n");
+    write(applicationFile("Brindlemarks Preferences"),
+          "true\n13\n9\n5\n3\n\n\n\n" + (folder_ / "link").string() + "\n");
     App app;
     app.Event_Open();
     EXPECT_NE(app.window1(), nullptr);
@@ -144,13 +146,15 @@ TEST_F(AppTest, AFailedSaveReachesTheCatchAllAndTheProgramGoesOn) {
 TEST_F(AppTest, MenuItemsAnswerOrAreOff) {
     App app;
     app.Event_Open();
-    const std::vector<std::string> everywhere{"FileQuit", "FileAboutBrindlemarks", "HelpUsersGuide", "HelpSupportForum"};
+    const std::vector<std::string> everywhere{"FileQuit", "FileAboutBrindlemarks", "HelpUsersGuide",
+                                              "HelpSupportForum"};
     EXPECT_EQ(enabledItems(app, nullptr), everywhere);
     EXPECT_EQ(enabledItems(app, app.window1()), everywhere);
 
     // The manual items follow the selection as soon as something answers them.
     Window1& window1 = *app.window1();
-    for (const char* item : {"FilePrintSelected", "FileArchiveSelectedDays", "FileSaveAsPDF", "FileOpenArchivedDays", "FileImportData"})
+    for (const char* item :
+         {"FilePrintSelected", "FileArchiveSelectedDays", "FileSaveAsPDF", "FileOpenArchivedDays", "FileImportData"})
         window1.menuHandlers[item] = [] {};
     EXPECT_EQ(enabledItems(app, &window1).size(), everywhere.size() + 3);
     window1.BevelButton1_Action();
