@@ -34,17 +34,21 @@ void Window1::Event_Open() {
 }
 
 void Window1::Event_Close() {
+    saveAll();
+    Quit(0);
+}
+
+void Window1::saveAll() {
     std::exception_ptr failure;
     for (const auto save : {&Window1::saveData, &Window1::saveLogs, &Window1::saveWindowData}) {
         try {
             (this->*save)();
-        } catch (const IOException&) { // what fails one file must not cost the others
+        } catch (const IOException&) {
             failure = failure ? failure : std::current_exception();
         }
     }
     if (failure)
         std::rethrow_exception(failure);
-    Quit(0);
 }
 
 void Window1::saveData() { DayTable::save(ListBox1); }

@@ -144,6 +144,11 @@ void App::Event_Deactivate() {
         window1_->saveData();
 }
 
+void App::Event_DisplayLost() {
+    if (window1_ && window1_->isOpen())
+        window1_->saveAll();
+}
+
 void App::Event_Close() {
     if (window1_)
         window1_->saveData();

@@ -33,6 +33,8 @@ public:
     void Event_Open();
     void Event_Close();
     void Event_Deactivate();
+    /// Saves all that closing would save; no window can be closed any more.
+    void Event_DisplayLost();
     /// Shows the message of last resort. False: the exception counts as not handled.
     bool Event_UnhandledException();
 

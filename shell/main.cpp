@@ -10,6 +10,7 @@ int main(int argc, char** argv) {
     program.guard = [&app](const std::function<void()>& event) { app.run(event); };
     program.onDeactivate = [&app] { app.Event_Deactivate(); };
     program.onEndRequested = [&app] { app.FileQuit_Action(); };
+    program.onDisplayLost = [&app] { app.Event_DisplayLost(); };
     program.onWake = [&app] { app.comeToFront(); };
     app.wakeRunningProgram = [&program] { program.wakeRunningProgram(); };
 

@@ -6,6 +6,9 @@
 #include <QSessionManager>
 #include <QStandardPaths>
 
+#include <cstdlib>
+#include <utility>
+
 #include "platform/folder_item.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/event_guard.h"
@@ -33,6 +36,16 @@ void settleDateForm() {
     DateSource::setShortPattern(fromQt(locale.dateFormat(QLocale::ShortFormat)));
 }
 
+/// The program while its event loop runs. A lost display makes Qt end the process inside that loop by exit().
+QtProgram* inEventLoop = nullptr;
+
+void saveAtExit() {
+    if (QtProgram* program = std::exchange(inEventLoop, nullptr)) {
+        Toolkit::putInForce(nullptr);
+        deliver(program->onDisplayLost);
+    }
+}
+
 } // namespace
 
 struct QtProgram::Parts {
@@ -50,6 +63,7 @@ QtProgram::QtProgram(int& argc, char** argv) : parts_(std::make_unique<Parts>(ar
     QApplication::setDesktopFileName(QStringLiteral("tallyvane"));
     QApplication::setWindowIcon(loadPicture("vaneLogo128.png").icon);
     QApplication::setQuitOnLastWindowClosed(false);
+    static_cast<void>(std::atexit(saveAtExit)); // refused only when the memory is gone
     settleFolders();
     settleDateForm();
     setEventGuard([this](const std::function<void()>& event) {
@@ -75,7 +89,9 @@ int QtProgram::run(const std::function<void()>& open) {
     deliver(open);
     if (!parts_->toolkit.quitAsked() && !Window::openWindows().empty()) {
         parts_->channel.listen([this] { deliver(onWake); });
+        inEventLoop = this;
         QApplication::exec();
+        inEventLoop = nullptr;
     }
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     return parts_->toolkit.quitAsked() ? parts_->toolkit.quitCode() : 1;

@@ -20,6 +20,8 @@ public:
     std::function<void()> onDeactivate;
     /// A signal or the end of the desktop session asks the program to end.
     std::function<void()> onEndRequested;
+    /// The display has gone under the program, which ends now; there is nobody left to ask or to tell.
+    std::function<void()> onDisplayLost;
     /// A second start asks for the front.
     std::function<void()> onWake;
 

@@ -33,6 +33,7 @@ trap clean_up EXIT
 
 exec 3>"$home/display"
 Xvfb -displayfd 3 -screen 0 1280x1024x24 >/dev/null 2>&1 &
+display_server=$!
 until_true grep -q . "$home/display"
 export DISPLAY=":$(cat "$home/display")"
 openbox >/dev/null 2>&1 &
