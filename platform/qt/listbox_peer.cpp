@@ -66,10 +66,12 @@ ListboxPeer::ListboxPeer(Listbox& list, QWidget* parent)
     setSelectionBehavior(SelectRows);
     setTabKeyNavigation(false);
     horizontalHeader()->setSectionsClickable(true);
-    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int column) {
+    const auto press = [this](int column) {
         if (control_ != nullptr)
             deliver([&] { control_->pressHeader(column); });
-    });
+    };
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, press);
+    connect(horizontalHeader(), &QHeaderView::sectionDoubleClicked, this, press); // the second of two quick clicks
     controlChanged();
     selectionChanged();
 }

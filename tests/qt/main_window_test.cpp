@@ -53,6 +53,11 @@ TEST_F(MainWindowTest, AHeadingSortsAndTheSelectionStaysWithItsDays) {
     EXPECT_EQ(list().Cell(0, 0), "1/1/2026");
     EXPECT_TRUE(list().Selected(1));
     EXPECT_EQ(table_->selectionModel()->selectedRows().front().row(), 1);
+    QMouseEvent second(QEvent::MouseButtonDblClick, QPointF(20, 8), header->viewport()->mapToGlobal(QPointF(20, 8)),
+                       Qt::LeftButton, Qt::LeftButton, {}); // of two quick clicks
+    QApplication::sendEvent(header->viewport(), &second);
+    EXPECT_EQ(list().Cell(0, 0), "1/2/2026");
+    EXPECT_EQ(table_->selectionModel()->selectedRows().front().row(), 0);
 }
 
 TEST_F(MainWindowTest, ADateIsChangedInItsDialog) {
