@@ -1,6 +1,7 @@
 #include "platform/date.h"
 
 #include <algorithm>
+#include <cmath>
 #include <ctime>
 #include <vector>
 
@@ -83,19 +84,25 @@ int takeNumber(std::string_view& text, std::size_t most, std::size_t& taken) {
     return taken == 0 ? -1 : number;
 }
 
-/// The year that ends in these two digits and lies nearest to the present one.
-int nearestYear(int twoDigits) {
-    const int present = DateSource::now().Year();
-    int year = present - present % 100 + twoDigits;
-    if (year - present > 50)
-        year -= 100;
-    else if (present - year >= 50)
-        year += 100;
-    return year;
+/// The day whose year ends in these two digits and that lies nearest to today; nothing if no such day exists.
+std::optional<Date> nearestDay(int twoDigits, int month, int day) {
+    const Date today = DateSource::now();
+    const int century = today.Year() - today.Year() % 100;
+    const auto distance = [&](const Date& date) { return std::abs(date.TotalSeconds() - today.TotalSeconds()); };
+    std::optional<Date> nearest;
+    for (const int year : {century - 100 + twoDigits, century + twoDigits, century + 100 + twoDigits}) {
+        if (!Date::isDay(year, month, day))
+            continue;
+        const Date date(year, month, day);
+        if (!nearest || distance(date) < distance(*nearest))
+            nearest = date;
+    }
+    return nearest;
 }
 
 std::optional<Date> parse(std::string_view text, const Pattern& pattern) {
     int year = 0;
+    std::size_t yearDigits = 0;
     int month = 0;
     int day = 0;
     for (const Piece& piece : pattern) {
@@ -111,12 +118,16 @@ std::optional<Date> parse(std::string_view text, const Pattern& pattern) {
             day = number;
         else if (piece.field == 'M')
             month = number;
-        else if (digits == 4)
+        else {
             year = number;
-        else if (digits == 2)
-            year = nearestYear(number);
+            yearDigits = digits;
+        }
     }
-    if (!text.empty() || !Date::isDay(year, month, day))
+    if (!text.empty())
+        return std::nullopt;
+    if (yearDigits == 2)
+        return nearestDay(year, month, day);
+    if (yearDigits != 4 || !Date::isDay(year, month, day))
         return std::nullopt;
     return Date(year, month, day);
 }

@@ -55,6 +55,8 @@ TEST_F(DateTest, ATwoDigitYearIsTheNearestToToday) {
     DateSource::setShortPattern("M/d/yyyy");
     EXPECT_EQ(ParseDate("1/1/76"), Date(2076, 1, 1));
     EXPECT_EQ(ParseDate("1/1/77"), Date(1977, 1, 1));
+    EXPECT_EQ(ParseDate("12/31/76"), Date(1976, 12, 31)) << "the day counts, not the year alone";
+    EXPECT_EQ(ParseDate("2/29/00"), Date(2000, 2, 29)) << "2100 has no such day";
     EXPECT_EQ(ParseDate("1/1/91"), Date(1991, 1, 1));
     DateSource::now = [] { return Date(2096, 1, 1); };
     EXPECT_EQ(ParseDate("1/1/05"), Date(2105, 1, 1));
