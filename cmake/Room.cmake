@@ -3,17 +3,21 @@ include(Houseplan)
 # room(NAME SOURCES file...)
 #
 # Declares a room of the house as a static library, "room_NAME" with "/" as "_". Its sources see the headers of the
-# room itself and of the rooms that the plan allows, and of no other: every room has a view of its own, a folder that
-# holds nothing but the way to that room, and only the views of the allowed rooms are on the include path.
+# room itself and of the rooms that the plan allows, and of no other: every room has a view of its own, a folder with
+# links to its headers, and only the views of the allowed rooms are on the include path.
 function(room NAME)
   cmake_parse_arguments(ARG "" "" "SOURCES" ${ARGN})
   string(REPLACE "/" "_" SLUG ${NAME})
   set(TARGET room_${SLUG})
 
   set(VIEW ${CMAKE_BINARY_DIR}/views/${SLUG})
-  cmake_path(GET NAME PARENT_PATH ABOVE)
-  file(MAKE_DIRECTORY ${VIEW}/${ABOVE})
-  file(CREATE_LINK ${CMAKE_SOURCE_DIR}/${NAME} ${VIEW}/${NAME} SYMBOLIC)
+  file(REMOVE_RECURSE ${VIEW})
+  file(MAKE_DIRECTORY ${VIEW}/${NAME})
+  file(GLOB HEADERS CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/${NAME}/*.h)
+  foreach(HEADER IN LISTS HEADERS)
+    cmake_path(GET HEADER FILENAME FILE)
+    file(CREATE_LINK ${HEADER} ${VIEW}/${NAME}/${FILE} SYMBOLIC)
+  endforeach()
 
   add_library(${TARGET} STATIC ${ARG_SOURCES})
   target_include_directories(${TARGET} PUBLIC ${VIEW})
