@@ -57,7 +57,7 @@ class PushButton : public Control {
 public:
     const std::string& Caption() const { return caption_; }
     void Caption(std::string value) { set(caption_, std::move(value)); }
-    /// Return presses it from anywhere in its window.
+    /// Return presses it from anywhere in its window. Fixed once it is shown, as Cancel is.
     bool Default() const { return default_; }
     void Default(bool value) { set(default_, value); }
     /// Escape presses it from anywhere in its window.
@@ -136,7 +136,8 @@ private:
     std::string text_;
 };
 
-/// A frame with tabs. The controls of a page stand in the window's table with the page's number.
+/// A frame with tabs, fixed once it is shown. The controls of a page stand in the window's table with the page's
+/// number.
 class TabPanel : public Control {
 public:
     const std::vector<std::string>& Captions() const { return captions_; }

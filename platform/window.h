@@ -64,7 +64,8 @@ public:
     bool Visible() const { return visible_; }
     void Visible(bool value);
 
-    /// Place and size of the content, in points of the screen. The limits win over what is set.
+    /// Place of the top left corner with the frame, size of the content without it; in points of the screen. The
+    /// limits win over what is set.
     int Left() const { return bounds_.left; }
     int Top() const { return bounds_.top; }
     int Width() const { return bounds_.width; }

@@ -1,7 +1,9 @@
 #include "platform/qt/calendar_peer.h"
 
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLayout>
+#include <QMouseEvent>
 #include <QTableView>
 
 #include "platform/qt/event_guard.h"
@@ -12,20 +14,34 @@ CalendarPeer::CalendarPeer(CalendarControl& calendar, QWidget* parent) : Peer(ca
     setVerticalHeaderFormat(NoVerticalHeader);
     setHorizontalHeaderFormat(SingleLetterDayNames);
     setGridVisible(false);
-    for (auto* days : findChildren<QTableView*>()) {
-        days->horizontalHeader()->setMinimumSectionSize(1); // seven columns find room in a small calendar
-        days->verticalHeader()->setMinimumSectionSize(1);
-    }
+    days_ = findChild<QTableView*>();
+    days_->horizontalHeader()->setMinimumSectionSize(1); // seven columns find room in a small calendar
+    days_->verticalHeader()->setMinimumSectionSize(1);
+    days_->installEventFilter(this);
+    days_->viewport()->installEventFilter(this);
     findChild<QWidget*>(QStringLiteral("qt_calendar_navigationbar"))->layout()->setSpacing(0);
     controlChanged();
     connect(this, &QCalendarWidget::selectionChanged, this, [this] {
         if (control_ != nullptr)
             control_->SelectedDate(fromQt(selectedDate()));
     });
-    connect(this, &QCalendarWidget::activated, this, [this] {
-        if (control_ != nullptr)
-            deliver(control_->DayDoubleClicked);
-    });
+}
+
+/// Qt's own signal for this also comes of a single click, on desktops that open files so.
+bool CalendarPeer::eventFilter(QObject* watched, QEvent* event) {
+    bool chosen = false;
+    if (watched == days_->viewport() && event->type() == QEvent::MouseButtonDblClick) {
+        // A first click on a day of another month brings that month; the second is on the marked day or means nothing.
+        const QPoint place = static_cast<QMouseEvent*>(event)->position().toPoint();
+        chosen = days_->indexAt(place) == days_->currentIndex();
+    } else if (watched == days_ && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        chosen = key == Qt::Key_Return || key == Qt::Key_Enter;
+    }
+    if (!chosen || control_ == nullptr)
+        return QCalendarWidget::eventFilter(watched, event);
+    deliver(control_->DayDoubleClicked);
+    return true;
 }
 
 void CalendarPeer::sync() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCalendarWidget>
+#include <QTableView>
 
 #include "platform/controls.h"
 #include "platform/qt/peer.h"
@@ -15,6 +16,10 @@ public:
 protected:
     void sync() override;
     void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QTableView* days_ = nullptr;
 };
 
 } // namespace tallyvane

@@ -12,6 +12,9 @@
 
 namespace tallyvane {
 
+/// Of a cell, a heading or a label no more is shown: longer texts find no room, and laying out megabytes takes minutes.
+inline constexpr int mostCharacters = 200;
+
 /// Bytes that are not UTF-8 show as U+FFFD.
 inline QString toQt(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));

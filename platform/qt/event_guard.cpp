@@ -5,8 +5,9 @@ namespace tallyvane {
 namespace {
 
 std::function<void(const std::function<void()>&)>& eventGuard() {
-    static std::function<void(const std::function<void()>&)> guard;
-    return guard;
+    // Never destroyed: the last save of a program whose display is gone comes this way while the process ends.
+    static auto* const guard = new std::function<void(const std::function<void()>&)>;
+    return *guard;
 }
 
 } // namespace

@@ -26,17 +26,18 @@ int ListboxModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant ListboxModel::data(const QModelIndex& index, int role) const {
-    const std::string& text = list_.Cell(index.row(), index.column());
+    const auto shown = [](const std::string& text) { return Left(text, mostCharacters); };
+    const std::string text = shown(list_.Cell(index.row(), index.column()));
     if (role == Qt::DisplayRole)
         return toQt(text);
     if (role == Qt::AccessibleTextRole)
-        return toQt(list_.Heading(index.column()) + ", " + list_.Cell(index.row(), 0) + ", " + text);
+        return toQt(shown(list_.Heading(index.column())) + ", " + shown(list_.Cell(index.row(), 0)) + ", " + text);
     return {};
 }
 
 QVariant ListboxModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation == Qt::Horizontal && role == Qt::DisplayRole)
-        return toQt(list_.Heading(section));
+        return toQt(Left(list_.Heading(section), mostCharacters));
     return {};
 }
 

@@ -286,7 +286,6 @@ void ListboxPeer::drawText(QPainter& painter, const QRect& area, int row, int co
     if (drawn)
         return;
     painter.setPen(tallyvane::toQt(g.ForeColor()));
-    constexpr int mostCharacters = 200; // more never find room, and megabytes take their time
     const QString whole = tallyvane::toQt(Left(control_->Cell(row, column), mostCharacters));
     const QString shown = fontMetrics().elidedText(whole, Qt::ElideRight, inner.width());
     painter.drawText(inner.translated(-area.topLeft()), toQt(control_->ColumnAlignment(column)) | Qt::AlignVCenter,

@@ -44,8 +44,7 @@ public:
         Widget::setVisible(control_->Visible() && inFront_);
         Widget::setEnabled(control_->Enabled());
         Widget::setToolTip(toQt(control_->HelpTag()));
-        if (!control_->AccessibleName().empty())
-            Widget::setAccessibleName(toQt(control_->AccessibleName()));
+        Widget::setAccessibleName(toQt(control_->AccessibleName()));
         sync();
         Widget::update();
     }

@@ -63,7 +63,6 @@ QtProgram::QtProgram(int& argc, char** argv) : parts_(std::make_unique<Parts>(ar
     QApplication::setDesktopFileName(QStringLiteral("tallyvane"));
     QApplication::setWindowIcon(loadPicture("vaneLogo128.png").icon);
     QApplication::setQuitOnLastWindowClosed(false);
-    static_cast<void>(std::atexit(saveAtExit)); // refused only when the memory is gone
     settleFolders();
     settleDateForm();
     setEventGuard([this](const std::function<void()>& event) {
@@ -90,6 +89,7 @@ int QtProgram::run(const std::function<void()>& open) {
     if (!parts_->toolkit.quitAsked() && !Window::openWindows().empty()) {
         parts_->channel.listen([this] { deliver(onWake); });
         inEventLoop = this;
+        static_cast<void>(std::atexit(saveAtExit)); // refused only when the memory is gone
         QApplication::exec();
         inEventLoop = nullptr;
     }

@@ -34,7 +34,7 @@ StaticTextPeer::StaticTextPeer(StaticText& text, QWidget* parent) : Peer(text, p
 }
 
 void StaticTextPeer::sync() {
-    setText(tallyvane::toQt(control_->Text()));
+    setText(tallyvane::toQt(Left(control_->Text(), mostCharacters)));
     setAlignment(toQt(control_->Align()) | Qt::AlignVCenter);
     QFont font = parentWidget()->font();
     if (control_->TextSize() > 0)
@@ -115,7 +115,10 @@ namespace {
 
 /// The text letter by letter; toPlainText would make blanks of the blanks that do not break.
 std::string textOf(const QTextDocument& document) {
-    return fromQt(document.toRawText().replace(QChar::ParagraphSeparator, QLatin1Char('\n')));
+    QString text = document.toRawText();
+    text.replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
+    text.replace(QChar::LineSeparator, QLatin1Char('\n'));
+    return fromQt(text);
 }
 
 } // namespace

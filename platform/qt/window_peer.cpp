@@ -187,7 +187,8 @@ void WindowFrame::changeEvent(QEvent* event) {
 // QtWindowPeer
 
 void QtWindowPeer::bringToFront() {
-    frame_->showNormal();
+    frame_->setWindowState(frame_->windowState() & ~Qt::WindowMinimized);
+    frame_->show();
     frame_->raise();
     frame_->activateWindow();
 }
