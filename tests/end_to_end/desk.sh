@@ -82,6 +82,23 @@ click_from_bottom() {
     xdotool mousemove --window "$window" "$1" $((HEIGHT - $2)) click 1
 }
 
+# What stands under a column of readings, as the strip shows it: it follows each key, and no cursor blinks there.
+average_under() {
+    local HEIGHT
+    eval "$(xdotool getwindowgeometry --shell "$window" | grep HEIGHT)"
+    import -window "$window" -crop "56x18+$((82 + 72 * ($1 - 1) + 16))+$((HEIGHT - 229))" rgb:- | md5sum
+}
+
+# Types a reading and waits until the strip has followed.
+type_reading() {
+    local before
+    before=$(average_under "$1")
+    xdotool type "$2"
+    until_true strip_differs "$1" "$before"
+}
+
+strip_differs() { [[ $(average_under "$1") != "$2" ]]; }
+
 plus() { click_from_bottom 19 219; } # the "+" button
 
 day_is() { grep -qxE "$1" "$days"; }

@@ -8,7 +8,7 @@ in_front
 plus
 xdotool type 5.6
 xdotool key Tab
-xdotool type 7
+type_reading 2 7
 kill -TERM "$pid"
 ends_well
 grep -q '@#@5\.6@#@7@#@' "$days" || fail "what was typed is lost: $(cat "$days")"

@@ -7,7 +7,7 @@ in_front
 plus
 xdotool type 5.6
 xdotool key Tab
-xdotool type 7
+type_reading 2 7
 kill -KILL "$display_server"
 wait "$pid" 2>/dev/null && fail "a program without a display can't end well"
 until_true grep -q '@#@5\.6@#@7@#@' "$days"

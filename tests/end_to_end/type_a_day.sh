@@ -11,10 +11,10 @@ for reading in 5.6 7.2 6.1 8.4 5.9 9.3 6.8; do
 done
 [[ ! -s $days ]] || fail "saved before the focus was lost"
 go_to_another_program
-today=$(date +%Y-%m-%d)
+today='[0-9]{4}-[0-9]{2}-[0-9]{2}'
 until_true day_is "$today@#@5\.6@#@7\.2@#@6\.1@#@8\.4@#@5\.9@#@9\.3@#@6\.8@#@7\.0@#@@#@[0-9]{12}"
 
-# A second day, a look at the weight by the mouse, then the close button of the window.
+# A second day whose typing is taken back, then the close button of the window.
 come_back
 plus
 xdotool type 12
