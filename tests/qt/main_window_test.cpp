@@ -11,7 +11,15 @@ namespace tallyvane {
 
 namespace {
 
-class MainWindowTest : public QtDesk {};
+class MainWindowTest : public QtDesk {
+protected:
+    std::vector<std::string> column(int column) {
+        std::vector<std::string> cells;
+        for (int row = 0; row < list().ListCount(); ++row)
+            cells.push_back(list().Cell(row, column));
+        return cells;
+    }
+};
 
 TEST_F(MainWindowTest, ADayIsAddedTypedKeptAndRemoved) {
     start();
@@ -84,9 +92,20 @@ TEST_F(MainWindowTest, ADateIsChangedInItsDialog) {
 TEST_F(MainWindowTest, ADoubleClickInTheCalendarAddsThatDay) {
     start();
     auto* calendar = frame_->findChild<QCalendarWidget*>();
+    auto* days = calendar->findChild<QTableView*>();
     calendar->setSelectedDate(QDate(2026, 3, 4));
-    Q_EMIT calendar->activated(QDate(2026, 3, 4));
-    EXPECT_EQ(list().Cell(0, 0), "3/4/2026");
+    const QPoint fourth = days->visualRect(days->currentIndex()).center();
+    QTest::mouseClick(days->viewport(), Qt::LeftButton, {}, fourth);
+    EXPECT_EQ(list().ListCount(), 0) << "a single click adds nothing";
+    const auto second = [&](const QPoint& place) {
+        QMouseEvent event(QEvent::MouseButtonDblClick, QPointF(place), days->viewport()->mapToGlobal(QPointF(place)),
+                          Qt::LeftButton, Qt::LeftButton, {});
+        QApplication::sendEvent(days->viewport(), &event);
+    };
+    second({fourth.x(), 2}); // the names of the days
+    EXPECT_EQ(list().ListCount(), 0);
+    second(fourth);
+    EXPECT_EQ(column(0), (std::vector<std::string>{"3/4/2026"}));
 }
 
 TEST_F(MainWindowTest, ItemsAndButtonsWithoutAnAnswerAreOff) {

@@ -1,7 +1,10 @@
 #include "shell/app.h"
 
+#include <random>
+
 #include "settings/data_files.h"
 #include "settings/globals.h"
+#include "settings/prefs_module.h"
 #include "shell/menu_bar1.h"
 #include "support/failing_disk.h"
 #include "support/test_desk.h"
@@ -141,6 +144,56 @@ TEST_F(AppTest, AFailedSaveReachesTheCatchAllAndTheProgramGoesOn) {
     app.run([&] { app.FileQuit_Action(); });
     EXPECT_FALSE(app.window1()->isOpen());
     EXPECT_FALSE(app.Event_UnhandledException());
+}
+
+TEST_F(AppTest, AnyBytesInAnyFileStartAndEnd) {
+    std::mt19937 random(20261122);
+    const std::vector<std::string> files{"7VXData", "Brindlemarks Preferences", "7VXHeadings", "QVXWindowData",
+                                         "QVXLogData"};
+    const std::vector<std::string> pieces{"\n",
+                                          "\r",
+                                          "@#@",
+                                          "$%$",
+                                          "true",
+                                          "-",
+                                          "1e9",
+                                          "99999999999999999999",
+                                          "/",
+                                          ".",
+                                          std::string(1, '\0'),
+                                          "\xFF",
+                                          "\xC3",
+                                          std::string(300000, 'x')};
+    for (int round = 0; round < 40; ++round) {
+        for (const std::string& file : files) {
+            std::string content;
+            for (unsigned piece = random() % 25; piece > 0; --piece)
+                content += pieces[random() % pieces.size()];
+            write(applicationFile(file), content);
+        }
+        App app;
+        app.Event_Open();
+        ASSERT_NE(app.window1(), nullptr) << "round " << round;
+        app.splashWindow()->Timer1.fire();
+        app.window1()->BevelButton1_Action();
+        app.FileQuit_Action();
+        StartupGlobals::gDataFolder.reset();
+    }
+    EXPECT_EQ(toolkit_.quits, std::vector<int>(40, 0));
+}
+
+TEST_F(AppTest, AFolderThatTakesNoFilesIsBorneInSilence) {
+    makeApplicationFolder();
+    write(applicationFile("Brindlemarks Preferences"), "true\n13\n9\n5\n3\n\n\n\n/proc/self/task\n");
+    App app;
+    app.Event_Open();
+    EXPECT_EQ(StartupGlobals::gDataFolder->AbsolutePath(), "/proc/self/task");
+    app.window1()->BevelButton1_Action();
+    app.Event_Deactivate();
+    PrefsModule::savePrefs();
+    app.FileQuit_Action();
+    EXPECT_TRUE(toolkit_.messages.empty());
+    EXPECT_EQ(toolkit_.quits, std::vector<int>{0});
 }
 
 TEST_F(AppTest, MenuItemsAnswerOrAreOff) {
