@@ -54,7 +54,8 @@ public:
     void Event_Resized() override {}
     void Event_Moved() override {}
 
-    /// The three saves of closing. What fails one file does not cost the others; the first failure is thrown at the end.
+    /// The three saves of closing. What fails one file does not cost the others; the first failure is thrown at the
+    /// end.
     void saveAll();
     void saveData();
     void getData();
