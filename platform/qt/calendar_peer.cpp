@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QLayout>
 #include <QMouseEvent>
+#include <QTextCharFormat>
 #include <QTableView>
 
 #include "platform/qt/event_guard.h"
@@ -14,6 +15,10 @@ CalendarPeer::CalendarPeer(CalendarControl& calendar, QWidget* parent) : Peer(ca
     setVerticalHeaderFormat(NoVerticalHeader);
     setHorizontalHeaderFormat(SingleLetterDayNames);
     setGridVisible(false);
+    QTextCharFormat weekend; // not Qt's red, which is hard to read on dark
+    weekend.setForeground(palette().text());
+    setWeekdayTextFormat(Qt::Saturday, weekend);
+    setWeekdayTextFormat(Qt::Sunday, weekend);
     days_ = findChild<QTableView*>();
     days_->horizontalHeader()->setMinimumSectionSize(1); // seven columns find room in a small calendar
     days_->verticalHeader()->setMinimumSectionSize(1);

@@ -46,7 +46,9 @@ bool isShortcut(const QKeyEvent& key) {
 } // namespace
 
 CellEditor::CellEditor(Listbox& list, QWidget* parent) : Peer(list.ActiveCell(), parent), list_(&list) {
-    setStyleSheet(QStringLiteral("border: 1px solid #265caa; background: white; padding: 0 3px;"));
+    // Light in every theme, as the list is.
+    setStyleSheet(QStringLiteral("border: 1px solid #265caa; background: white; color: #10141a; padding: 0 3px;"
+                                 "selection-background-color: #265caa; selection-color: white;"));
     setMaxLength(std::numeric_limits<int>::max()); // Qt's own limit would cut a text without a word
     hide();
     connect(this, &QLineEdit::textEdited, this, [this] { textTyped(); });

@@ -94,6 +94,7 @@ void ListboxPeer::setUpLook() {
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setFont(font);
+    editor_->setFont(font);
 }
 
 void ListboxPeer::detach() {

@@ -144,6 +144,38 @@ TEST_F(MainWindowTest, TheEditMenuActsOnTheFocusedField) {
     EXPECT_EQ(Globals::gJournal, "felt well");
 }
 
+TEST_F(MainWindowTest, TheTableAndItsOpenCellStayLightAndLegibleInADarkTheme) {
+    const QPalette before = QApplication::palette();
+    QPalette dark(QColor(40, 40, 40), QColor(30, 30, 30));
+    for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText, QPalette::HighlightedText})
+        dark.setColor(role, Qt::white);
+    dark.setColor(QPalette::Base, QColor(30, 30, 30));
+    QApplication::setPalette(dark);
+    QApplication::setPalette(dark, "QLineEdit"); // as themes do
+    write(applicationFile("7VXData"), "1/1/2026@#@888@#@888\n");
+    start();
+    list().ListIndex(-1);
+    click(0, 1);
+    QTest::keyClick(editor(), Qt::Key_End); // nothing selected
+    // The darkest and the lightest place of the open cell, of its neighbour and of the strip below.
+    const auto legible = [&](const QRect& area) {
+        const QImage shown = frame_->centralWidget()->grab(area).toImage();
+        int darkest = 255;
+        int lightest = 0;
+        for (int y = 0; y < shown.height(); ++y)
+            for (int x = 0; x < shown.width(); ++x) {
+                darkest = std::min(darkest, qGray(shown.pixel(x, y)));
+                lightest = std::max(lightest, qGray(shown.pixel(x, y)));
+            }
+        return darkest < 100 && lightest > 180;
+    };
+    const int firstRow = 26 + 19;
+    EXPECT_TRUE(legible({82 + 20, firstRow + 2, 42, 11})) << "open cell"; // without its cursor
+    EXPECT_TRUE(legible({82 + 72 + 20, firstRow + 2, 50, 11})) << "cell beside it";
+    EXPECT_TRUE(legible({82 + 16, 26 + 259 + 4, 52, 18})) << "strip";
+    QApplication::setPalette(before);
+}
+
 TEST_F(MainWindowTest, TheIndicatorSwitchHidesAndShowsTheStripsLights) {
     write(applicationFile("7VXData"), "1/1/2026@#@5\n");
     start();
