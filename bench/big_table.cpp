@@ -20,7 +20,8 @@ namespace {
 /// A folder that goes with the process.
 struct ScratchFolder {
     ScratchFolder() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "tallyvane-bench-XXXXXX").string();
+        std::string pattern =
+            (std::filesystem::temp_directory_path() / ("tallyvane-bench-" + std::string(6, 'X'))).string();
         path = ::mkdtemp(pattern.data());
     }
     ~ScratchFolder() { std::filesystem::remove_all(path); }

@@ -10,7 +10,7 @@
 namespace tallyvane {
 
 void TestDesk::SetUp() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "tallyvane-test-XXXXXX").string();
+    std::string pattern = (std::filesystem::temp_directory_path() / ("tallyvane-test-" + std::string(6, 'X'))).string();
     folder_ = ::mkdtemp(pattern.data());
     SpecialFolder::ApplicationData = GetFolderItem(folder_.string());
     SpecialFolder::UserHome = GetFolderItem(folder_.string());
