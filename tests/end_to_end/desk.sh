@@ -101,6 +101,15 @@ strip_differs() { [[ $(average_under "$1") != "$2" ]]; }
 
 plus() { click_from_bottom 19 219; } # the "+" button
 
+# A new day with 5.6 and 7, typed and taken in, and not saved yet.
+add_day_of_two_readings() {
+    in_front
+    plus
+    xdotool type 5.6
+    xdotool key Tab
+    type_reading 2 7
+}
+
 day_is() { grep -qxE "$1" "$days"; }
 
 # The end of the program, with exit code 0.

@@ -4,11 +4,7 @@ source "$(dirname "$0")/desk.sh"
 
 folder="$home/data/Tallyvane"
 start
-in_front
-plus
-xdotool type 5.6
-xdotool key Tab
-type_reading 2 7
+add_day_of_two_readings
 kill -TERM "$pid"
 ends_well
 grep -q '@#@5\.6@#@7@#@' "$days" || fail "what was typed is lost: $(cat "$days")"

@@ -3,11 +3,7 @@
 source "$(dirname "$0")/desk.sh"
 
 start
-in_front
-plus
-xdotool type 5.6
-xdotool key Tab
-type_reading 2 7
+add_day_of_two_readings
 kill -KILL "$display_server"
 wait "$pid" 2>/dev/null && fail "a program without a display can't end well"
 until_true grep -q '@#@5\.6@#@7@#@' "$days"
