@@ -19,17 +19,10 @@ const std::function<void()>* answer(const MenuBar& bar, Window* front, std::stri
 
 } // namespace
 
-MenuItem* MenuBar::find(std::string_view name) {
+void MenuBar::enable(std::string_view name) {
     for (Menu& menu : menus_)
         for (MenuItem& item : menu.items)
-            if (item.Name == name)
-                return &item;
-    return nullptr;
-}
-
-void MenuBar::enable(std::string_view name) {
-    if (MenuItem* item = find(name))
-        item->Enabled = true;
+            item.Enabled = item.Enabled || item.Name == name;
 }
 
 void MenuBar::enableItems(Window* front) {

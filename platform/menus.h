@@ -55,8 +55,6 @@ public:
     explicit MenuBar(std::vector<Menu> menus) : menus_(std::move(menus)) {}
 
     const std::vector<Menu>& menus() const { return menus_; }
-    /// Nil when there is no item of that name.
-    MenuItem* find(std::string_view name);
     /// Enables an item, if there is one of that name.
     void enable(std::string_view name);
 

@@ -25,7 +25,8 @@ public:
     virtual void bringToFront() = 0;
 };
 
-/// Which edges of a control keep their distance from the same edge of the window.
+/// Which edges of a control keep their distance from the same edge of the window. Only a window's height changes so
+/// far, so that left and right say no more than that.
 enum Lock : unsigned { lockLeft = 1, lockTop = 2, lockRight = 4, lockBottom = 8 };
 
 /// A line of a window's table of controls: what, where, and how it follows the window's size.
