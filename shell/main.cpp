@@ -7,7 +7,7 @@ using namespace tallyvane;
 int main(int argc, char** argv) {
     QtProgram program(argc, argv);
     App app;
-    program.guard = [&app](const std::function<void()>& event) { app.run(event); };
+    program.guardEvents([&app](const std::function<void()>& event) { app.run(event); });
     program.onDeactivate = [&app] { app.Event_Deactivate(); };
     program.onEndRequested = [&app] { app.FileQuit_Action(); };
     program.onDisplayLost = [&app] { app.Event_DisplayLost(); };

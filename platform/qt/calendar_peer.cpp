@@ -4,8 +4,8 @@
 #include <QKeyEvent>
 #include <QLayout>
 #include <QMouseEvent>
-#include <QTextCharFormat>
 #include <QTableView>
+#include <QTextCharFormat>
 
 #include "platform/qt/event_guard.h"
 

@@ -54,7 +54,7 @@ struct QtProgram::Parts {
     QApplication application;
     QtToolkit toolkit;
     InstanceChannel channel;
-    std::unique_ptr<UnixSignals> signals_;
+    std::unique_ptr<UnixSignals> unixSignals;
 };
 
 QtProgram::QtProgram(int& argc, char** argv) : parts_(std::make_unique<Parts>(argc, argv)) {
@@ -65,13 +65,7 @@ QtProgram::QtProgram(int& argc, char** argv) : parts_(std::make_unique<Parts>(ar
     QApplication::setQuitOnLastWindowClosed(false);
     settleFolders();
     settleDateForm();
-    setEventGuard([this](const std::function<void()>& event) {
-        if (guard)
-            guard(event);
-        else
-            event();
-    });
-    parts_->signals_ = std::make_unique<UnixSignals>([this] { deliver(onEndRequested); });
+    parts_->unixSignals = std::make_unique<UnixSignals>([this] { deliver(onEndRequested); });
     QObject::connect(&application, &QGuiApplication::applicationStateChanged, &application,
                      [this](Qt::ApplicationState state) {
                          if (state != Qt::ApplicationActive)
@@ -83,6 +77,10 @@ QtProgram::QtProgram(int& argc, char** argv) : parts_(std::make_unique<Parts>(ar
 }
 
 QtProgram::~QtProgram() { setEventGuard(nullptr); }
+
+void QtProgram::guardEvents(std::function<void(const std::function<void()>& event)> guard) {
+    setEventGuard(std::move(guard));
+}
 
 int QtProgram::run(const std::function<void()>& open) {
     deliver(open);

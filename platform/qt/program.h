@@ -14,8 +14,9 @@ public:
     QtProgram& operator=(const QtProgram&) = delete;
     ~QtProgram();
 
-    /// Runs each event; the application's catch-all.
-    std::function<void(const std::function<void()>& event)> guard;
+    /// Has each event run by the application's catch-all, until the program goes.
+    void guardEvents(std::function<void(const std::function<void()>& event)> guard);
+
     /// The program has lost the focus to another.
     std::function<void()> onDeactivate;
     /// A signal or the end of the desktop session asks the program to end.
