@@ -140,7 +140,24 @@ Date readClock() {
             local.tm_hour * 3600 + local.tm_min * 60 + std::min(local.tm_sec, 59)};
 }
 
+std::string isoText(const Date& date, DateSource::Form form) {
+    switch (form) {
+    case DateSource::Form::longDate:
+        return padded(date.Year(), 4) + '-' + padded(date.Month(), 2) + '-' + padded(date.Day(), 2);
+    case DateSource::Form::shortTime:
+        return padded(date.Hour(), 2) + ':' + padded(date.Minute(), 2);
+    case DateSource::Form::longTime:
+        break;
+    }
+    return isoText(date, DateSource::Form::shortTime) + ':' + padded(date.Second(), 2);
+}
+
+constexpr sys_days origin = std::chrono::January / 1 / 1;
+constexpr double secondsADay = 86400;
+
 } // namespace
+
+std::function<std::string(const Date&, DateSource::Form)> DateSource::text = isoText;
 
 std::function<Date()> DateSource::now = readClock;
 
@@ -157,6 +174,15 @@ Date::Date(int year, int month, int day, int secondsOfDay)
     : day_(std::chrono::year(year), std::chrono::month(static_cast<unsigned>(month)),
            std::chrono::day(static_cast<unsigned>(day))),
       secondsOfDay_(secondsOfDay) {}
+
+Date Date::ofTotalSeconds(double seconds) {
+    const double last = Date(9999, 12, 31, 86399).TotalSeconds();
+    const double known = seconds > 0 ? std::min(seconds, last) : 0;
+    const double day = std::floor(known / secondsADay);
+    const std::chrono::year_month_day date(origin + std::chrono::days(static_cast<int>(day)));
+    return {static_cast<int>(date.year()), static_cast<int>(static_cast<unsigned>(date.month())),
+            static_cast<int>(static_cast<unsigned>(date.day())), static_cast<int>(known - day * secondsADay)};
+}
 
 bool Date::isDay(int year, int month, int day) {
     return year >= 1 && year <= 9999 && month >= 1 && day >= 1 && Date(year, month, day).day_.ok();
@@ -177,10 +203,18 @@ std::string Date::ShortDate() const {
     return text;
 }
 
+std::string Date::LongDate() const { return DateSource::text(*this, DateSource::Form::longDate); }
+std::string Date::ShortTime() const { return DateSource::text(*this, DateSource::Form::shortTime); }
+std::string Date::LongTime() const { return DateSource::text(*this, DateSource::Form::longTime); }
+
 double Date::TotalSeconds() const {
-    constexpr sys_days origin = std::chrono::January / 1 / 1;
     const auto days = (sys_days(day_) - origin).count();
-    return static_cast<double>(days) * 86400.0 + secondsOfDay_;
+    return static_cast<double>(days) * secondsADay + secondsOfDay_;
+}
+
+int Ticks() {
+    using Sixtieths = std::chrono::duration<int, std::ratio<1, 60>>;
+    return std::chrono::duration_cast<Sixtieths>(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
 
 std::optional<Date> ParseDate(std::string_view text) {

@@ -16,6 +16,10 @@ public:
     /// Midnight of a day. The day must exist; ParseDate and isDay tell.
     Date(int year, int month, int day, int secondsOfDay = 0);
 
+    /// The moment that many seconds after the first midnight of the year 1, in whole seconds. One before that, after
+    /// the year 9999 or no number at all becomes the nearest moment that there is.
+    static Date ofTotalSeconds(double seconds);
+
     /// Whether the calendar has that day, in the years 1 to 9999.
     static bool isDay(int year, int month, int day);
 
@@ -25,8 +29,16 @@ public:
 
     /// The date in the locale's short form, the year in four digits: "11/22/2026".
     std::string ShortDate() const;
+    // The other forms of the locale; without one ISO: "2026-11-22", "14:05", "14:05:09"
+    std::string LongDate() const;
+    std::string ShortTime() const;
+    std::string LongTime() const;
     /// Seconds since the first midnight of the year 1; never negative, and below 10^12.
     double TotalSeconds() const;
+
+    int Hour() const { return secondsOfDay_ / 3600; }
+    int Minute() const { return secondsOfDay_ / 60 % 60; }
+    int Second() const { return secondsOfDay_ % 60; }
 
     bool operator==(const Date&) const = default;
 
@@ -39,6 +51,9 @@ private:
 /// ("2026-11-22"). Nothing for a text that is none of these, or a day that does not exist.
 [[nodiscard]] std::optional<Date> ParseDate(std::string_view text);
 
+/// Sixtieths of a second since some moment before the program started.
+int Ticks();
+
 /// What dates take from outside. Set once at start; tests set fixed values.
 namespace DateSource {
 /// The clock.
@@ -46,6 +61,10 @@ extern std::function<Date()> now;
 /// Sets the locale's short form, such as "M/d/yyyy": runs of d, M and y, all else as it stands, text between
 /// apostrophes too. A pattern that is not one day, one month and one year in figures gives "yyyy-MM-dd".
 void setShortPattern(std::string_view pattern);
+/// The forms of a date that are only read by people, never back by the program.
+enum class Form { longDate, shortTime, longTime };
+/// The text of a moment in such a form of the locale.
+extern std::function<std::string(const Date&, Form)> text;
 } // namespace DateSource
 
 } // namespace tallyvane

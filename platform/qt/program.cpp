@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QLocale>
+#include <QRegularExpression>
 #include <QSessionManager>
 #include <QStandardPaths>
 
@@ -34,6 +35,20 @@ void settleFolders() {
 void settleDateForm() {
     const QLocale locale = QLocale::system();
     DateSource::setShortPattern(fromQt(locale.dateFormat(QLocale::ShortFormat)));
+    // The long form of a time names its zone, which a moment on the wall clock does not have.
+    const QRegularExpression timeZone(QStringLiteral(R"([\s(\[]*t+[)\]]*)"));
+    DateSource::text = [locale, timeZone](const Date& date, DateSource::Form form) {
+        const QTime time(date.Hour(), date.Minute(), date.Second());
+        switch (form) {
+        case DateSource::Form::longDate:
+            return fromQt(locale.toString(toQt(date), QLocale::LongFormat));
+        case DateSource::Form::shortTime:
+            return fromQt(locale.toString(time, QLocale::ShortFormat));
+        case DateSource::Form::longTime:
+            break;
+        }
+        return fromQt(locale.toString(time, locale.timeFormat().remove(timeZone).trimmed()));
+    };
 }
 
 /// The program while its event loop runs. A lost display makes Qt end the process inside that loop by exit().

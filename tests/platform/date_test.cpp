@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace tallyvane {
 
 namespace {
@@ -67,6 +69,29 @@ TEST_F(DateTest, SecondsRiseWithTheDaysAndFitInTwelveDigits) {
     EXPECT_EQ(Date(2000, 3, 1).TotalSeconds() - Date(2000, 2, 28).TotalSeconds(), 2 * 86400);
     EXPECT_EQ(Date().TotalSeconds() - Date(2026, 11, 22).TotalSeconds(), 3600);
     EXPECT_LT(Date(9999, 12, 31, 86399).TotalSeconds(), 1e12);
+}
+
+TEST_F(DateTest, MomentsOfSeconds) {
+    constexpr double day = 86400;
+    const double noon = Date(2026, 11, 22, 43200).TotalSeconds();
+    struct Row {
+        double seconds;
+        Date want;
+    };
+    const Row rows[] = {
+        {0, Date(1, 1, 1)},
+        {noon + 0.9, Date(2026, 11, 22, 43200)},
+        {noon + day * 365, Date(2027, 11, 22, 43200)},
+        {-5, Date(1, 1, 1)},
+        {1e300, Date(9999, 12, 31, 86399)},
+        {std::numeric_limits<double>::infinity(), Date(9999, 12, 31, 86399)},
+        {std::numeric_limits<double>::quiet_NaN(), Date(1, 1, 1)},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(Date::ofTotalSeconds(row.seconds), row.want) << row.seconds;
+    const Date evening(2026, 1, 2, 20 * 3600 + 3 * 60 + 4);
+    EXPECT_EQ(evening.LongDate() + ", " + evening.ShortTime() + ", " + evening.LongTime(),
+              "2026-01-02, 20:03, 20:03:04");
 }
 
 } // namespace
