@@ -1,13 +1,37 @@
 #include "platform/graphics_recorder.h"
 
+#include "platform/text.h"
+
 namespace tallyvane {
 
+double GraphicsRecorder::StringWidth(std::string_view text) const {
+    return 0.5 * static_cast<double>(TextSize()) * Len(text);
+}
+
+void GraphicsRecorder::DrawLine(double x1, double y1, double x2, double y2) {
+    calls_.push_back({"DrawLine", ForeColor(), {}, {x1, y1, x2, y2}, {}, PenWidth()});
+}
+
+void GraphicsRecorder::DrawRect(double x, double y, double width, double height) {
+    calls_.push_back({"DrawRect", ForeColor(), {}, {x, y, width, height}, {}, PenWidth()});
+}
+
 void GraphicsRecorder::FillRect(double x, double y, double width, double height) {
-    calls_.push_back({"FillRect", ForeColor(), {}, x, y, width, height});
+    calls_.push_back({"FillRect", ForeColor(), {}, {x, y, width, height}});
+}
+
+void GraphicsRecorder::DrawString(std::string_view text, double x, double y) {
+    calls_.push_back({"DrawString", ForeColor(), std::string(text), {x, y}, {}, 1, TextSize()});
 }
 
 void GraphicsRecorder::DrawPicture(const Picture& picture, double x, double y) {
-    calls_.push_back({"DrawPicture", 0, picture.File(), x, y, 0, 0});
+    calls_.push_back({"DrawPicture", 0, picture.File(), {x, y}, picture.Objects()});
+}
+
+void GraphicsRecorder::DrawObject(const Object2D& shape, double x, double y) {
+    Group2D alone;
+    alone.Append(shape);
+    calls_.push_back({"DrawObject", 0, {}, {x, y}, std::move(alone)});
 }
 
 } // namespace tallyvane

@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 
+#include "platform/picture.h"
 #include "platform/window.h"
 
 namespace tallyvane {
@@ -21,6 +22,8 @@ public:
     virtual std::unique_ptr<WindowPeer> show(Window& window) = 0;
     /// The bounds that a new window gets: its size, in the middle of its owner or of the screen.
     virtual Rect placeFor(const Window& window) = 0;
+    /// Clear pixels, that many points wide and high, as fine as the desktop's screens.
+    virtual std::shared_ptr<Bitmap> makeBitmap(int width, int height) = 0;
     /// A modal message with one button; returns when the user has pressed it.
     virtual void message(const std::string& text) = 0;
     virtual void beep() = 0;

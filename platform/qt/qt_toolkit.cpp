@@ -8,6 +8,7 @@
 #include <QUrl>
 
 #include "platform/qt/convert.h"
+#include "platform/qt/qt_bitmap.h"
 #include "platform/qt/window_peer.h"
 
 namespace tallyvane {
@@ -46,6 +47,10 @@ Rect QtToolkit::placeFor(const Window& window) {
     QRect place(0, 0, window.Width(), window.Height());
     place.moveCenter(around.center());
     return {place.x(), place.y(), place.width(), place.height()};
+}
+
+std::shared_ptr<Bitmap> QtToolkit::makeBitmap(int width, int height) {
+    return std::make_shared<QtBitmap>(width, height, qApp->devicePixelRatio());
 }
 
 void QtToolkit::message(const std::string& text) {

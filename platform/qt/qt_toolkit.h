@@ -12,6 +12,7 @@ public:
 
     std::unique_ptr<WindowPeer> show(Window& window) override;
     Rect placeFor(const Window& window) override;
+    std::shared_ptr<Bitmap> makeBitmap(int width, int height) override;
     void message(const std::string& text) override;
     void beep() override;
     void openUrl(const std::string& address) override;

@@ -69,9 +69,9 @@ TEST_F(IndicatorsTest, ACellIsItsBandAndItsLight) {
         for (const Row& row : rows) {
             GraphicsRecorder g(72, 15);
             EXPECT_FALSE(window1_.ListBox1_CellBackgroundPaint(g, row.row, row.column));
-            std::vector<GraphicsRecorder::Call> want{{"FillRect", row.band, "", 0, 0, 72, 15}};
+            std::vector<GraphicsRecorder::Call> want{{"FillRect", row.band, "", {0, 0, 72, 15}}};
             if (shown && !row.picture.empty())
-                want.push_back({"DrawPicture", 0, row.picture, row.x, 2, 0, 0});
+                want.push_back({"DrawPicture", 0, row.picture, {row.x, 2}});
             EXPECT_EQ(g.calls(), want) << row.name << (shown ? "" : ", indicators off");
         }
     }

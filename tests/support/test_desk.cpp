@@ -25,7 +25,7 @@ void TestDesk::SetUp() {
     Globals::gIncludeMeds = Globals::gIncludeExercise = Globals::gIncludeFood = false;
     for (std::string* log : {&Globals::gExercise, &Globals::gFood, &Globals::gJournal, &Globals::gMedication})
         log->clear();
-    Globals::gFileWindowOpen = Globals::gFilesOpen = false;
+    Globals::gFileWindowOpen = Globals::gFilesOpen = Globals::gPrintingOn = false;
     DateSource::setShortPattern("M/d/yyyy");
     DateSource::now = [] { return Date(2026, 11, 22, 12 * 3600); };
 }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/folder_item.h"
+#include "platform/graphics_recorder.h"
 #include "platform/toolkit.h"
 #include "shell/app.h"
 
@@ -20,6 +21,9 @@ public:
 
     std::unique_ptr<WindowPeer> show(Window& /*window*/) override { return nullptr; }
     Rect placeFor(const Window& window) override { return {400, 300, window.Width(), window.Height()}; }
+    std::shared_ptr<Bitmap> makeBitmap(int width, int height) override {
+        return std::make_shared<RecordedBitmap>(width, height);
+    }
     void message(const std::string& text) override { messages.push_back(text); }
     void beep() override { ++beeps; }
     void openUrl(const std::string& address) override { addresses.push_back(address); }

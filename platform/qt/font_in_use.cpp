@@ -1,0 +1,33 @@
+#include "platform/qt/font_in_use.h"
+
+#include <QGuiApplication>
+
+#include <algorithm>
+
+#include "platform/qt/convert.h"
+
+namespace tallyvane {
+
+namespace {
+
+QFont fontOf(const std::string& name, float size, const QPaintDevice& device) {
+    constexpr double pointsAnInch = 72;
+    QFont font = QGuiApplication::font();
+    if (name != "System")
+        font.setFamily(toQt(name));
+    // By points and the device's resolution, since pixel sizes of fonts are whole and a print needs 37.5.
+    font.setPointSizeF(std::max(1.0, static_cast<double>(size)) * pointsAnInch / device.logicalDpiY());
+    return font;
+}
+
+} // namespace
+
+const FontInUse::Known& FontInUse::known(FontName name, float size, QPaintDevice& device) {
+    if (!known_ || known_->name != name || known_->size != size) {
+        const QFont font = fontOf(name, size, device);
+        known_.emplace(Known{name, size, font, QFontMetricsF(font, &device)});
+    }
+    return *known_;
+}
+
+} // namespace tallyvane

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QImage>
+#include <QPainter>
+
+#include "platform/qt/painter_graphics.h"
+
+namespace tallyvane {
+
+/// Pixels in memory, `scale` of them to a point.
+class QtBitmap : public Bitmap {
+public:
+    QtBitmap(int width, int height, double scale);
+
+    PainterGraphics& surface() override { return surface_; }
+    const QImage& image() const { return image_; }
+
+private:
+    QImage image_;
+    QPainter painter_;
+    PainterGraphics surface_;
+};
+
+} // namespace tallyvane

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QPainter>
+
+#include <optional>
+
+#include "platform/qt/font_in_use.h"
+#include "platform/shapes.h"
+
+namespace tallyvane {
+
+/// A place that Qt can paint: one that is too far for it, or no number, is brought to where nobody sees it.
+double reachable(double place);
+
+/// Paints shapes one by one in their order, all moved by one origin: the way for paper, and the measure for every
+/// faster one.
+class ShapePainter {
+public:
+    ShapePainter(QPainter& painter, QPointF origin);
+
+    void paint(const Group2D& shapes);
+
+    /// A line's part in and near what the painter shows, or nothing. Qt takes time for what nobody sees of a line.
+    std::optional<QLineF> visiblePart(const CurveShape& curve) const;
+    /// Whether a shape of that size around its place is in or near what the painter shows.
+    bool isVisible(QPointF place, double width, double height) const;
+    QPointF placeOf(const ShapeBase& shape) const;
+
+    // What std::visit asks for
+    void operator()(const RectShape& rect);
+    void operator()(const OvalShape& oval);
+    void operator()(const ArcShape& arc);
+    void operator()(const CurveShape& curve);
+    void operator()(const FigureShape& figure);
+    void operator()(const StringShape& string);
+
+private:
+    QPainter& painter_;
+    QPointF origin_;
+    QRectF visible_; // with a margin for pens
+    FontInUse font_;
+};
+
+/// The pen of a shape's outline.
+QPen outlinePen(const OutlinedShape& shape);
+
+} // namespace tallyvane

@@ -1,0 +1,139 @@
+#include "platform/qt/shape_runs.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tallyvane {
+
+namespace {
+
+/// The one colour of a symbol that has no more than one.
+template <class Shape>
+std::optional<Color> onlyColor(const Shape& shape) {
+    if (shape.Fill > 0 && shape.Border > 0 && shape.FillColor != shape.BorderColor)
+        return std::nullopt;
+    return shape.Fill > 0 ? shape.FillColor : shape.BorderColor;
+}
+
+QPointF wholePixel(QPointF place) { return {std::floor(place.x()), std::floor(place.y())}; }
+
+} // namespace
+
+ShapeRuns::ShapeRuns(QPainter& painter, QPointF origin)
+    : painter_(painter), plain_(painter, origin), toPixels_(painter.deviceTransform()) {}
+
+void ShapeRuns::paint(const Group2D& shapes) {
+    for (const Object2D& shape : shapes)
+        std::visit(*this, shape);
+    flush();
+}
+
+/// Lines of a pen of one pixel at the most. Qt joins the lines of a wider pen into one shape before it paints them,
+/// which is not what one upon the other looks like.
+void ShapeRuns::operator()(const CurveShape& curve) {
+    if (curve.BorderWidth * toPixels_.m11() > 1 || toPixels_.type() > QTransform::TxScale) {
+        takeUp(curve.BorderColor);
+        plain_(curve);
+        return;
+    }
+    const auto line = plain_.visiblePart(curve);
+    if (!line)
+        return;
+    takeUp(curve.BorderColor);
+    if (!lines_.empty() && (curve.BorderWidth != firstLine_.BorderWidth || curve.Border != firstLine_.Border))
+        flush();
+    if (lines_.empty())
+        firstLine_ = curve;
+    lines_.push_back(*line);
+}
+
+template <class Shape>
+void ShapeRuns::alone(const Shape& shape) {
+    flush();
+    plain_(shape);
+}
+
+template <class Shape>
+void ShapeRuns::symbol(const Shape& shape) {
+    constexpr double mostPixels = 64;
+    const double pixels = (std::max(shape.Width, shape.Height) + shape.BorderWidth) * toPixels_.m11();
+    const auto color = onlyColor(shape);
+    if (!color || shape.Rotation != 0 || toPixels_.type() > QTransform::TxScale || !(pixels <= mostPixels)) {
+        alone(shape);
+        return;
+    }
+    if (!plain_.isVisible(plain_.placeOf(shape), shape.Width, shape.Height))
+        return;
+    const QPointF place = toPixels_.map(plain_.placeOf(shape));
+    const QPointF pixel = wholePixel(place);
+    Shape key = shape;
+    key.X = place.x() - pixel.x();
+    key.Y = place.y() - pixel.y();
+    const std::size_t stamp = stampOf(key);
+    if (stamp == stamps_.size()) {
+        alone(shape);
+        return;
+    }
+    takeUp(*color);
+    imprints_.push_back({stamp, pixel.toPoint() + stamps_[stamp].corner});
+}
+
+/// The stamp of a symbol at that fraction of a pixel; past the last one when there are too many of them.
+template <class Shape>
+std::size_t ShapeRuns::stampOf(const Shape& shape) {
+    constexpr std::size_t mostStamps = 16;
+    const auto isIt = [&](const Stamp& stamp) {
+        const auto* known = std::get_if<Shape>(&stamp.shape);
+        return known != nullptr && *known == shape;
+    };
+    const auto found = std::find_if(stamps_.begin(), stamps_.end(), isIt);
+    if (found != stamps_.end() || stamps_.size() == mostStamps)
+        return static_cast<std::size_t>(found - stamps_.begin());
+
+    const QPointF reach = QPointF(shape.Width + shape.BorderWidth, shape.Height + shape.BorderWidth) / 2;
+    const QPointF centre(shape.X, shape.Y);
+    const QSizeF scale(toPixels_.m11(), toPixels_.m22());
+    const QRect covered = QRectF(centre.x() - reach.x() * scale.width(), centre.y() - reach.y() * scale.height(),
+                                 2 * reach.x() * scale.width(), 2 * reach.y() * scale.height())
+                              .toAlignedRect();
+    QImage pixels(covered.size().expandedTo({1, 1}), QImage::Format_ARGB32_Premultiplied);
+    pixels.fill(Qt::transparent);
+    QPainter painter(&pixels);
+    painter.setRenderHints(painter_.renderHints());
+    painter.translate(centre - covered.topLeft());
+    painter.scale(scale.width(), scale.height());
+    Shape centred = shape;
+    centred.X = 0;
+    centred.Y = 0;
+    ShapePainter(painter, {})(centred);
+    stamps_.push_back({shape, pixels, covered.topLeft()});
+    return stamps_.size() - 1;
+}
+
+/// Ends the run when the colour changes.
+void ShapeRuns::takeUp(Color color) {
+    if (color != color_)
+        flush();
+    color_ = color;
+}
+
+void ShapeRuns::flush() {
+    if (!lines_.empty()) {
+        painter_.setPen(outlinePen(firstLine_));
+        painter_.drawLines(lines_.data(), static_cast<int>(lines_.size()));
+        lines_.clear();
+    }
+    if (!imprints_.empty())
+        layDown();
+}
+
+void ShapeRuns::layDown() {
+    const QTransform before = painter_.worldTransform();
+    painter_.setWorldTransform(toPixels_.inverted() * before); // to the device's own pixels
+    for (const Imprint& imprint : imprints_)
+        painter_.drawImage(imprint.place, stamps_[imprint.stamp].pixels);
+    painter_.setWorldTransform(before);
+    imprints_.clear();
+}
+
+} // namespace tallyvane

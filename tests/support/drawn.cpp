@@ -1,0 +1,74 @@
+#include "support/drawn.h"
+
+#include <algorithm>
+#include <initializer_list>
+#include <iterator>
+#include <map>
+#include <sstream>
+
+namespace tallyvane {
+
+namespace {
+
+std::string joined(const std::string& word, std::initializer_list<double> numbers, const std::string& text = {}) {
+    std::ostringstream line;
+    line << word;
+    for (const double number : numbers)
+        line << ' ' << number;
+    if (!text.empty())
+        line << " '" << text << "'";
+    return line.str();
+}
+
+struct Describe {
+    std::string operator()(const RectShape& s) const { return joined("square", {s.X, s.Y, s.Width}); }
+    std::string operator()(const OvalShape& s) const { return joined("oval", {s.X, s.Y, s.Width}); }
+    std::string operator()(const ArcShape& s) const { return joined("arc", {s.StartAngle, s.ArcAngle, s.Width}); }
+    std::string operator()(const CurveShape& s) const { return joined("curve", {s.X, s.Y, s.X2, s.Y2}); }
+    std::string operator()(const FigureShape& s) const {
+        std::string sides = "figure";
+        for (const FigureShape::Side& side : s.sides)
+            sides += joined(",", {side.x1, side.y1, side.x2, side.y2});
+        return sides;
+    }
+    std::string operator()(const StringShape& s) const {
+        return joined("string", {s.X, s.Y}, s.Text) + (s.Rotation == 0 ? "" : s.Rotation < 0 ? " up" : " down");
+    }
+};
+
+} // namespace
+
+std::vector<std::string> drawn(const Group2D& shapes) {
+    std::vector<std::string> lines;
+    for (const Object2D& shape : shapes)
+        lines.push_back(std::visit(Describe(), shape));
+    return lines;
+}
+
+std::vector<std::string> drawn(const GraphicsRecorder& g) {
+    static const std::map<std::string, std::string> words{{"DrawLine", "line"},       {"DrawRect", "rect"},
+                                                          {"FillRect", "fill"},       {"DrawString", "text"},
+                                                          {"DrawPicture", "picture"}, {"DrawObject", "object"}};
+    std::vector<std::string> lines;
+    for (const GraphicsRecorder::Call& call : g.calls()) {
+        std::ostringstream line;
+        line << words.at(call.operation);
+        for (const double number : call.numbers)
+            line << ' ' << number;
+        if (call.operation == "DrawString")
+            line << " '" << call.text << "'";
+        lines.push_back(line.str());
+        for (const std::string& shape : drawn(call.shapes))
+            lines.push_back("  " + shape);
+    }
+    return lines;
+}
+
+std::vector<std::string> only(const std::string& beginning, const std::vector<std::string>& lines) {
+    std::vector<std::string> chosen;
+    std::copy_if(lines.begin(), lines.end(), std::back_inserter(chosen),
+                 [&](const std::string& line) { return line.starts_with(beginning); });
+    return chosen;
+}
+
+} // namespace tallyvane
