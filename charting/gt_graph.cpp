@@ -1,0 +1,139 @@
+#include "charting/gt_graph.h"
+
+#include <algorithm>
+
+#include "charting/gt_general_purpose.h"
+#include "charting/truncated.h"
+#include "platform/text.h"
+
+namespace tallyvane {
+
+namespace {
+
+/// Height of what a graph may take of a printed page that has a legend below it.
+constexpr int printedHeight = 450;
+/// From the top of the surface to the ascent of the title, at any resolution.
+constexpr double titleDrop = 20;
+/// The row in which the backdrop ends above.
+constexpr int backdropTop = 15;
+
+struct Channels {
+    int red;
+    int green;
+    int blue;
+};
+constexpr Channels backdropBelow{216, 224, 255};
+constexpr Channels backdropAbove{173, 176, 255};
+
+/// The backdrop's colour in a row of the surface: that of below in row `plotHeight`, that of above in row 0.
+Color backdropColor(int row, int plotHeight) {
+    const double below = static_cast<double>(row) / plotHeight;
+    const double above = static_cast<double>(plotHeight - row) / plotHeight;
+    const auto channel = [&](int Channels::*c) {
+        return truncated(backdropAbove.*c * above + backdropBelow.*c * below);
+    };
+    return RGB(channel(&Channels::red), channel(&Channels::green), channel(&Channels::blue));
+}
+
+} // namespace
+
+std::shared_ptr<GTSeries> GTGraph::Series(int index) const {
+    return index < 0 || index >= count() ? nullptr : mySeries[static_cast<std::size_t>(index)];
+}
+
+std::shared_ptr<GTSeries> GTGraph::Series(const std::string& name) const {
+    const auto found = std::find_if(mySeries.begin(), mySeries.end(),
+                                    [&](const auto& s) { return compareTexts(s->Name(), name) == 0; });
+    return found == mySeries.end() ? nullptr : *found;
+}
+
+void GTGraph::NormalizeRanges() {
+    if (mySeries.empty())
+        return;
+    Extent x{mySeries.front()->XMin(), mySeries.front()->XMax()};
+    Extent y{mySeries.front()->YMin(), mySeries.front()->YMax()};
+    for (const auto& series : mySeries) {
+        x = {std::min(x.low, series->XMin()), std::max(x.high, series->XMax())};
+        y = {std::min(y.low, series->YMin()), std::max(y.high, series->YMax())};
+    }
+    for (const auto& series : mySeries) {
+        series->SetXRange(x.low, x.high);
+        series->SetYRange(y.low, y.high);
+    }
+}
+
+void GTGraph::Resolution(int dotsPerInch) {
+    myResolution = dotsPerInch;
+    for (const auto& series : mySeries)
+        series->Resolution(dotsPerInch);
+    for (const auto& label : myLabels)
+        label->Resolution(dotsPerInch);
+}
+
+void GTGraph::setTitleFont(Graphics& g) const {
+    g.TextFont(textFont);
+    g.TextSize(myTextSize * GTGeneralPurpose::GTResolutionScaleFactor(myResolution));
+}
+
+int GTGraph::measureMyTitleHeight() const {
+    if (!titleVisible)
+        return 0;
+    const Picture measuring(1, 1, 32);
+    setTitleFont(measuring.Graphics());
+    const double scale = GTGeneralPurpose::GTResolutionScaleFactor(myResolution);
+    const int withTop = truncated(truncated(measuring.Graphics().TextHeight()) + myTopTitleMargin * scale);
+    return truncated(withTop + myBottomTitleMargin * scale);
+}
+
+int GTGraph::measureMyTitleWidth() const {
+    const Picture measuring(1, 1, 32);
+    setTitleFont(measuring.Graphics());
+    return truncated(measuring.Graphics().StringWidth(myTitleText));
+}
+
+void GTGraph::RenderMyTitle(Graphics& g, int x, int /*y*/, int w, int /*h*/) const {
+    if (!titleVisible)
+        return;
+    setTitleFont(g);
+    g.ForeColor(textColor);
+    const int baseline = truncated(g.TextAscent() + titleDrop);
+    g.DrawString(myTitleText, truncated(x + w / 2.0 - g.StringWidth(myTitleText) / 2), baseline);
+}
+
+void GTGraph::renderBackdrop(Graphics& g, int left, int top, int plotWidth, int plotHeight) {
+    for (int row = plotHeight + top; row >= backdropTop; --row) {
+        g.ForeColor(backdropColor(row, plotHeight));
+        g.DrawLine(left, row, left + plotWidth, row);
+    }
+}
+
+void GTGraph::Draw(Graphics& g) {
+    Resolution(myResolution);
+    GTGeneralPurpose::GTResetDateNames();
+
+    int top = marginTop + measureMyTitleHeight();
+    int bottom = marginBottom;
+    int left = marginLeft;
+    int right = marginRight;
+    if (const auto first = Series(0)) {
+        (first->XAxis().top() ? top : bottom) += first->XAxisHeight(truncated(g.Height()));
+        (first->YAxis().left() ? left : right) += first->YAxisWidth(truncated(g.Width()));
+    }
+    const int plotHeight = (isPrintingOn() ? printedHeight : truncated(g.Height())) - top - bottom;
+    const int plotWidth = truncated(g.Width()) - left - right;
+    if (plotHeight < 1 || plotWidth < 1)
+        return;
+
+    renderBackdrop(g, left, top, plotWidth, plotHeight);
+    RenderMyTitle(g, left, 0, plotWidth, plotHeight);
+
+    const int plotLeft = left;
+    const int plotTop = top;
+    left = top = right = bottom = 0; // from here on the room that axes have taken
+    for (const auto& series : mySeries)
+        series->Render(g, plotLeft, plotTop, left, top, right, bottom, plotWidth, plotHeight);
+    for (const auto& label : myLabels)
+        label->Render(g, left, top, plotWidth, plotHeight);
+}
+
+} // namespace tallyvane

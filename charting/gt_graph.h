@@ -1,0 +1,86 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "charting/gt_label.h"
+#include "charting/gt_series.h"
+
+namespace tallyvane {
+
+/// A chart: series with their axes, free labels, a title and a backdrop, drawn on any surface. Sizes are in points
+/// and grow with the resolution; the four margins are in units of the surface and do not.
+class GTGraph {
+public:
+    /// Whether what is drawn goes on a page that is printed with a legend, so that the plot's height is that of a
+    /// fixed part of the page. Whoever prints such pages sets it.
+    static inline std::function<bool()> isPrintingOn = [] { return false; };
+
+    GTGraph() = default;
+    GTGraph(const GTGraph&) = delete;
+    GTGraph& operator=(const GTGraph&) = delete;
+
+    // Content, drawn in the order of adding, labels after all series
+    void addSeries(std::shared_ptr<GTSeries> s) { mySeries.push_back(std::move(s)); }
+    void addLabel(std::shared_ptr<GTLabel> l) { myLabels.push_back(std::move(l)); }
+    int count() const { return static_cast<int>(mySeries.size()); }
+    /// Nil for an index that no series has.
+    std::shared_ptr<GTSeries> Series(int index) const;
+    /// The first series of that name; nil when there is none.
+    std::shared_ptr<GTSeries> Series(const std::string& name) const;
+    /// Gives all series the range that holds the ranges of all. A point added later takes its series out of it again.
+    void NormalizeRanges();
+
+    // Title
+    const std::string& text() const { return myTitleText; }
+    void text(std::string title) { myTitleText = std::move(title); }
+    int textSize() const { return myTextSize; }
+    void textSize(int points) { myTextSize = points; }
+    int titleTopMargin() const { return myTopTitleMargin; }
+    void titleTopMargin(int points) { myTopTitleMargin = points; }
+    int titleBottomMargin() const { return myBottomTitleMargin; }
+    void titleBottomMargin(int points) { myBottomTitleMargin = points; }
+
+    FontName textFont;
+    Color textColor = RGB(0, 0, 0);
+    bool titleVisible = false;
+
+    // Kept for those who ask; the backdrop is drawn in colours of its own.
+    bool hasBackColor = false;
+    Color backColor = RGB(212, 217, 255);
+    std::optional<Picture> backdrop;
+
+    int marginTop = 0;
+    int marginBottom = 0;
+    int marginLeft = 0;
+    int marginRight = 0;
+
+    // Drawing
+    int Resolution() const { return myResolution; }
+    /// Also sets it on every series and label.
+    void Resolution(int dotsPerInch);
+    /// Draws everything. Axes outside of the first series' axes lie in room that nobody keeps free for them. A surface
+    /// that is too small for a plot stays as it is.
+    void Draw(Graphics& g);
+
+    int measureMyTitleHeight() const;
+    int measureMyTitleWidth() const;
+    void RenderMyTitle(Graphics& g, int x, int y, int w, int h) const;
+
+private:
+    void setTitleFont(Graphics& g) const;
+    static void renderBackdrop(Graphics& g, int left, int top, int plotWidth, int plotHeight);
+
+    std::string myTitleText;
+    int myTextSize = 12;
+    std::vector<std::shared_ptr<GTSeries>> mySeries;
+    std::vector<std::shared_ptr<GTLabel>> myLabels;
+    int myResolution = 72;
+    int myTopTitleMargin = 0;
+    int myBottomTitleMargin = 0;
+};
+
+} // namespace tallyvane

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "charting/truncated.h"
+#include "platform/graphics.h"
+
+namespace tallyvane {
+
+/// Gives a surface its colour and its pen back, the pen in whole units.
+class PenKeeper {
+public:
+    explicit PenKeeper(Graphics& g) : g_(g), color_(g.ForeColor()), width_(g.PenWidth()), height_(g.PenHeight()) {}
+    ~PenKeeper() {
+        g_.ForeColor(color_);
+        g_.PenWidth(truncated(width_));
+        g_.PenHeight(truncated(height_));
+    }
+    PenKeeper(const PenKeeper&) = delete;
+    PenKeeper& operator=(const PenKeeper&) = delete;
+
+private:
+    Graphics& g_;
+    Color color_;
+    double width_;
+    double height_;
+};
+
+} // namespace tallyvane

@@ -1,0 +1,12 @@
+/// The engine's one way from a number to a whole unit of the surface.
+#pragma once
+
+namespace tallyvane {
+
+/// The whole part, towards zero; the nearest int for a number beyond it, 0 for no number.
+int truncated(double value);
+/// The same for a place that was reached by many small steps: one that only the rounding of the steps holds back from a
+/// whole number is that number.
+int truncatedPlace(double steppedTo);
+
+} // namespace tallyvane

@@ -1,0 +1,186 @@
+#include "charting/gt_series.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <random>
+
+#include "support/drawn.h"
+
+namespace tallyvane {
+
+namespace {
+
+using List = std::vector<double>;
+
+std::shared_ptr<GTDataPoint> pointOf(const List& x, const List& y) {
+    auto point = std::make_shared<GTDataPoint>(x.front(), y.front());
+    std::for_each(x.begin() + 1, x.end(), [&](double v) { point->extraXValue(v); });
+    std::for_each(y.begin() + 1, y.end(), [&](double v) { point->extraYValue(v); });
+    return point;
+}
+
+struct Range {
+    double xMin, xMax, yMin, yMax;
+
+    bool operator==(const Range&) const = default;
+};
+Range rangeOf(const GTSeries& s) { return {s.XMin(), s.XMax(), s.YMin(), s.YMax()}; }
+void PrintTo(const Range& r, std::ostream* out) {
+    *out << "x " << r.xMin << " to " << r.xMax << ", y " << r.yMin << " to " << r.yMax;
+}
+
+TEST(SeriesRanges, OfTheirPoints) {
+    struct Row {
+        const char* name;
+        std::vector<std::pair<List, List>> points;
+        Range want;
+    };
+    const std::vector<Row> rows{
+        {"none", {}, {0, 0, 0, 0}},
+        {"one", {{{3}, {5}}}, {3, 3, 5, 5}},
+        {"three", {{{3}, {5}}, {{1}, {9}}, {{2}, {7}}}, {1, 3, 5, 9}},
+        {"only as many values count as the first point has", {{{1}, {5}}, {{2}, {6, 99, -99}}}, {1, 2, 5, 6}},
+        {"what a later point lacks reads 0", {{{1}, {5, 6, 7}}, {{2}, {8}}}, {1, 2, 0, 8}},
+        {"x likewise", {{{1, 2}, {5}}, {{4}, {6}}}, {0, 4, 5, 6}},
+        {"what is not finite is passed over", {{{notANumber}, {5}}, {{2}, {infinite}}, {{3}, {7}}}, {2, 3, 5, 7}},
+        {"nothing finite at all", {{{notANumber}, {-infinite}}}, {0, 0, 0, 0}},
+    };
+    for (const Row& row : rows) {
+        GTSeries series(GTSeries::line);
+        for (const auto& [x, y] : row.points)
+            series.AddDataPoint(pointOf(x, y));
+        EXPECT_EQ(rangeOf(series), row.want) << row.name;
+        EXPECT_EQ(series.XAxis().minimum(), row.want.xMin) << row.name;
+        EXPECT_EQ(series.YAxis().maximum(), row.want.yMax) << row.name;
+    }
+}
+
+TEST(SeriesRanges, ASetRangeLastsUntilTheNextPoint) {
+    GTSeries series(GTSeries::line);
+    series.AddDataValue(1, 5);
+    series.SetYRange(0, 10);
+    EXPECT_EQ(series.YAxis().maximum(), 10);
+    series.RemoveDataValue(-1);
+    series.RemoveDataValue(1);
+    EXPECT_EQ(rangeOf(series), (Range{1, 1, 0, 10})) << "there was nothing to remove";
+    series.AddDataValue(2, 6);
+    EXPECT_EQ(rangeOf(series), (Range{1, 2, 5, 6}));
+    series.RemoveDataValue(0);
+    EXPECT_EQ(rangeOf(series), (Range{2, 2, 6, 6}));
+    series.SwapXY();
+    EXPECT_EQ(rangeOf(series), (Range{2, 2, 6, 6})) << "swapping alone leaves the ranges";
+    series.fixRanges();
+    EXPECT_EQ(rangeOf(series), (Range{6, 6, 2, 2}));
+    series.RemoveDataValue(0);
+    EXPECT_EQ(rangeOf(series), (Range{6, 6, 2, 2})) << "without points they stay";
+}
+
+/// The ranges by the rule, passing over all points.
+Range fullPass(const GTDataPoints& points, Range before) {
+    List x;
+    List y;
+    for (const auto& point : points) {
+        for (int j = 0; j < points.front()->XValueCount(); ++j)
+            x.push_back(point->XValue(j));
+        for (int j = 0; j < points.front()->YValueCount(); ++j)
+            y.push_back(point->YValue(j));
+    }
+    for (List* list : {&x, &y})
+        std::erase_if(*list, [](double v) { return !std::isfinite(v); });
+    if (!x.empty()) {
+        before.xMin = *std::min_element(x.begin(), x.end());
+        before.xMax = *std::max_element(x.begin(), x.end());
+    }
+    if (!y.empty()) {
+        before.yMin = *std::min_element(y.begin(), y.end());
+        before.yMax = *std::max_element(y.begin(), y.end());
+    }
+    return before;
+}
+
+TEST(SeriesRanges, AreThoseOfAFullPassAfterEveryAdd) {
+    std::mt19937 random(20261122);
+    const auto below = [&](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); };
+    const auto value = [&] { return below(40) == 0 ? notANumber : static_cast<double>(below(2001) - 1000) / 8; };
+    for (int round = 0; round < 30; ++round) {
+        GTSeries series(GTSeries::line);
+        GTSeries other(GTSeries::line); // has some of the points as well
+        GTDataPoints points;
+        for (int step = 0; step < 60; ++step) {
+            const Range before = rangeOf(series);
+            auto point = std::make_shared<GTDataPoint>(value(), value());
+            for (int extra = below(3); extra > 0; --extra)
+                point->extraYValue(value());
+            points.push_back(point);
+            series.AddDataPoint(point);
+            if (below(3) == 0)
+                other.AddDataPoint(point);
+            ASSERT_EQ(rangeOf(series), fullPass(points, before)) << "round " << round << ", point " << step;
+
+            GTDataPoint& any = *points[static_cast<std::size_t>(below(static_cast<int>(points.size())))];
+            if (below(2) == 0)
+                any.extraYValue(value());
+            if (below(4) == 0)
+                any.extraXValue(value());
+            if (below(10) == 0)
+                any.swapXY();
+            if (below(10) == 0) {
+                const int index = below(static_cast<int>(points.size()));
+                points.erase(points.begin() + index);
+                const Range kept = rangeOf(series);
+                series.RemoveDataValue(index);
+                if (points.empty())
+                    ASSERT_EQ(rangeOf(series), kept);
+                else
+                    ASSERT_EQ(rangeOf(series), fullPass(points, kept));
+            }
+        }
+    }
+}
+
+TEST(SeriesRanges, APointOutlivesItsSeries) {
+    const auto point = std::make_shared<GTDataPoint>(1, 2);
+    {
+        GTSeries series(GTSeries::line);
+        series.AddDataPoint(point);
+        series.AddDataPoint(point);
+    }
+    point->extraXValue(3); // reports to nobody
+    EXPECT_EQ(point->XTotal(), 4);
+    EXPECT_EQ(point->XValue(-1), 0);
+    EXPECT_EQ(point->XValue(1), 3);
+    EXPECT_EQ(point->XValue(2), 0);
+    point->swapXY();
+    EXPECT_EQ(point->YValueCount(), 2);
+    EXPECT_EQ(point->XValue(), 2);
+}
+
+TEST(SeriesRanges, ColumnsFixTheirYRangeBeforeTheyAreMeasured) {
+    struct Row {
+        int type;
+        Range want;
+    };
+    const Row rows[] = {
+        {GTSeries::totalColumn, {1, 2, 4, 9}}, // totals 9 and 4
+        {GTSeries::clusteredColumn, {1, 2, 1, 4}}, // every value of every point, no zeros
+        {GTSeries::percentColumn, {1, 2, 0, 4}}, // untouched
+    };
+    for (const Row& row : rows) {
+        for (const bool width : {false, true}) {
+            GTSeries series(row.type);
+            series.AddDataPoint(pointOf({1}, {4, 3, 2}));
+            series.AddDataPoint(pointOf({2}, {1, 3}));
+            static_cast<void>(width ? series.YAxisWidth(100) : series.XAxisHeight(100));
+            EXPECT_EQ(rangeOf(series), row.want) << row.type;
+        }
+        GTSeries empty(row.type);
+        EXPECT_EQ(empty.XAxisHeight(100), 31);
+        EXPECT_EQ(rangeOf(empty), (Range{0, 0, 0, 0}));
+    }
+}
+
+} // namespace
+
+} // namespace tallyvane
