@@ -18,6 +18,7 @@ std::string gJournal;
 std::string gMedication;
 bool gFileWindowOpen = false;
 bool gFilesOpen = false;
+bool gPrintingOn = false;
 
 } // namespace Globals
 

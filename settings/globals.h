@@ -35,6 +35,8 @@ extern std::string gMedication;
 extern bool gFileWindowOpen;
 /// The toolbar has shown the resources window.
 extern bool gFilesOpen;
+/// A graph is being printed on a page that has its legend below the graph.
+extern bool gPrintingOn;
 
 } // namespace Globals
 

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "charting/gt_graph.h"
 #include "platform/toolkit.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
@@ -27,6 +28,7 @@ W& showSingle(std::unique_ptr<W>& window) {
 
 App::App() : menuBar(MenuBar1()) {
     PrefsModule::bringUpMainWindow = [this] { bringUpMainWindow(); };
+    GTGraph::isPrintingOn = [] { return Globals::gPrintingOn; };
     menuBar.handlers = {
         {"FileQuit", [this] { FileQuit_Action(); }},
         {"FileAboutBrindlemarks", [this] { FileAboutBrindlemarks_Action(); }},
