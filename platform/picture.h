@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cassert>
 #include <memory>
 #include <string>
 #include <utility>
@@ -41,7 +42,10 @@ public:
     const Group2D& Objects() const { return objects_; }
 
     /// The surface of a bitmap. No other kind of picture has one.
-    tallyvane::Graphics& Graphics() const { return bitmap_->surface(); }
+    tallyvane::Graphics& Graphics() const {
+        assert(bitmap_ != nullptr);
+        return bitmap_->surface();
+    }
     /// Nil for a picture that is no bitmap.
     tallyvane::Bitmap* Bitmap() const { return bitmap_.get(); }
 

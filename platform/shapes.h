@@ -3,27 +3,14 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 #include <utility>
 #include <variant>
 #include <vector>
 
+#include "platform/font_name.h"
 #include "platform/geometry.h"
 
 namespace tallyvane {
-
-/// The name of a font family. Names are few and stand in thousands of shapes: each is kept once, to the end.
-class FontName {
-public:
-    FontName(std::string_view name = "System");
-    FontName(const char* name) : FontName(std::string_view(name)) {}
-    operator const std::string&() const { return *name_; }
-
-    bool operator==(const FontName&) const = default;
-
-private:
-    const std::string* name_;
-};
 
 /// What every shape has. X and Y are its centre, unless the shape says otherwise.
 struct ShapeBase {
