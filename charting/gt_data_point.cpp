@@ -1,8 +1,9 @@
 #include "charting/gt_data_point.h"
 
-#include <algorithm>
+#include <cmath>
 #include <numeric>
 #include <optional>
+#include <utility>
 
 #include "charting/gt_general_purpose.h"
 #include "charting/truncated.h"
@@ -40,7 +41,11 @@ double GTDataPoint::Values::at(int i) const {
     return i > 0 && i < count() ? (*more)[static_cast<std::size_t>(i) - 1] : 0.0;
 }
 
-double GTDataPoint::Values::total() const { return more ? std::accumulate(more->begin(), more->end(), first) : first; }
+double GTDataPoint::Values::total() const {
+    const auto addFinite = [](double sum, double v) { return std::isfinite(v) ? sum + v : sum; };
+    const double sum = addFinite(0, first);
+    return more ? std::accumulate(more->begin(), more->end(), sum, addFinite) : sum;
+}
 
 void GTDataPoint::Values::append(double v) {
     if (!more)

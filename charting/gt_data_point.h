@@ -26,6 +26,7 @@ public:
     double YValue(int i) const { return myYvalue.at(i); }
     int XValueCount() const { return myXValue.count(); }
     int YValueCount() const { return myYvalue.count(); }
+    /// The sum of the values that are finite.
     double XTotal() const { return myXValue.total(); }
     double YTotal() const { return myYvalue.total(); }
     /// Appends a value to the list.
@@ -37,8 +38,9 @@ public:
     // Label
     int Resolution() const { return myResolution; }
     void Resolution(int n) { myResolution = n; }
-    /// Appends the label's text to a picture of shapes, by the place x, y of the point in it: where it fits, first to
-    /// the right of the point, then to the left, then across it. A label without a place is left out.
+    /// Appends the label's text to a picture of shapes, by the place x, y of the point in it. The middle of the text
+    /// comes to stand at x if the picture has room for the whole width right of there, else a whole width or half of
+    /// one to the left; its baseline at y, or an ascent higher or lower. A label without a place is left out.
     void Render(Picture& p, int x, int y) const;
 
     FontName textFont;
@@ -46,11 +48,13 @@ public:
     int textSize = 10; // points
     Color textColor = RGB(0, 0, 0);
 
-    // Whoever remembers the extremes of the values. They take themselves off before they go.
+private:
+    friend class GTSeries;
+
+    /// A tally takes all values, and those that come, until it is taken off.
     void reportTo(RangeTally& tally);
     void reportNoMoreTo(RangeTally& tally);
 
-private:
     /// The first value stands in the point itself: most points have no other, and there are thousands of them.
     struct Values {
         double first;

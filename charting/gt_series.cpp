@@ -39,7 +39,7 @@ void GTSeries::SwapXY() {
         point->swapXY();
 }
 
-void GTSeries::countAnew() {
+void GTSeries::recountTally() {
     for (const auto& point : myDataPoints)
         point->reportNoMoreTo(tally_);
     tally_ = {};
@@ -49,7 +49,7 @@ void GTSeries::countAnew() {
 
 void GTSeries::fixRanges() {
     if (tally_.stale)
-        countAnew();
+        recountTally();
     if (!myDataPoints.empty()) {
         const GTDataPoint& first = *myDataPoints.front();
         if (const auto x = tally_.x.extent(static_cast<std::size_t>(first.XValueCount()), myDataPoints.size())) {

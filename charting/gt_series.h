@@ -3,10 +3,13 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "charting/gt_axis.h"
 #include "charting/gt_color_table_provider.h"
 #include "charting/gt_data_point.h"
+#include "charting/range_tally.h"
+#include "platform/graphics.h"
 
 namespace tallyvane {
 
@@ -94,7 +97,8 @@ public:
     int textSize = 9;
 
     // Drawing
-    /// The room that the axes take, in units of the surface. Stacked and clustered columns first fix their Y range.
+    /// The room that the axes take, in units of the surface. Stacked and clustered columns first replace their Y range,
+    /// also one that was set, by that of their columns.
     int XAxisHeight(int n);
     int YAxisWidth(int n);
     /// Draws grids and base lines, the data and the axes, on the plot at x, y of size w, h. The other four are the room
@@ -115,26 +119,28 @@ public:
 
 private:
     double scale() const;
+    void recountTally();
+    void fixColumnRange();
+    void widenXRange(Extent extent);
+    void widenYRange(Extent extent);
+
     /// Units of the surface to a unit of the range; 1.0 for a range without extent.
     double xScale(int w) const;
     double yScale(int h) const;
 
+    // Templates stand in the one source that uses them.
     void renderData(Graphics& g, int x, int y, int w, int h);
     template <class Visit>
-    void eachPlace(int w, int h, Visit visit) const;
+    void forEachPlace(int w, int h, Visit visit) const;
     void renderPointLabels(Graphics& g, int x, int y, int w, int h) const;
-    void countAnew();
-    void fixColumnRange();
-
-    void widenXRange(Extent extent);
-    void widenYRange(Extent extent);
-    template <class ShareOf>
-    void stackColumns(Graphics& g, int x, int y, int w, int h, double floor, ShareOf shareOf) const;
-    template <class ShareOf>
-    void stackBars(Graphics& g, int x, int y, int w, int h, double floor, ShareOf shareOf) const;
+    template <class AmountOf>
+    void stackColumns(Graphics& g, int x, int y, int w, int h, double from, AmountOf amountOf) const;
+    template <class AmountOf>
+    void stackBars(Graphics& g, int x, int y, int w, int h, double from, AmountOf amountOf) const;
     void renderPiece(Graphics& g, int index, double x, double y, double w, double h) const;
     void renderPieceLabel(Graphics& g, double value, double x, double top, double height) const;
     Color pieceColor(int index) const;
+    void setLabelFont(Graphics& g) const;
 
     GTAxis myXAxis{GTAxis::horizontal};
     GTAxis myYAxis{GTAxis::vertical};

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
+#include <optional>
 
 #include "charting/truncated.h"
 #include "platform/number.h"
@@ -17,13 +19,7 @@ template <class ValuesOf>
 Extent extentOf(const GTDataPoints& points, ValuesOf valuesOf) {
     std::optional<Extent> extent;
     for (const auto& point : points)
-        valuesOf(*point, [&](double value) {
-            if (!std::isfinite(value))
-                return;
-            if (!extent)
-                extent = Extent{value, value};
-            extent->widenTo(value);
-        });
+        valuesOf(*point, [&](double value) { widen(extent, value); });
     return extent.value_or(Extent());
 }
 
@@ -47,7 +43,7 @@ double percentOf(double value, double total) {
 
 } // namespace
 
-/// Room for the axes is measured before the columns widen the range, so the two kinds that need it fix it first.
+/// Of all kinds only these two settle their range before the room for the axes is measured.
 void GTSeries::fixColumnRange() {
     if (myType != totalColumn && myType != clusteredColumn)
         return;
@@ -74,34 +70,40 @@ void GTSeries::renderPiece(Graphics& g, int index, double x, double y, double w,
     g.DrawRect(x, y, w, h);
 }
 
+void GTSeries::setLabelFont(Graphics& g) const {
+    g.TextFont(textFont);
+    g.TextSize(textSize * scale());
+}
+
 /// In the middle of the piece, or at its bottom when it is too low for that.
 void GTSeries::renderPieceLabel(Graphics& g, double value, double x, double top, double height) const {
     if (!dataLabelsVisible)
         return;
-    g.TextFont(textFont);
-    g.TextSize(textSize * scale());
+    setLabelFont(g);
     const bool fits = top + height / 2 - g.TextAscent() > top;
     const double baseline = fits ? top + height / 2 : top + height - g.TextHeight() + g.TextAscent();
     g.DrawString(Format(value, "#.0"), x, baseline);
 }
 
-/// Stacks the pieces of every point from the bottom of the plot. `shareOf` gives what a piece stands for, which is its
-/// label; it is as high as that, counted from `floor`.
-template <class ShareOf>
-void GTSeries::stackColumns(Graphics& g, int x, int y, int w, int h, double floor, ShareOf shareOf) const {
+/// Stacks the pieces of every point from the bottom of the plot. `amountOf` gives what a piece stands for, which is its
+/// label; it is as high as that, counted from `from`.
+template <class AmountOf>
+void GTSeries::stackColumns(Graphics& g, int x, int y, int w, int h, double from, AmountOf amountOf) const {
     const double xUnit = xScale(w);
     const double yUnit = yScale(h);
     for (const auto& point : myDataPoints) {
         const double right = x + (point->XValue() - myXMin) * xUnit;
+        if (!std::isfinite(right))
+            continue;
         double top = y + h;
         for (int j = 0; j < point->YValueCount(); ++j) {
-            const double share = shareOf(*point, j);
-            const double height = std::trunc((share - floor) * yUnit);
-            if (!std::isfinite(right) || !std::isfinite(height))
+            const double amount = amountOf(*point, j);
+            const double height = std::trunc((amount - from) * yUnit);
+            if (!std::isfinite(height))
                 continue;
             top -= height;
             renderPiece(g, j, right - xUnit, top, xUnit, height);
-            renderPieceLabel(g, share, right - xUnit / 2, top, height);
+            renderPieceLabel(g, amount, right - xUnit / 2, top, height);
         }
     }
 }
@@ -145,16 +147,18 @@ void GTSeries::renderClusteredColumn(Graphics& g, int x, int y, int w, int h) {
 }
 
 /// As stackColumns, from the left of the plot.
-template <class ShareOf>
-void GTSeries::stackBars(Graphics& g, int x, int y, int w, int h, double floor, ShareOf shareOf) const {
+template <class AmountOf>
+void GTSeries::stackBars(Graphics& g, int x, int y, int w, int h, double from, AmountOf amountOf) const {
     const double xUnit = xScale(w);
     const double yUnit = yScale(h);
     for (const auto& point : myDataPoints) {
         const double top = y + h - (point->YValue() - myYmin) * yUnit - yUnit;
+        if (!std::isfinite(top))
+            continue;
         double left = x;
         for (int j = 0; j < point->XValueCount(); ++j) {
-            const double length = std::trunc((shareOf(*point, j) - floor) * xUnit);
-            if (!std::isfinite(top) || !std::isfinite(length))
+            const double length = std::trunc((amountOf(*point, j) - from) * xUnit);
+            if (!std::isfinite(length))
                 continue;
             renderPiece(g, j, left, top, length, yUnit);
             left += length;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <optional>
 
 #include "charting/truncated.h"
 #include "platform/number.h"
@@ -11,8 +12,8 @@ namespace tallyvane {
 
 /// One slice for the first X value of each point, clockwise from the right. There is none for a value below 0.
 ///
-/// A label moves on by the angle of its slice from half the first slice's angle on, so it stands in the middle of its
-/// slice as long as slices are alike.
+/// A label moves on by the angle of its slice, beginning at half of the first slice that there is, so it stands in the
+/// middle of its slice as long as slices are alike.
 void GTSeries::renderPie(Graphics& g, int x, int y, int w, int h) const {
     if (w == 0 || h == 0)
         return;
@@ -42,8 +43,7 @@ void GTSeries::renderPie(Graphics& g, int x, int y, int w, int h) const {
             labelAngle = slice.ArcAngle / 2;
         if (dataLabelsVisible) {
             g.ForeColor(myPenColor);
-            g.TextFont(textFont);
-            g.TextSize(textSize * scale());
+            setLabelFont(g);
             g.DrawString(Format(point.XValue(), "#.0"), truncated(centreX + labelRadius * std::cos(*labelAngle)),
                          truncated(centreY + labelRadius * std::sin(*labelAngle)));
         }

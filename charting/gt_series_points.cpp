@@ -8,7 +8,7 @@ namespace tallyvane {
 
 /// Calls `visit` with each point and its place in the plot, from the plot's top left corner.
 template <class Visit>
-void GTSeries::eachPlace(int w, int h, Visit visit) const {
+void GTSeries::forEachPlace(int w, int h, Visit visit) const {
     const double xUnit = xScale(w);
     const double yUnit = yScale(h);
     for (const auto& point : myDataPoints) {
@@ -25,7 +25,8 @@ void GTSeries::renderSymbol(Picture& p, int x, int y) const {
         shape.Y = y;
         shape.Width = shape.Height = myPlotSymbolSize * scale();
         shape.Fill = filled ? 100 : 0;
-        shape.FillColor = myPenColor;
+        if (filled)
+            shape.FillColor = myPenColor;
         shape.Border = 100;
         shape.BorderColor = myPenColor;
         shape.BorderWidth = scale();
@@ -54,7 +55,7 @@ void GTSeries::renderLine(Graphics& g, int x, int y, int w, int h) const {
     segment.BorderColor = myPenColor;
     segment.BorderWidth = myPenSize * scale();
     bool first = true;
-    eachPlace(w, h, [&](const GTDataPoint& /*point*/, double px, double py) {
+    forEachPlace(w, h, [&](const GTDataPoint& /*point*/, double px, double py) {
         segment.X = first ? px : segment.X2;
         segment.Y = first ? py : segment.Y2;
         segment.X2 = px;
@@ -72,7 +73,7 @@ void GTSeries::renderScatter(Graphics& g, int x, int y, int w, int h) const {
         return;
     Picture picture(w, h, 0);
     picture.Objects().reserve(myDataPoints.size());
-    eachPlace(w, h, [&](const GTDataPoint& /*point*/, double px, double py) {
+    forEachPlace(w, h, [&](const GTDataPoint& /*point*/, double px, double py) {
         renderSymbol(picture, truncated(px), truncated(py));
     });
     g.DrawPicture(picture, x, y);
@@ -90,7 +91,7 @@ void GTSeries::renderArea(Graphics& g, int x, int y, int w, int h) const {
     figure.FillColor = myPenColor;
     double lastX = 0;
     double lastY = 0;
-    eachPlace(w, h, [&](const GTDataPoint& point, double px, double py) {
+    forEachPlace(w, h, [&](const GTDataPoint& point, double px, double py) {
         if (figure.sides.empty()) {
             figure.AddLine(0, h, px, py);
             figure.AddLine(px, py, px, py);
@@ -115,7 +116,7 @@ void GTSeries::renderPointLabels(Graphics& g, int x, int y, int w, int h) const 
     if (!dataLabelsVisible)
         return;
     Picture labels(w, h, 0);
-    eachPlace(w, h, [&](const GTDataPoint& point, double px, double py) {
+    forEachPlace(w, h, [&](const GTDataPoint& point, double px, double py) {
         point.Render(labels, truncated(px), truncated(py));
     });
     g.DrawPicture(labels, x, y);

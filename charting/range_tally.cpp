@@ -1,32 +1,14 @@
 #include "charting/range_tally.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace tallyvane {
-
-namespace {
-
-void widen(std::optional<Extent>& extent, double value) {
-    if (!extent)
-        extent = Extent{value, value};
-    else
-        extent->widenTo(value);
-}
-
-} // namespace
-
-void Extent::widenTo(double value) {
-    low = std::min(low, value);
-    high = std::max(high, value);
-}
 
 void ListExtremes::appended(std::size_t place, double value) {
     if (places_.size() <= place)
         places_.resize(place + 1);
     ++places_[place].lists;
-    if (std::isfinite(value))
-        widen(places_[place].extent, value);
+    widen(places_[place].extent, value);
 }
 
 std::optional<Extent> ListExtremes::extent(std::size_t width, std::size_t lists) const {

@@ -4,16 +4,9 @@
 #include <optional>
 #include <vector>
 
+#include "charting/extent.h"
+
 namespace tallyvane {
-
-/// A lowest and a highest value.
-struct Extent {
-    double low = 0;
-    double high = 0;
-
-    void widenTo(double value);
-    bool operator==(const Extent&) const = default;
-};
 
 /// The lowest and highest values at each place of many lists, kept up to date as values are appended, so that nobody
 /// has to pass over all of them again for each new one. A value that is not finite stands in its list and is no
@@ -34,7 +27,8 @@ private:
     std::vector<Place> places_;
 };
 
-/// What a series remembers of the values of its points. The points report to it what they get.
+/// What a series remembers of the values of its points. The points report to it what they get; it is counted anew after
+/// a point was removed or has swapped its lists.
 struct RangeTally {
     ListExtremes x;
     ListExtremes y;

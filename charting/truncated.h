@@ -1,4 +1,4 @@
-/// The engine's one way from a number to a whole unit of the surface.
+/// The engine's one way from a number to a whole unit of the surface, as an int.
 #pragma once
 
 namespace tallyvane {

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <functional>
 
@@ -13,7 +14,7 @@ namespace {
 using Lines = std::vector<std::string>;
 using Pairs = std::vector<std::pair<double, double>>;
 
-/// Two colours, one for each place.
+/// A colour for each place.
 class Colors : public GTColorTableProvider {
 public:
     Color getColor(int index) override { return 0xC0 + static_cast<Color>(index); }
@@ -102,9 +103,18 @@ TEST(PointRendering, PlacesFollowTheSetRange) {
     series.SetYRange(0, 10);
     EXPECT_EQ(dataDrawn(series), (Lines{"picture 10 20", "  oval 0 -50 2", "  oval 100 25 2"}));
     GraphicsRecorder g(10, 10);
-    series.renderScatter(g, 0, 0, 0, 50);
-    series.renderLine(g, 0, 0, 50, 0);
-    EXPECT_EQ(drawn(g), Lines()) << "a plot without width or height";
+    for (int type = GTSeries::line; type <= GTSeries::pie; ++type)
+        for (const auto& [width, height] : {std::pair(0, 50), {50, 0}}) {
+            GTSeries any(type);
+            any.AddDataValue(1, 1);
+            any.SetYRange(0, 10);
+            int used[4] = {};
+            any.XAxis().visible(false);
+            any.YAxis().visible(false);
+            any.Render(g, 0, 0, used[0], used[1], used[2], used[3], width, height);
+            EXPECT_EQ(drawn(g), Lines()) << "a plot without width or height, type " << type;
+            EXPECT_EQ(any.XAxis().tickCount(), 0);
+        }
 }
 
 TEST(PointRendering, SymbolsAndPens) {
@@ -139,6 +149,8 @@ TEST(PointRendering, SymbolsAndPens) {
                     EXPECT_DOUBLE_EQ(shape.Height, 5 * 300 / 72.0);
                     EXPECT_DOUBLE_EQ(shape.BorderWidth, 300 / 72.0);
                     EXPECT_EQ(shape.Fill, row.fill) << row.code;
+                    if (row.fill > 0)
+                        EXPECT_EQ(shape.FillColor, 0x102030U) << row.code;
                     EXPECT_EQ(shape.Border, 100) << row.code;
                     EXPECT_EQ(shape.BorderColor, 0x102030U);
                 } else {
@@ -162,6 +174,8 @@ TEST(PointRendering, SymbolsAndPens) {
                                        : std::get<FigureShape>(shape);
         EXPECT_DOUBLE_EQ(pen.BorderWidth, width) << "an area's outline does not grow with the resolution";
         EXPECT_EQ(pen.BorderColor, 0x102030U);
+        if (type == GTSeries::area)
+            EXPECT_EQ(pen.FillColor, 0x102030U);
     }
 }
 
@@ -173,9 +187,9 @@ TEST(PointRendering, DataLabels) {
         const char* want; // of 'abcd' on a picture of 60 x 40: 20 wide, 10 high, its ascent 7.5
     };
     const Row rows[] = {
-        {"right of the place", 5, 20, "string 5 20 'abcd'"},
+        {"room for the whole width to the right", 5, 20, "string 5 20 'abcd'"},
         {"just fits", 40, 20, "string 40 20 'abcd'"},
-        {"left of it", 41, 20, "string 21 20 'abcd'"},
+        {"a width to the left", 41, 20, "string 21 20 'abcd'"},
         {"at the right edge", 60, 20, "string 40 20 'abcd'"},
         {"beyond it", 61, 20, nullptr},
         {"left of the picture, not even half in", -1, 20, nullptr},
@@ -193,8 +207,15 @@ TEST(PointRendering, DataLabels) {
         Picture picture(60, 40, 0);
         point.Render(picture, row.x, row.y);
         EXPECT_EQ(drawn(picture.Objects()), row.want == nullptr ? Lines() : Lines{row.want}) << row.name;
+        for (const Object2D& shape : picture.Objects())
+            EXPECT_EQ(std::get<StringShape>(shape).FillColor, 0x102030U);
     }
-    Picture narrow(25, 40, 0); // 20 fit from 5 on at the most, and not left of 10: across the place
+    point.Resolution(144);
+    Picture large(60, 40, 0);
+    point.Render(large, 0, 18);
+    EXPECT_EQ(std::get<StringShape>(large.Objects().Item(0)).TextSize, 20) << "10 points";
+    point.Resolution(72);
+    Picture narrow(25, 40, 0); // 20 fit from 5 on at the most, and not a width left of 12: half a width
     point.Render(narrow, 12, 20);
     EXPECT_EQ(drawn(narrow.Objects()), Lines{"string 2 20 'abcd'"});
 
@@ -214,7 +235,7 @@ TEST(PointRendering, DataLabels) {
     }
 }
 
-/// A series of a kind with three points of two values each, on a plot of 100 x 50 at 10, 20.
+/// A series of a kind with those values at those places, on a plot of 100 x 50 at 10, 20.
 Lines pieces(int type, const std::vector<std::pair<double, std::vector<double>>>& points,
              const std::function<void(GTSeries&)>& set = nullptr) {
     GTSeries series(type);
@@ -284,6 +305,15 @@ TEST(PieceRendering, ColumnsAndBars) {
          GTSeries::totalColumn,
          {{1, {0, notANumber}}, {2, {5, infinite}}},
          {"fill -90 70 100 0", "fill 10 20 100 50"}},
+        {"also by what is a part of it",
+         GTSeries::percentColumn,
+         {{1, {2, notANumber, 2}}, {2, {infinite, 5}}},
+         {"fill -90 45 100 25", "fill -90 20 100 25", "fill 10 20 100 50"}},
+        // One unit of x for all, two values in a unit of 1 / 1: 0 wide.
+        {"clusters too narrow for their values",
+         GTSeries::clusteredColumn,
+         {{0, {0, 2}}, {100, {4, 4}}},
+         {"fill 9 70 0 0", "fill 9 45 0 25", "fill 109 20 0 50", "fill 109 20 0 50"}},
         {"nothing", GTSeries::totalColumn, {}, {}},
     };
     for (const Row& row : rows) {
@@ -293,6 +323,12 @@ TEST(PieceRendering, ColumnsAndBars) {
         for (std::size_t i = 0; i + 1 < all.size(); i += 2)
             EXPECT_EQ(all[i + 1].substr(5), all[i].substr(5)) << row.name;
     }
+}
+
+TEST(PieceRendering, MeasuredFirstWhatIsNotFiniteIsPassedOverToo) {
+    const Lines lines = pieces(GTSeries::totalColumn, {{1, {0, notANumber}}, {2, {5, infinite}}},
+                               [](GTSeries& series) { series.XAxisHeight(100); });
+    EXPECT_EQ(only("fill", lines), (Lines{"fill -90 70 100 0", "fill 10 20 100 50"}));
 }
 
 TEST(PieceRendering, RangesOnlyWidenAndTheCategoriesAreCounted) {
@@ -340,9 +376,12 @@ TEST(PieceRendering, ColoursAndLabels) {
         dataDrawn(series, g);
         EXPECT_EQ(only("text", drawn(g)), (Lines{"text -40 50 '4.0'", "text -40 28 '1.0'", "text 60 68 '.0'"}))
             << "in the middle of 40, but on the floor of 10 and of 0";
-        for (const GraphicsRecorder::Call& call : g.calls())
+        for (const GraphicsRecorder::Call& call : g.calls()) {
             if (call.operation != "FillRect")
                 EXPECT_EQ(call.color, 0x102030U) << call.operation;
+            if (call.operation == "DrawString")
+                EXPECT_EQ(call.textSize, 8);
+        }
         if (table) {
             EXPECT_EQ(g.calls()[0].color, 0xC0U);
             EXPECT_EQ(g.calls()[3].color, 0xC1U);
@@ -352,6 +391,10 @@ TEST(PieceRendering, ColoursAndLabels) {
             EXPECT_FALSE(g.calls()[0].color == again.calls()[0].color && g.calls()[3].color == again.calls()[3].color);
         }
     }
+    EXPECT_EQ(
+        only("text", pieces(GTSeries::percentColumn, {{0, {1, 3}}}, [](GTSeries& s) { s.dataLabelsVisible = true; })),
+        (Lines{"text 9.5 67.75 '25.0'", "text 9.5 39.5 '75.0'"}))
+        << "the part, not the value";
     EXPECT_EQ(only("text", pieces(GTSeries::clusteredColumn, {{0, {4}}, {1, {0}}},
                                   [](GTSeries& s) { s.dataLabelsVisible = true; })),
               Lines());
@@ -365,11 +408,10 @@ TEST(PieceRendering, Pies) {
     };
     const std::vector<Row> rows{
         {"one: a whole circle, its label at the left", {3}, {"object 60 45", "  arc 0 6.28319 50", "text 41 45 '3.0'"}},
-        // The last label stands at a sine a hair below 0, which is cut to 44.
-        {"half, and two quarters",
-         {2, 1, 1},
-         {"object 60 45", "  arc 0 3.14159 50", "text 60 63 '2.0'", "object 60 45", "  arc 3.14159 1.5708 50",
-          "text 60 26 '1.0'", "object 60 45", "  arc 4.71239 1.5708 50", "text 78 44 '1.0'"}},
+        {"an eighth, a half, three eighths: labels run on by whole slices from a sixteenth",
+         {1, 4, 3},
+         {"object 60 45", "  arc 0 0.785398 50", "text 77 52 '1.0'", "object 60 45", "  arc 0.785398 3.14159 50",
+          "text 67 62 '4.0'", "object 60 45", "  arc 3.92699 2.35619 50", "text 52 27 '3.0'"}},
         {"below 0 and without a number there is no slice",
          {-5, notANumber, 3},
          {"object 60 45", "  arc 0 6.28319 50", "text 41 45 '3.0'"}},
@@ -386,6 +428,7 @@ TEST(PieceRendering, Pies) {
         int used[4] = {};
         series.Render(g, 10, 20, used[0], used[1], used[2], used[3], 100, 50);
         EXPECT_EQ(drawn(g), row.want) << row.name << " (a pie has no axes)";
+        EXPECT_EQ((std::vector<int>(std::begin(used), std::end(used))), std::vector<int>(4)) << row.name;
     }
     GTSeries series(GTSeries::pie);
     series.colorTable(std::make_shared<Colors>());
@@ -393,7 +436,9 @@ TEST(PieceRendering, Pies) {
         series.AddDataValue(value, 0);
     GraphicsRecorder g(200, 200);
     dataDrawn(series, g);
-    EXPECT_EQ(std::get<ArcShape>(g.calls()[0].shapes.Item(0)).FillColor, 0xC1U) << "by the place of the point";
+    const auto& slice = std::get<ArcShape>(g.calls()[0].shapes.Item(0));
+    EXPECT_EQ(slice.FillColor, 0xC1U) << "by the place of the point";
+    EXPECT_EQ(slice.BorderColor, 0xC1U);
 }
 
 TEST(SeriesRendering, GridsBaseLinesDataThenAxes) {
@@ -426,43 +471,42 @@ TEST(SeriesRendering, AxesStackOutward) {
     struct Row {
         const char* name;
         bool far; // top and right
-        Lines want; // the axis lines of two series, and of one after an invisible one
+        Lines want; // the axis lines
+        std::vector<int> used; // left, top, right, bottom
     };
-    // Without labels an X axis is 19 high and a Y axis 19 wide; a line at the top or left stands 19 inside its band.
+    // On a plot of 120 x 60 an X axis is 12 + 7 + 12 high. A Y axis of 60 has labels of up to "6.67", 24: 12 + 7 + 24
+    // wide (of 120 it would have up to "9.1"). A line at the top or left stands at the inner end of its band.
     const Row rows[] = {
         {"bottom and left",
          false,
-         {"line 50 150 150 150", "line 50 50 50 150", "line 50 169 150 169", "line 31 50 31 150"}},
+         {"line 50 110 170 110", "line 50 50 50 110", "line 50 141 170 141", "line 7 50 7 110"},
+         {86, 0, 0, 62}},
         {"top and right",
          true,
-         {"line 50 50 150 50", "line 150 50 150 150", "line 50 31 150 31", "line 169 50 169 150"}},
+         {"line 50 50 170 50", "line 170 50 170 110", "line 50 19 170 19", "line 213 50 213 110"},
+         {0, 62, 86, 0}},
     };
     for (const Row& row : rows) {
         GraphicsRecorder g(300, 300);
-        int left = 0;
-        int top = 0;
-        int right = 0;
-        int bottom = 0;
+        std::vector<int> used(4);
         for (const bool visible : {true, false, true}) {
-            GTSeries series(GTSeries::line);
-            for (GTAxis* axis : {&series.XAxis(), &series.YAxis()}) {
-                axis->visible(visible);
-                axis->tickLabelsVisible(false);
-            }
+            GTSeries series(visible ? GTSeries::line : -1); // axes do not ask for the type
+            series.XAxis().visible(visible);
+            series.YAxis().visible(visible);
             series.XAxis().top(row.far);
             series.YAxis().right(row.far);
-            series.SetXRange(0, 0);
-            series.Render(g, 50, 50, left, top, right, bottom, 100, 100);
+            series.SetXRange(0, 1);
+            series.SetYRange(0, 10);
+            series.Render(g, 50, 50, used[0], used[1], used[2], used[3], 120, 60);
         }
         GraphicsRecorder axisLines(300, 300); // those as long as the plot
-        for (const GraphicsRecorder::Call& call : g.calls())
-            if (call.operation == "DrawLine" &&
-                std::abs(call.numbers[2] - call.numbers[0] + call.numbers[3] - call.numbers[1]) == 100)
-                axisLines.DrawLine(call.numbers[0], call.numbers[1], call.numbers[2], call.numbers[3]);
+        for (const GraphicsRecorder::Call& call : g.calls()) {
+            const auto& n = call.numbers;
+            if (call.operation == "DrawLine" && (n[2] - n[0] == 120 || n[3] - n[1] == 60))
+                axisLines.DrawLine(n[0], n[1], n[2], n[3]);
+        }
         EXPECT_EQ(drawn(axisLines), row.want) << row.name;
-        EXPECT_EQ((std::vector<int>{left, top, right, bottom}),
-                  row.far ? (std::vector<int>{0, 38, 38, 0}) : (std::vector<int>{38, 0, 0, 38}))
-            << row.name;
+        EXPECT_EQ(used, row.used) << row.name;
     }
 }
 
