@@ -66,7 +66,8 @@ GTAxis::TickSteps GTAxis::xAxisSteps(int width) const {
     return steps;
 }
 
-/// The steps of a Y axis and of every grid: the length is shared out evenly among the ticks.
+/// The steps of a Y axis and of every grid: the length is shared out among the ticks. With a count set by hand, which
+/// counts the ends, these steps are shorter than their increments.
 GTAxis::TickSteps GTAxis::evenSteps(int length) const {
     TickSteps steps;
     int count = 0;

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cmath>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "charting/gt_custom_tick_formatter.h"
 #include "charting/gt_data_point.h"
@@ -12,7 +14,7 @@ namespace tallyvane {
 /// One axis of one series: its range, its title, ticks and tick labels, the grid and the base line that stand at its
 /// values, and the room that it takes beside the plot.
 ///
-/// An axis does not look for round numbers. Left alone it puts a tick every 20 units of the surface, whatever the
+/// An axis does not look for round numbers. Left alone it puts a tick about every 20 units of the surface, whatever the
 /// range; a count of ticks or a fixed increment overrides that. Sizes are in points; lengths and places are in units of
 /// the surface.
 class GTAxis {
@@ -21,7 +23,8 @@ public:
     /// How the value of a tick becomes the text of its label. The dates are those of Date::TotalSeconds.
     enum TickTypes { number = 0, shortDate = 1, shortTime = 2, longDate = 3, longTime = 4, percent = 5, custom = 99 };
 
-    /// An axis of type `horizontal` is an X axis, any other a Y axis.
+    /// An axis of type `horizontal` is an X axis; any other paints as a Y axis, and takes room only if it is
+    /// `vertical`.
     explicit GTAxis(int type) : myType(type), myTitleIsHorizontal(type == horizontal) {}
     GTAxis(const GTAxis&) = delete;
     GTAxis& operator=(const GTAxis&) = delete;
@@ -116,16 +119,18 @@ public:
     int height(int plotWidth);
     int width(int plotHeight);
 
-    // Painting. Here x, y is the top left corner of the axis's band, which is as long as the plot.
+    // Painting.
+
+    /// The axis: x, y is the top left corner of its band, which is as long as the plot.
     void render(Graphics& g, int x, int y, int length) const;
     void renderXAxis(Graphics& g, int x, int y, int width) const;
     void renderYAxis(Graphics& g, int x, int y, int height) const;
-    // Here it is the anchor of a tick's label: beside the end of the tick, at the tick's own place along the axis.
+    /// The label of a tick: x, y is its anchor, beside the end of the tick and level with the tick.
     void renderXTickLabel(Graphics& g, const std::string& s, int x, int y) const;
     void renderYTickLabel(Graphics& g, const std::string& s, int x, int y) const;
-    // And here the place of its text, or of the top left corner of vertical text.
+    /// The text of a label: x, y is its left end on the baseline, or the top left corner of vertical text.
     void renderTickLabel(Graphics& g, const std::string& s, int x, int y) const;
-    // Here x, y, w, h is the plot.
+    /// The lines across the plot x, y, w, h.
     void renderGrid(Graphics& g, int x, int y, int w, int h) const;
     void renderXGrid(Graphics& g, int x, int y, int w, int h) const;
     void renderYGrid(Graphics& g, int x, int y, int w, int h) const;
@@ -146,9 +151,9 @@ private:
 
     TickSteps xAxisSteps(int width) const;
     TickSteps evenSteps(int length) const;
-    /// Calls `visit` with each value from the minimum up to the maximum, which is left out, and gives the value at
-    /// which the walk stopped. It ends after as many steps as there are units of the surface, however small the
-    /// increment.
+    /// Calls `visit` with each value from the minimum up to the maximum, which is left out, and gives the first one
+    /// that is not below the maximum. No step is smaller than a unit of the surface, so it visits no more values than
+    /// there are units and one, however small the increment.
     template <class Visit>
     double walk(double increment, int length, Visit visit) const {
         double v = myMin;
@@ -156,7 +161,7 @@ private:
             visit(v);
             v += increment;
         }
-        return v;
+        return myMax > v ? myMin + std::ceil((myMax - myMin) / increment) * increment : v;
     }
     bool isInRange(double v) const { return v >= myMin && v <= myMax; }
 

@@ -87,12 +87,13 @@ void GTAxis::renderYTickLabel(Graphics& g, const std::string& s, int x, int y) c
         newY = truncated(y - width / 2);
         if (newY - height < 0)
             newY = truncated(onRight ? height - ascent : ascent);
-        else if (width + newY >= g.Height())
+        if (width + newY >= g.Height())
             newY = truncated(g.Height() - width);
-    } else if (y - height < 0) {
-        newY = truncated(ascent);
-    } else if (height + y >= g.Height()) {
-        newY = truncated(ascent + g.Height() - height);
+    } else {
+        if (y - height < 0)
+            newY = truncated(ascent);
+        if (height + y >= g.Height())
+            newY = truncated(ascent + g.Height() - height);
     }
     renderTickLabel(g, s, newX, newY);
 }

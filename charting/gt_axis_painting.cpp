@@ -3,7 +3,6 @@
 
 #include <numbers>
 
-#include "charting/pen_keeper.h"
 #include "charting/truncated.h"
 #include "platform/number.h"
 
@@ -12,11 +11,14 @@ namespace tallyvane {
 void GTAxis::render(Graphics& g, int x, int y, int length) const {
     if (!isVisible)
         return;
-    const PenKeeper keeper(g);
+    const Color color = g.ForeColor();
     if (myType == horizontal)
         renderXAxis(g, x, y, length);
     else
         renderYAxis(g, x, y, length);
+    g.ForeColor(color);
+    g.PenWidth(truncated(g.PenWidth())); // the pen is the caller's; from here on in whole units
+    g.PenHeight(truncated(g.PenHeight()));
 }
 
 void GTAxis::renderXTitle(Graphics& g, int x, int y, int width) const {

@@ -1,18 +1,17 @@
 #pragma once
 
-#include "charting/truncated.h"
 #include "platform/graphics.h"
 
 namespace tallyvane {
 
-/// Gives a surface its colour and its pen back, the pen in whole units.
+/// Gives a surface its colour and its pen back.
 class PenKeeper {
 public:
     explicit PenKeeper(Graphics& g) : g_(g), color_(g.ForeColor()), width_(g.PenWidth()), height_(g.PenHeight()) {}
     ~PenKeeper() {
         g_.ForeColor(color_);
-        g_.PenWidth(truncated(width_));
-        g_.PenHeight(truncated(height_));
+        g_.PenWidth(width_);
+        g_.PenHeight(height_);
     }
     PenKeeper(const PenKeeper&) = delete;
     PenKeeper& operator=(const PenKeeper&) = delete;

@@ -16,7 +16,8 @@ int truncated(double value) {
 
 int truncatedPlace(double steppedTo) {
     constexpr double mostRounding = 1e-6;
-    return truncated(steppedTo + mostRounding);
+    const double whole = std::round(steppedTo);
+    return truncated(std::abs(steppedTo - whole) < mostRounding ? whole : steppedTo);
 }
 
 } // namespace tallyvane

@@ -9,11 +9,11 @@ double GraphicsRecorder::StringWidth(std::string_view text) const {
 }
 
 void GraphicsRecorder::DrawLine(double x1, double y1, double x2, double y2) {
-    calls_.push_back({"DrawLine", ForeColor(), {}, {x1, y1, x2, y2}, {}, PenWidth()});
+    calls_.push_back({"DrawLine", ForeColor(), {}, {x1, y1, x2, y2}, {}, PenWidth(), PenHeight()});
 }
 
 void GraphicsRecorder::DrawRect(double x, double y, double width, double height) {
-    calls_.push_back({"DrawRect", ForeColor(), {}, {x, y, width, height}, {}, PenWidth()});
+    calls_.push_back({"DrawRect", ForeColor(), {}, {x, y, width, height}, {}, PenWidth(), PenHeight()});
 }
 
 void GraphicsRecorder::FillRect(double x, double y, double width, double height) {
@@ -21,7 +21,7 @@ void GraphicsRecorder::FillRect(double x, double y, double width, double height)
 }
 
 void GraphicsRecorder::DrawString(std::string_view text, double x, double y) {
-    calls_.push_back({"DrawString", ForeColor(), std::string(text), {x, y}, {}, 1, TextSize()});
+    calls_.push_back({"DrawString", ForeColor(), std::string(text), {x, y}, {}, 1, 1, TextSize(), TextFont()});
 }
 
 void GraphicsRecorder::DrawPicture(const Picture& picture, double x, double y) {

@@ -18,7 +18,9 @@ public:
         std::vector<double> numbers = {}; // places and sizes, in the order of the arguments
         Group2D shapes = {}; // DrawPicture's and DrawObject's
         double pen = 1; // PenWidth of lines and outlines
+        double penHeight = 1;
         double textSize = 0; // of DrawString
+        FontName font = {};
 
         bool operator==(const Call&) const = default;
     };

@@ -22,10 +22,10 @@ QFont fontOf(const std::string& name, float size, const QPaintDevice& device) {
 
 } // namespace
 
-const FontInUse::Known& FontInUse::known(FontName name, float size, QPaintDevice& device) {
+const FontInUse::Known& FontInUse::known(FontName name, float size) {
     if (!known_ || known_->name != name || known_->size != size) {
-        const QFont font = fontOf(name, size, device);
-        known_.emplace(Known{name, size, font, QFontMetricsF(font, &device)});
+        const QFont font = fontOf(name, size, device_);
+        known_.emplace(Known{name, size, font, QFontMetricsF(font, &device_)});
     }
     return *known_;
 }

@@ -5,18 +5,18 @@
 
 #include <optional>
 
-#include "platform/shapes.h"
+#include "platform/font_name.h"
 
 namespace tallyvane {
 
-/// The font that a painter wrote with last, so that a run of texts in one font works it out once.
+/// The font that was used last on a device, so that a run of texts in one font works it out once.
 class FontInUse {
 public:
+    explicit FontInUse(QPaintDevice& device) : device_(device) {}
+
     /// The font of that name, its size in units of the device, and its measures there. "System" is the desktop's own.
-    const QFont& font(FontName name, float size, QPaintDevice& device) { return known(name, size, device).font; }
-    const QFontMetricsF& metrics(FontName name, float size, QPaintDevice& device) {
-        return known(name, size, device).metrics;
-    }
+    const QFont& font(FontName name, float size) { return known(name, size).font; }
+    const QFontMetricsF& metrics(FontName name, float size) { return known(name, size).metrics; }
 
 private:
     struct Known {
@@ -25,8 +25,9 @@ private:
         QFont font;
         QFontMetricsF metrics;
     };
-    const Known& known(FontName name, float size, QPaintDevice& device);
+    const Known& known(FontName name, float size);
 
+    QPaintDevice& device_;
     std::optional<Known> known_;
 };
 

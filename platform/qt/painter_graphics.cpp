@@ -3,7 +3,6 @@
 #include <QPaintEngine>
 
 #include <algorithm>
-#include <cmath>
 
 #include "platform/qt/convert.h"
 #include "platform/qt/pictures.h"
@@ -29,9 +28,7 @@ PainterGraphics::PainterGraphics(QPainter& painter, const QRect& area) : painter
 
 PainterGraphics::~PainterGraphics() { painter_.restore(); }
 
-const QFontMetricsF& PainterGraphics::metrics() const {
-    return font_.metrics(TextFont(), TextSize(), *painter_.device());
-}
+const QFontMetricsF& PainterGraphics::metrics() const { return font_.metrics(TextFont(), TextSize()); }
 
 double PainterGraphics::StringWidth(std::string_view string) const { return metrics().horizontalAdvance(toQt(string)); }
 
@@ -52,8 +49,14 @@ void PainterGraphics::DrawLine(double x1, double y1, double x2, double y2) {
         fill(QRectF(topLeft, bottomRight + pen), toQt(ForeColor()));
         return;
     }
-    painter_.setPen(QPen(toQt(ForeColor()), std::max(pen.x(), pen.y()), Qt::SolidLine, Qt::FlatCap));
-    painter_.drawLine(from + pen / 2, to + pen / 2);
+    CurveShape slanted;
+    slanted.X = x1 + PenWidth() / 2;
+    slanted.Y = y1 + PenHeight() / 2;
+    slanted.X2 = x2 + PenWidth() / 2;
+    slanted.Y2 = y2 + PenHeight() / 2;
+    slanted.BorderColor = ForeColor();
+    slanted.BorderWidth = std::max(PenWidth(), PenHeight());
+    DrawObject(slanted, 0, 0);
 }
 
 void PainterGraphics::DrawRect(double x, double y, double width, double height) {
@@ -74,7 +77,7 @@ void PainterGraphics::FillRect(double x, double y, double width, double height) 
 }
 
 void PainterGraphics::DrawString(std::string_view string, double x, double y) {
-    painter_.setFont(font_.font(TextFont(), TextSize(), *painter_.device()));
+    painter_.setFont(font_.font(TextFont(), TextSize()));
     painter_.setPen(toQt(ForeColor()));
     painter_.drawText(QPointF(reachable(x), reachable(y)), toQt(string));
 }
@@ -95,9 +98,7 @@ void PainterGraphics::DrawPicture(const Picture& picture, double x, double y) {
 }
 
 void PainterGraphics::DrawObject(const Object2D& shape, double x, double y) {
-    Group2D alone;
-    alone.Append(shape);
-    paintShapes(alone, {reachable(x), reachable(y)});
+    std::visit(ShapePainter(painter_, {reachable(x), reachable(y)}), shape);
 }
 
 void PainterGraphics::paintShapes(const Group2D& shapes, QPointF origin) {

@@ -41,7 +41,7 @@ private:
     QPainter& painter_;
     QRect area_;
     std::optional<QColor> tint_;
-    mutable FontInUse font_;
+    mutable FontInUse font_{*painter_.device()};
 };
 
 } // namespace tallyvane

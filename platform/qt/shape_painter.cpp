@@ -3,6 +3,7 @@
 #include <QPainterPath>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <numbers>
 
@@ -34,18 +35,20 @@ void ink(QPainter& painter, const OutlinedShape& shape) {
     painter.setPen(outlinePen(shape));
 }
 
-/// How much of the way from `from` to `to` lies from `low` to `high`: narrows the part [first, last] of it.
-void narrow(double from, double to, double low, double high, double& first, double& last) {
+/// A part of the way from one end of a line to the other: from 0 to 1 is all of it.
+struct Part {
+    double first = 0;
+    double last = 1;
+};
+
+/// What of a part lies from `low` to `high`, on a line that goes from `from` to `to`. Beyond both ends: first > last.
+Part within(Part part, double from, double to, double low, double high) {
     const double way = to - from;
-    if (way == 0) {
-        if (from < low || from > high)
-            last = -1;
-        return;
-    }
+    if (way == 0)
+        return from < low || from > high ? Part{1, 0} : part;
     const double atLow = (low - from) / way;
     const double atHigh = (high - from) / way;
-    first = std::max(first, std::min(atLow, atHigh));
-    last = std::min(last, std::max(atLow, atHigh));
+    return {std::max(part.first, std::min(atLow, atHigh)), std::min(part.last, std::max(atLow, atHigh))};
 }
 
 QRectF around(QPointF centre, double width, double height) {
@@ -75,22 +78,18 @@ ShapePainter::ShapePainter(QPainter& painter, QPointF origin) : painter_(painter
 }
 
 std::optional<QLineF> ShapePainter::visiblePart(const CurveShape& curve) const {
-    const QPointF from = placeOf(curve);
-    const QPointF to(reachable(origin_.x() + curve.X2), reachable(origin_.y() + curve.Y2));
-    if (visible_.contains(from) && visible_.contains(to))
-        return QLineF(from, to);
-    double first = 0;
-    double last = 1;
-    narrow(from.x(), to.x(), visible_.left(), visible_.right(), first, last);
-    narrow(from.y(), to.y(), visible_.top(), visible_.bottom(), first, last);
-    if (first > last)
+    const QLineF line(origin_.x() + curve.X, origin_.y() + curve.Y, origin_.x() + curve.X2, origin_.y() + curve.Y2);
+    if (visible_.contains(line.p1()) && visible_.contains(line.p2()))
+        return line;
+    Part part = within({}, line.x1(), line.x2(), visible_.left(), visible_.right());
+    part = within(part, line.y1(), line.y2(), visible_.top(), visible_.bottom());
+    if (!(part.first <= part.last)) // also for a line that is nowhere
         return std::nullopt;
-    const QLineF whole(from, to);
-    return QLineF(whole.pointAt(first), whole.pointAt(last));
+    return QLineF(line.pointAt(part.first), line.pointAt(part.last));
 }
 
-bool ShapePainter::isVisible(QPointF place, double width, double height) const {
-    return visible_.intersects(around(place, width, height).adjusted(-1, -1, 1, 1));
+bool ShapePainter::isVisible(const ShapeBase& shape, double reach) const {
+    return visible_.intersects(around(placeOf(shape), 2 * reach + 1, 2 * reach + 1));
 }
 
 void ShapePainter::paint(const Group2D& shapes) {
@@ -103,14 +102,14 @@ QPointF ShapePainter::placeOf(const ShapeBase& shape) const {
 }
 
 void ShapePainter::operator()(const RectShape& rect) {
-    if (!isVisible(placeOf(rect), rect.Width, rect.Height))
+    if (!isVisible(rect, reachOf(rect)))
         return;
     ink(painter_, rect);
     turned(painter_, placeOf(rect), rect.Rotation, [&] { painter_.drawRect(around({}, rect.Width, rect.Height)); });
 }
 
 void ShapePainter::operator()(const OvalShape& oval) {
-    if (!isVisible(placeOf(oval), oval.Width, oval.Height))
+    if (!isVisible(oval, reachOf(oval)))
         return;
     ink(painter_, oval);
     if (oval.Rotation == 0)
@@ -133,10 +132,13 @@ void ShapePainter::operator()(const ArcShape& arc) {
 }
 
 void ShapePainter::operator()(const CurveShape& curve) {
-    if (const auto line = visiblePart(curve)) {
-        painter_.setPen(outlinePen(curve));
+    painter_.setPen(outlinePen(curve));
+    if (curve.Rotation != 0)
+        turned(painter_, placeOf(curve), curve.Rotation, [&] {
+            painter_.drawLine(QPointF(0, 0), QPointF(reachable(curve.X2 - curve.X), reachable(curve.Y2 - curve.Y)));
+        });
+    else if (const auto line = visiblePart(curve))
         painter_.drawLine(*line);
-    }
 }
 
 void ShapePainter::operator()(const FigureShape& figure) {
@@ -156,10 +158,9 @@ void ShapePainter::operator()(const FigureShape& figure) {
 }
 
 void ShapePainter::operator()(const StringShape& string) {
-    QPaintDevice& device = *painter_.device();
     const QString text = toQt(string.Text);
-    const double width = font_.metrics(string.TextFont, string.TextSize, device).horizontalAdvance(text);
-    painter_.setFont(font_.font(string.TextFont, string.TextSize, device));
+    const double width = font_.metrics(string.TextFont, string.TextSize).horizontalAdvance(text);
+    painter_.setFont(font_.font(string.TextFont, string.TextSize));
     painter_.setPen(seenThrough(string.FillColor, string.Fill));
     turned(painter_, placeOf(string), string.Rotation, [&] { painter_.drawText(QPointF(-width / 2, 0), text); });
 }

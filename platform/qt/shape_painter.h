@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include <cmath>
 #include <optional>
 
 #include "platform/qt/font_in_use.h"
@@ -22,8 +23,8 @@ public:
 
     /// A line's part in and near what the painter shows, or nothing. Qt takes time for what nobody sees of a line.
     std::optional<QLineF> visiblePart(const CurveShape& curve) const;
-    /// Whether a shape of that size around its place is in or near what the painter shows.
-    bool isVisible(QPointF place, double width, double height) const;
+    /// Whether any of a shape that reaches so far from its place can be in what the painter shows.
+    bool isVisible(const ShapeBase& shape, double reach) const;
     QPointF placeOf(const ShapeBase& shape) const;
 
     // What std::visit asks for
@@ -38,10 +39,16 @@ private:
     QPainter& painter_;
     QPointF origin_;
     QRectF visible_; // with a margin for pens
-    FontInUse font_;
+    FontInUse font_{*painter_.device()};
 };
 
 /// The pen of a shape's outline.
 QPen outlinePen(const OutlinedShape& shape);
+
+/// How far a rectangle or an oval, with its outline, can reach from its centre, however it is turned.
+template <class Shape>
+double reachOf(const Shape& shape) {
+    return (std::hypot(shape.Width, shape.Height) + shape.BorderWidth) / 2;
+}
 
 } // namespace tallyvane

@@ -31,7 +31,7 @@ void ShapeRuns::paint(const Group2D& shapes) {
 /// Lines of a pen of one pixel at the most. Qt joins the lines of a wider pen into one shape before it paints them,
 /// which is not what one upon the other looks like.
 void ShapeRuns::operator()(const CurveShape& curve) {
-    if (curve.BorderWidth * toPixels_.m11() > 1 || toPixels_.type() > QTransform::TxScale) {
+    if (curve.BorderWidth * toPixels_.m11() > 1 || toPixels_.type() > QTransform::TxScale || curve.Rotation != 0) {
         takeUp(curve.BorderColor);
         plain_(curve);
         return;
@@ -62,7 +62,7 @@ void ShapeRuns::symbol(const Shape& shape) {
         alone(shape);
         return;
     }
-    if (!plain_.isVisible(plain_.placeOf(shape), shape.Width, shape.Height))
+    if (!plain_.isVisible(shape, reachOf(shape)))
         return;
     const QPointF place = toPixels_.map(plain_.placeOf(shape));
     const QPointF pixel = wholePixel(place);

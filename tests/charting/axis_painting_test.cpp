@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <functional>
 
 #include "support/drawn.h"
@@ -76,6 +77,26 @@ TEST(AxisPainting, PlaceOfTitleLineTickAndLabel) {
              a.tickLabelsVertical(true);
          },
          {"text 54 29 'ab'", "line 10 57 110 57", "line 30 57 30 53", "picture 24 44", "  string 9 3 '2' up"}},
+        {"x at the top: the margin lies between its line and the plot",
+         GTAxis::horizontal,
+         [](GTAxis& a) {
+             a.top(true);
+             a.innerMargin(5);
+         },
+         {"text 54 29 'ab'", "line 10 51 110 51", "line 30 51 30 47", "text 27 41 '2'"}},
+        {"y likewise",
+         GTAxis::vertical,
+         [](GTAxis& a) { a.innerMargin(5); },
+         {"picture 10 64", "  string 9 6 'ab' up", "line 47 20 47 120", "line 43 100 47 100", "text 22 100 '2.0'"}},
+        {"y at the right, margin of 5, a longer title",
+         GTAxis::vertical,
+         [](GTAxis& a) {
+             a.right(true);
+             a.innerMargin(5);
+             a.text("abcd");
+         },
+         {"picture 40 58", "  string 3 12 'abcd' down", "line 15 20 15 120", "line 15 100 19 100",
+          "text 22 100 '2.0'"}},
         {"x, margin of 5 at 144 dots an inch",
          GTAxis::horizontal,
          [](GTAxis& a) {
@@ -156,6 +177,7 @@ TEST(AxisPainting, TheClosingLabel) {
         {"x: the first step not below the end, 4 x 3", GTAxis::horizontal, [](GTAxis& a) { a.tickIncrement(3); },
          "'12'"},
         {"y at the left likewise", GTAxis::vertical, [](GTAxis& a) { a.tickIncrement(3); }, "'12.0'"},
+        {"more steps than units: all the same", GTAxis::vertical, [](GTAxis& a) { a.tickIncrement(0.03); }, "'10.02'"},
         {"y at the right: the end itself", GTAxis::vertical,
          [](GTAxis& a) {
              a.tickIncrement(3);
@@ -282,31 +304,127 @@ TEST(AxisPainting, BaseLines) {
     }
 }
 
-TEST(AxisPainting, ColoursAndPensAreGivenBack) {
-    GTAxis axis(GTAxis::horizontal);
-    axis.SetRange(0, 10);
-    axis.Resolution(144);
-    axis.textColor = 0x111111;
-    axis.GridPenColor(0x222222);
-    axis.GridPenSize(2);
-    axis.baseLineColor(0x333333);
-    axis.baseLinePenSize(3);
-    axis.baseLineVisible(true);
-    GraphicsRecorder g(200, 200);
-    g.ForeColor(0xABCDEF);
-    g.PenWidth(2.9);
-    axis.renderGrid(g, 0, 0, 100, 100);
-    axis.renderBaseline(g, 0, 0, 100, 100);
-    axis.render(g, 0, 0, 100);
-    for (const GraphicsRecorder::Call& call : g.calls())
-        EXPECT_EQ(call.pen, call.color == 0x222222U        ? 4
-                            : call.color == 0x333333U      ? 6
-                            : call.operation == "DrawLine" ? 2
-                                                           : 1);
-    EXPECT_EQ(g.calls().front().color, 0x222222U);
-    EXPECT_EQ(g.calls().back().color, 0x111111U);
-    EXPECT_EQ(g.ForeColor(), 0xABCDEFU);
-    EXPECT_EQ(g.PenWidth(), 2) << "in whole units";
+TEST(AxisPainting, ColoursPensAndFonts) {
+    for (const int type : {GTAxis::horizontal, GTAxis::vertical}) {
+        GTAxis axis(type);
+        axis.SetRange(0, 10);
+        axis.Resolution(144);
+        axis.text("ab");
+        axis.verticalTitle(true);
+        axis.textFont = "Verdana";
+        axis.textColor = 0x111111;
+        axis.GridPenColor(0x222222);
+        axis.GridPenSize(2);
+        axis.baseLineColor(0x333333);
+        axis.baseLinePenSize(3);
+        axis.baseLineVisible(true);
+        GraphicsRecorder g(200, 200);
+        g.ForeColor(0xABCDEF);
+        g.PenWidth(2.9);
+        g.PenHeight(3.9);
+        axis.renderGrid(g, 0, 0, 100, 100);
+        const std::size_t gridLines = g.calls().size();
+        EXPECT_EQ(gridLines, 6U);
+        axis.renderBaseline(g, 0, 0, 100, 100);
+        EXPECT_EQ(g.PenWidth(), 2.9) << "given back as it was";
+        axis.render(g, 0, 0, 100);
+        for (std::size_t i = 0; i < g.calls().size(); ++i) {
+            const GraphicsRecorder::Call& call = g.calls()[i];
+            if (call.operation == "DrawLine") {
+                const Color color = i < gridLines ? 0x222222 : i == gridLines ? 0x333333 : 0x111111;
+                const double pen = i < gridLines ? 4 : i == gridLines ? 6 : 2.9;
+                EXPECT_EQ(call.color, color) << i;
+                EXPECT_EQ(call.pen, pen) << i;
+                EXPECT_EQ(call.penHeight, pen == 2.9 ? 3.9 : pen) << i;
+            } else if (call.operation == "DrawString") {
+                EXPECT_EQ(call.color, 0x111111U);
+                EXPECT_EQ(call.font, FontName("Verdana"));
+                EXPECT_EQ(call.textSize, 24);
+            } else {
+                const auto& title = std::get<StringShape>(call.shapes.Item(0));
+                EXPECT_EQ(title.FillColor, 0x111111U);
+                EXPECT_EQ(title.TextFont, FontName("Verdana"));
+                EXPECT_EQ(title.TextSize, 24);
+                EXPECT_DOUBLE_EQ(title.Rotation, -1.5707963267948966);
+            }
+        }
+        EXPECT_EQ(g.ForeColor(), 0xABCDEFU);
+        EXPECT_EQ(g.PenWidth(), 2) << "given back in whole units";
+        EXPECT_EQ(g.PenHeight(), 3);
+    }
+}
+
+TEST(AxisPainting, At300DotsAnInchEverythingIsCutToWholeDots) {
+    // A scale of 4.1667: text 50, ticks 16.67 + 12.5; labels "8.0" of 75.
+    struct Row {
+        const char* name;
+        int type;
+        bool far;
+        Lines want; // the axis line, the second tick and its label
+    };
+    const std::vector<Row> rows{
+        {"bottom", GTAxis::horizontal, false, {"line 10 20 110 20", "line 30 20 30 36", "text 17 85 '2'"}},
+        {"top", GTAxis::horizontal, true, {"line 10 149.167 110 149.167", "line 30 149 30 132", "text 17 106 '2'"}},
+        {"left", GTAxis::vertical, false, {"line 164.167 120 164.167 220", "line 147 200 164 200", "text 59 200 '2.0'"}},
+        {"right", GTAxis::vertical, true, {"line 10 120 10 220", "line 10 200 26 200", "text 38 200 '2.0'"}},
+    };
+    for (const Row& row : rows) {
+        GTAxis axis(row.type);
+        axis.SetRange(0, 10);
+        axis.Resolution(300);
+        axis.top(row.far);
+        axis.right(row.far);
+        EXPECT_EQ(row.type == GTAxis::horizontal ? axis.height(100) : axis.width(100),
+                  row.type == GTAxis::horizontal ? 50 + 29 + 50 : 50 + 29 + 75)
+            << row.name;
+        GraphicsRecorder g(400, 400);
+        axis.render(g, 10, row.type == GTAxis::horizontal ? 20 : 120, 100);
+        const Lines lines = drawn(g);
+        ASSERT_GE(lines.size(), 5U);
+        EXPECT_EQ((Lines{lines[0], lines[3], lines[4]}), row.want) << row.name;
+    }
+}
+
+TEST(AxisPainting, GridsOffTheOrigin) {
+    for (const int type : {GTAxis::horizontal, GTAxis::vertical}) {
+        GTAxis axis(type);
+        axis.SetRange(0, 10);
+        GraphicsRecorder g(200, 200);
+        axis.visible(false);
+        axis.renderGrid(g, 30, 40, 50, 45);
+        EXPECT_EQ(drawn(g), Lines()) << "of an invisible axis";
+        axis.visible(true);
+        axis.renderGrid(g, 30, 40, 50, 45);
+        EXPECT_EQ(drawn(g),
+                  type == GTAxis::horizontal
+                      ? (Lines{"line 30 40 30 85", "line 55 40 55 85", "line 80 40 80 85", "line 80 40 80 85"})
+                      : (Lines{"line 30 85 80 85", "line 30 62.5 80 62.5", "line 30 40 80 40", "line 30 40 80 40"}));
+    }
+}
+
+TEST(AxisPainting, AnAxisWithoutRangeHasItsClosingTick) {
+    for (const int type : {GTAxis::horizontal, GTAxis::vertical}) {
+        GTAxis axis(type);
+        axis.SetRange(5, 5);
+        axis.skipLastTickLabel = true;
+        GraphicsRecorder g(200, 200);
+        axis.render(g, 50, 50, 100);
+        EXPECT_EQ(drawn(g).size(), 2U) << "the line and a tick without a label";
+    }
+}
+
+TEST(AxisPainting, NoTwoTicksMeetAtTheTop) {
+    for (int length = 21; length < 400; ++length) {
+        GTAxis axis(GTAxis::vertical);
+        axis.SetRange(7.6, 12.3);
+        axis.tickLabelsVisible(false);
+        GraphicsRecorder g(500, 500);
+        axis.render(g, 0, 7, length);
+        int nearTop = 0;
+        for (const GraphicsRecorder::Call& call : g.calls())
+            nearTop += call.numbers[1] == call.numbers[3] && std::abs(call.numbers[1] - 7) < 10 ? 1 : 0;
+        ASSERT_EQ(nearTop, 1) << "length " << length;
+    }
 }
 
 } // namespace

@@ -68,22 +68,18 @@ struct Steps {
 };
 
 TEST(AxisTicks, ThePaintersStepInThreeUnlikeWays) {
-    using Ways = std::function<void(GTAxis&)>;
+    using Change = std::function<void(GTAxis&)>;
     struct Row {
         const char* name;
-        Ways set;
+        Change set;
         Steps::Painter painter;
         std::vector<double> want;
     };
     // 110 units for 0 to 11: automatically 5 ticks, an increment of 2 and 10 units to a unit.
-    const Ways automatic = [](GTAxis&) {};
-    const Ways three = [](GTAxis& axis) { axis.tickCount(3); };
-    const Ways byFour = [](GTAxis& axis) { axis.tickIncrement(4); };
-    const Ways byTwelve = [](GTAxis& axis) { axis.tickIncrement(12); };
-    const Ways byTenths = [](GTAxis& axis) {
-        axis.SetRange(0, 1);
-        axis.tickIncrement(0.001);
-    };
+    const Change automatic = [](GTAxis&) {};
+    const Change three = [](GTAxis& axis) { axis.tickCount(3); };
+    const Change byFour = [](GTAxis& axis) { axis.tickIncrement(4); };
+    const Change byTwelve = [](GTAxis& axis) { axis.tickIncrement(12); };
     const std::vector<Row> rows{
         {"x, 20 each; the last stands inside the end", automatic, Steps::xAxis, {0, 20, 40, 60, 80, 100, 109}},
         {"y, 110 / 5 each, upward", automatic, Steps::yAxis, {110, 88, 66, 44, 22, 0}},
@@ -108,7 +104,8 @@ TEST(AxisTicks, ThePaintersStepInThreeUnlikeWays) {
     }
 
     GTAxis fine(GTAxis::horizontal);
-    byTenths(fine);
+    fine.SetRange(0, 1);
+    fine.tickIncrement(0.001);
     EXPECT_EQ(Steps::of(Steps::xAxis, fine).size(), 111U) << "no step is smaller than a unit";
 }
 
@@ -129,7 +126,7 @@ TEST(AxisTicks, EveryWalkEnds) {
             }
 }
 
-TEST(AxisTicks, AnIncrementThatLeadsNowhereIsNotTaken) {
+TEST(AxisTicks, AnIncrementThatLeadsNowhereIsNone) {
     GTAxis axis(GTAxis::horizontal);
     axis.tickIncrement(2);
     EXPECT_TRUE(axis.hasCustomTickIncrement());
@@ -140,10 +137,21 @@ TEST(AxisTicks, AnIncrementThatLeadsNowhereIsNotTaken) {
     }
 }
 
+TEST(AxisTicks, WhatWasSetCanBeCleared) {
+    GTAxis axis(GTAxis::horizontal);
+    axis.SetRange(0, 11);
+    axis.tickIncrement(4);
+    axis.clearTickIncrement();
+    axis.tickCount(3);
+    EXPECT_EQ(Steps::of(Steps::xAxis, axis).size(), 3U);
+    axis.clearTickCount();
+    EXPECT_EQ(Steps::of(Steps::xAxis, axis).size(), 7U);
+}
+
 TEST(AxisTicks, ValuesAsTicks) {
     GTDataPoints values;
     for (const double value : {0.0, 2.5, 11.0, 11.5, -1.0, notANumber})
-        values.push_back(std::make_shared<GTDataPoint>(value, value));
+        values.push_back(std::make_shared<GTDataPoint>(value, 11 - value));
     for (const bool fixed : {false, true}) { // a fixed increment takes nothing away from the values
         GTAxis x(GTAxis::horizontal);
         GTAxis y(GTAxis::vertical);
@@ -155,9 +163,12 @@ TEST(AxisTicks, ValuesAsTicks) {
                 axis->tickIncrement(4);
         }
         EXPECT_EQ(Steps::of(Steps::xAxis, x), (std::vector<double>{0, 25, 110}));
-        EXPECT_EQ(Steps::of(Steps::yAxis, y), (std::vector<double>{110, 85, 0}));
+        EXPECT_EQ(Steps::of(Steps::yAxis, y), (std::vector<double>{0, 25, 110}));
         EXPECT_EQ(Steps::of(Steps::xGrid, x), (std::vector<double>{0, 25, 110}));
-        EXPECT_EQ(Steps::of(Steps::yGrid, y), (std::vector<double>{110, 85, 0}));
+        EXPECT_EQ(Steps::of(Steps::yGrid, y), (std::vector<double>{0, 25, 110}));
+        GraphicsRecorder g(500, 500);
+        y.render(g, 100, 0, 110);
+        EXPECT_EQ(only("text", drawn(g)).at(1), "text 94 25 '8.5'");
     }
 }
 
@@ -165,6 +176,7 @@ TEST(AxisTicks, Texts) {
     class Hours : public GTCustomTickFormatter {
         std::string format(double value) override { return std::to_string(static_cast<int>(value)) + " h"; }
     };
+    DateSource::setShortPattern("yyyy-MM-dd");
     const double moment = Date(2026, 11, 22, 14 * 3600 + 5 * 60 + 9).TotalSeconds();
     struct Row {
         int type;
@@ -196,11 +208,11 @@ TEST(AxisTicks, Texts) {
 }
 
 TEST(AxisTicks, RoomBesideThePlot) {
-    using Ways = std::function<void(GTAxis&)>;
+    using Change = std::function<void(GTAxis&)>;
     struct Row {
         const char* name;
         int type;
-        Ways set;
+        Change set;
         int want; // of 12 units a line, 6 a character; 3 + 4 for the ticks
     };
     const std::vector<Row> rows{
@@ -238,6 +250,11 @@ TEST(AxisTicks, RoomBesideThePlot) {
         EXPECT_EQ(x ? axis.width(240) : axis.height(240), 0) << row.name;
     }
 
+    GTAxis y(GTAxis::vertical);
+    y.SetRange(0, 960);
+    EXPECT_EQ(y.width(240), 12 + 7 + 30);
+    y.SetRange(0, 96);
+    EXPECT_EQ(y.width(240), 12 + 7 + 24) << "the widest of the labels that there are";
     GTAxis axis(GTAxis::horizontal);
     axis.tickLabelsVertical(true);
     axis.SetRange(0, 960);

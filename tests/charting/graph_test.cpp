@@ -217,6 +217,15 @@ TEST(GeneralPurpose, ScaleAndTruncation) {
                                       {infinite, 2147483647},
                                       {notANumber, 0}})
         EXPECT_EQ(truncated(value), want) << value;
+    for (const auto& [value, want] : {std::pair(6.9999999999, 7),
+                                      {7.0000000001, 7},
+                                      {6.9, 6},
+                                      {-5.0, -5},
+                                      {-5.0000000001, -5},
+                                      {-4.9999999999, -5},
+                                      {-5.9, -5},
+                                      {infinite, 2147483647}})
+        EXPECT_EQ(truncatedPlace(value), want) << value;
     GTGeneralPurpose::GTDayNames = {"Monday"};
     GTGeneralPurpose::GTResetDateNames();
     GTGeneralPurpose::GTResetDateNames();

@@ -171,6 +171,49 @@ TEST(Painter, UprightLinesAndRectanglesAreSharp) {
     }
 }
 
+TEST(Painter, ShapesStandWhereTheirPictureIsDrawn) {
+    Picture picture(6, 4, 0);
+    FigureShape figure; // a square of 2 x 2
+    figure.AddLine(1, 1, 3, 1);
+    figure.AddLine(3, 1, 3, 3);
+    figure.AddLine(3, 3, 1, 3);
+    picture.Objects().Append(figure);
+    RectShape turned; // a bar on its side, far above but for its end
+    turned.X = 5.5;
+    turned.Y = -19;
+    turned.Width = 40;
+    turned.Height = 1;
+    turned.Rotation = std::acos(0);
+    picture.Objects().Append(turned);
+    QImage image = whiteImage(8, 4);
+    {
+        QPainter painter(&image);
+        PainterGraphics g(painter, image.rect());
+        g.DrawPicture(picture, 1, 0);
+    }
+    EXPECT_EQ(pixels(image), (std::vector<std::string>{"......#.", "..##....", "..##....", "........"}));
+}
+
+TEST(Painter, ALineKeepsItsDirectionHoweverLongItIs) {
+    QImage image = whiteImage(100, 100);
+    QPainter painter(&image);
+    PainterGraphics g(painter, image.rect());
+    Picture picture(100, 100, 0);
+    CurveShape line;
+    line.X2 = 1e300;
+    line.Y2 = 1e299; // one down on ten to the right
+    picture.Objects().Append(line);
+    g.DrawPicture(picture, 0, 0);
+    EXPECT_LT(qGray(image.pixel(90, 9)), 200);
+    EXPECT_EQ(qGray(image.pixel(90, 50)), 255);
+    g.PenWidth(0);
+    g.PenHeight(0);
+    const QImage before = image.copy();
+    g.DrawLine(0, 50, 90, 60);
+    g.DrawLine(0, 70, 90, 70);
+    EXPECT_EQ(image, before) << "a pen of nothing draws nothing";
+}
+
 TEST(Painter, ArcsRunClockwiseFromTheRight) {
     QImage image = whiteImage(41, 41);
     QPainter painter(&image);
@@ -210,6 +253,13 @@ TEST(Painter, TextStandsOnItsBaseline) {
             text.Rotation = row.rotation;
             g.DrawObject(text, 0, 0);
             g.TextSize(24);
+            QImage direct = whiteImage(100, 100);
+            QPainter directPainter(&direct);
+            PainterGraphics h(directPainter, direct.rect());
+            h.TextSize(24);
+            h.DrawString("HHHH", 50 - h.StringWidth("HHHH") / 2, 50);
+            if (row.rotation == 0)
+                EXPECT_LE(furthestChannel(image, direct), 3) << "a string and a shape of the same text";
             EXPECT_NEAR(g.TextHeight(), 28, 4);
             EXPECT_LT(g.TextAscent(), g.TextHeight());
             EXPECT_NEAR(g.StringWidth("HHHH"), 4 * 18, 10);
