@@ -10,7 +10,8 @@ namespace tallyvane {
 /// A surface to draw on, in its own units from its top left corner: points on a screen, dots on a printer.
 ///
 /// Lines and outlines are drawn by a pen that hangs down and to the right of the places it is led along, so that a
-/// line at a whole place fills whole units. A place that is no number counts as far outside.
+/// line at a whole place fills whole units. What has no place or no size, because it is no number, is not
+/// drawn.
 class Graphics {
 public:
     Graphics() = default;

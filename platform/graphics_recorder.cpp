@@ -21,7 +21,10 @@ void GraphicsRecorder::FillRect(double x, double y, double width, double height)
 }
 
 void GraphicsRecorder::DrawString(std::string_view text, double x, double y) {
-    calls_.push_back({"DrawString", ForeColor(), std::string(text), {x, y}, {}, 1, 1, TextSize(), TextFont()});
+    Call call{"DrawString", ForeColor(), std::string(text), {x, y}};
+    call.textSize = TextSize();
+    call.font = TextFont();
+    calls_.push_back(std::move(call));
 }
 
 void GraphicsRecorder::DrawPicture(const Picture& picture, double x, double y) {

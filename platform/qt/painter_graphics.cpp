@@ -1,8 +1,7 @@
 #include "platform/qt/painter_graphics.h"
 
-#include <QPaintEngine>
-
 #include <algorithm>
+#include <cmath>
 
 #include "platform/qt/convert.h"
 #include "platform/qt/pictures.h"
@@ -23,7 +22,8 @@ PainterGraphics::PainterGraphics(QPainter& painter, const QRect& area) : painter
     painter_.save();
     painter_.setClipRect(area, Qt::IntersectClip);
     painter_.translate(area.topLeft());
-    painter_.setRenderHint(QPainter::Antialiasing);
+    painter_.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform |
+                            QPainter::LosslessImageRendering);
 }
 
 PainterGraphics::~PainterGraphics() { painter_.restore(); }
@@ -60,6 +60,8 @@ void PainterGraphics::DrawLine(double x1, double y1, double x2, double y2) {
 }
 
 void PainterGraphics::DrawRect(double x, double y, double width, double height) {
+    if (std::isnan(x + y + width + height))
+        return;
     const QRectF rect =
         QRectF(QPointF(reachable(x), reachable(y)), QPointF(reachable(x + width), reachable(y + height))).normalized();
     const double right = std::max(rect.left(), rect.right() - PenWidth());
@@ -71,6 +73,8 @@ void PainterGraphics::DrawRect(double x, double y, double width, double height) 
 }
 
 void PainterGraphics::FillRect(double x, double y, double width, double height) {
+    if (std::isnan(x + y + width + height))
+        return;
     const QColor color = toQt(ForeColor());
     const QRectF rect(QPointF(reachable(x), reachable(y)), QPointF(reachable(x + width), reachable(y + height)));
     fill(rect.normalized(), tint_ ? mixed(color, *tint_) : color);
@@ -102,7 +106,7 @@ void PainterGraphics::DrawObject(const Object2D& shape, double x, double y) {
 }
 
 void PainterGraphics::paintShapes(const Group2D& shapes, QPointF origin) {
-    if (painter_.paintEngine()->type() == QPaintEngine::Raster)
+    if (paintsPixels(painter_))
         ShapeRuns(painter_, origin).paint(shapes);
     else
         ShapePainter(painter_, origin).paint(shapes);

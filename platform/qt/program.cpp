@@ -36,7 +36,7 @@ void settleDateForm() {
     const QLocale locale = QLocale::system();
     DateSource::setShortPattern(fromQt(locale.dateFormat(QLocale::ShortFormat)));
     // The long form of a time names its zone, which a moment on the wall clock does not have.
-    const QRegularExpression timeZone(QStringLiteral(R"([\s(\[]*t+[)\]]*)"));
+    const QRegularExpression timeZone(QStringLiteral(R"([,\s(\[]*t+[)\]]*)"));
     DateSource::text = [locale, timeZone](const Date& date, DateSource::Form form) {
         const QTime time(date.Hour(), date.Minute(), date.Second());
         switch (form) {

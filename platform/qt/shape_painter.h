@@ -23,7 +23,7 @@ public:
 
     /// A line's part in and near what the painter shows, or nothing. Qt takes time for what nobody sees of a line.
     std::optional<QLineF> visiblePart(const CurveShape& curve) const;
-    /// Whether any of a shape that reaches so far from its place can be in what the painter shows.
+    /// Whether any of a shape that reaches so far from its place can be in or near what the painter shows.
     bool isVisible(const ShapeBase& shape, double reach) const;
     QPointF placeOf(const ShapeBase& shape) const;
 
@@ -42,8 +42,10 @@ private:
     FontInUse font_{*painter_.device()};
 };
 
-/// The pen of a shape's outline.
-QPen outlinePen(const OutlinedShape& shape);
+/// The pen of a shape's outline on that painter.
+QPen outlinePen(const OutlinedShape& shape, const QPainter& painter);
+/// A screen or a bitmap, not paper.
+bool paintsPixels(const QPainter& painter);
 
 /// How far a rectangle or an oval, with its outline, can reach from its centre, however it is turned.
 template <class Shape>

@@ -7,12 +7,21 @@ namespace tallyvane {
 
 namespace {
 
-/// The one colour of a symbol that has no more than one.
+/// The one colour of a symbol that has no more than one, and lets nothing shine through.
 template <class Shape>
 std::optional<Color> onlyColor(const Shape& shape) {
+    const auto halfSeen = [](float percent) { return percent > 0 && percent < 100; };
+    if (halfSeen(shape.Fill) || halfSeen(shape.Border))
+        return std::nullopt;
     if (shape.Fill > 0 && shape.Border > 0 && shape.FillColor != shape.BorderColor)
         return std::nullopt;
     return shape.Fill > 0 ? shape.FillColor : shape.BorderColor;
+}
+
+/// Steps finer than anybody sees, so that places that differ by rounding share a stamp.
+double fraction(double ofPixel) {
+    constexpr double steps = 4096;
+    return std::round(ofPixel * steps) / steps;
 }
 
 QPointF wholePixel(QPointF place) { return {std::floor(place.x()), std::floor(place.y())}; }
@@ -20,7 +29,10 @@ QPointF wholePixel(QPointF place) { return {std::floor(place.x()), std::floor(pl
 } // namespace
 
 ShapeRuns::ShapeRuns(QPainter& painter, QPointF origin)
-    : painter_(painter), plain_(painter, origin), toPixels_(painter.deviceTransform()) {}
+    : painter_(painter), plain_(painter, origin), toPixels_(painter.deviceTransform()) {
+    inRuns_ = toPixels_.type() <= QTransform::TxScale && toPixels_.m11() > 0 && toPixels_.m11() == toPixels_.m22() &&
+              painter.opacity() == 1;
+}
 
 void ShapeRuns::paint(const Group2D& shapes) {
     for (const Object2D& shape : shapes)
@@ -28,12 +40,9 @@ void ShapeRuns::paint(const Group2D& shapes) {
     flush();
 }
 
-/// Lines of a pen of one pixel at the most. Qt joins the lines of a wider pen into one shape before it paints them,
-/// which is not what one upon the other looks like.
 void ShapeRuns::operator()(const CurveShape& curve) {
-    if (curve.BorderWidth * toPixels_.m11() > 1 || toPixels_.type() > QTransform::TxScale || curve.Rotation != 0) {
-        takeUp(curve.BorderColor);
-        plain_(curve);
+    if (!inRuns_ || curve.Rotation != 0) {
+        alone(curve);
         return;
     }
     const auto line = plain_.visiblePart(curve);
@@ -58,7 +67,7 @@ void ShapeRuns::symbol(const Shape& shape) {
     constexpr double mostPixels = 64;
     const double pixels = (std::max(shape.Width, shape.Height) + shape.BorderWidth) * toPixels_.m11();
     const auto color = onlyColor(shape);
-    if (!color || shape.Rotation != 0 || toPixels_.type() > QTransform::TxScale || !(pixels <= mostPixels)) {
+    if (!inRuns_ || !color || shape.Rotation != 0 || !(shape.Width >= 0 && shape.Height >= 0 && pixels <= mostPixels)) {
         alone(shape);
         return;
     }
@@ -67,8 +76,8 @@ void ShapeRuns::symbol(const Shape& shape) {
     const QPointF place = toPixels_.map(plain_.placeOf(shape));
     const QPointF pixel = wholePixel(place);
     Shape key = shape;
-    key.X = place.x() - pixel.x();
-    key.Y = place.y() - pixel.y();
+    key.X = fraction(place.x() - pixel.x());
+    key.Y = fraction(place.y() - pixel.y());
     const std::size_t stamp = stampOf(key);
     if (stamp == stamps_.size()) {
         alone(shape);
@@ -81,14 +90,17 @@ void ShapeRuns::symbol(const Shape& shape) {
 /// The stamp of a symbol at that fraction of a pixel; past the last one when there are too many of them.
 template <class Shape>
 std::size_t ShapeRuns::stampOf(const Shape& shape) {
-    constexpr std::size_t mostStamps = 16;
+    constexpr std::size_t mostStamps = 128; // a scale of 1.1 has a hundred places in a pixel
     const auto isIt = [&](const Stamp& stamp) {
         const auto* known = std::get_if<Shape>(&stamp.shape);
         return known != nullptr && *known == shape;
     };
+    if (lastStamp_ < stamps_.size() && isIt(stamps_[lastStamp_]))
+        return lastStamp_;
     const auto found = std::find_if(stamps_.begin(), stamps_.end(), isIt);
+    lastStamp_ = static_cast<std::size_t>(found - stamps_.begin());
     if (found != stamps_.end() || stamps_.size() == mostStamps)
-        return static_cast<std::size_t>(found - stamps_.begin());
+        return lastStamp_;
 
     const QPointF reach = QPointF(shape.Width + shape.BorderWidth, shape.Height + shape.BorderWidth) / 2;
     const QPointF centre(shape.X, shape.Y);
@@ -119,7 +131,7 @@ void ShapeRuns::takeUp(Color color) {
 
 void ShapeRuns::flush() {
     if (!lines_.empty()) {
-        painter_.setPen(outlinePen(firstLine_));
+        painter_.setPen(outlinePen(firstLine_, painter_));
         painter_.drawLines(lines_.data(), static_cast<int>(lines_.size()));
         lines_.clear();
     }

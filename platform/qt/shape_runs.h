@@ -50,7 +50,9 @@ private:
     QPainter& painter_;
     ShapePainter plain_;
     QTransform toPixels_;
+    bool inRuns_ = false; // the painter shows upright, opaque pixels
     std::vector<Stamp> stamps_;
+    std::size_t lastStamp_ = 0;
 
     // The run: lines of one pen and imprints, all of one colour
     Color color_ = 0;
