@@ -1,6 +1,7 @@
 #include "charting/gt_graph.h"
 
 #include <algorithm>
+#include <array>
 
 #include "charting/gt_general_purpose.h"
 #include "charting/truncated.h"
@@ -17,22 +18,15 @@ constexpr double titleDrop = 20;
 /// The row in which the backdrop ends above.
 constexpr int backdropTop = 15;
 
-struct Channels {
-    int red;
-    int green;
-    int blue;
-};
-constexpr Channels backdropBelow{216, 224, 255};
-constexpr Channels backdropAbove{173, 176, 255};
+constexpr std::array<int, 3> lowerColor{216, 224, 255}; // red, green, blue
+constexpr std::array<int, 3> upperColor{173, 176, 255};
 
-/// The backdrop's colour in a row of the surface: that of below in row `plotHeight`, that of above in row 0.
+/// The backdrop's colour in a row of the surface: the lower colour in row `plotHeight`, the upper one in row 0.
 Color backdropColor(int row, int plotHeight) {
-    const double below = static_cast<double>(row) / plotHeight;
-    const double above = static_cast<double>(plotHeight - row) / plotHeight;
-    const auto channel = [&](int Channels::*c) {
-        return truncated(backdropAbove.*c * above + backdropBelow.*c * below);
-    };
-    return RGB(channel(&Channels::red), channel(&Channels::green), channel(&Channels::blue));
+    const double lower = static_cast<double>(row) / plotHeight;
+    const double upper = static_cast<double>(plotHeight - row) / plotHeight;
+    const auto channel = [&](std::size_t c) { return truncated(upperColor[c] * upper + lowerColor[c] * lower); };
+    return RGB(channel(0), channel(1), channel(2));
 }
 
 } // namespace

@@ -47,7 +47,13 @@ TEST_F(GraphTest, ALayoutOfPlotBackdropTitleAndLabels) {
     graph_.marginRight = 6;
     graph_.marginTop = 1;
     graph_.marginBottom = 2;
-    graph_.addLabel(std::make_shared<GTLabel>(0.5, 0.25, "here"));
+    graph_.textColor = 0x112233;
+    graph_.textFont = "Verdana";
+    const auto label = std::make_shared<GTLabel>(0.5, 0.25, "here");
+    label->textColor = 0x445566;
+    label->textFont = "Arial";
+    label->textSize(9);
+    graph_.addLabel(label);
     GraphicsRecorder g(260, 173);
     graph_.Draw(g);
     // The title's band: 1 + 12 + 4 + 5 = 22. The plot: 260 - 3 - 43 - 6 wide, at 46; 173 - 22 - 2 - 31 high, at 22.
@@ -55,6 +61,12 @@ TEST_F(GraphTest, ALayoutOfPlotBackdropTitleAndLabels) {
     const std::size_t rows = 22 + 118 - 15 + 1;
     EXPECT_EQ(calls[0].numbers, (std::vector<double>{46, 140, 254, 140}));
     EXPECT_EQ(calls[rows - 1].numbers, (std::vector<double>{46, 15, 254, 15}));
+    EXPECT_EQ(calls[rows].color, 0x112233U);
+    EXPECT_EQ(calls[rows].font, FontName("Verdana"));
+    EXPECT_EQ(calls[rows].textSize, 12);
+    EXPECT_EQ(calls.back().color, 0x445566U);
+    EXPECT_EQ(calls.back().font, FontName("Arial"));
+    EXPECT_EQ(calls.back().textSize, 9);
     const Lines lines = withoutBackdrop(g, rows);
     EXPECT_EQ(lines[0], "text 141 29 'Day'") << "in the middle of the plot, 20 below the top whatever the margins";
     EXPECT_EQ(lines[1], "picture 46 22");

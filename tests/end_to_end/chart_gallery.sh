@@ -25,5 +25,14 @@ for resolution in 72 300; do
     pictures=$(pdfimages -list "$out/gallery_$resolution.pdf" | tail -n +3 | wc -l)
     ((pictures == 0)) || fail "$pictures bitmaps in the PDF at $resolution dots per inch"
 done
+
+# A text is as high at 300 dots per inch as at 72.
+height_of_title() {
+    pdftotext -bbox "$out/gallery_$1.pdf" "$out/boxes"
+    sed -n 's/.*yMin="\([0-9.]*\)" xMax="[0-9.]*" yMax="\([0-9.]*\)">Scatter<.*/\1 \2/p' "$out/boxes" |
+        awk '{ printf "%.0f", $2 - $1 }'
+}
+[[ -n $(height_of_title 72) && $(height_of_title 72) == $(height_of_title 300) ]] ||
+    fail "the title is $(height_of_title 72) points high at 72 dots per inch, $(height_of_title 300) at 300"
 ! "$1" "$out/text/no_folder" 2>/dev/null || fail "a folder that cannot be is no error"
 echo "the gallery was drawn"

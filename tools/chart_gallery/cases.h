@@ -14,7 +14,7 @@ struct GalleryCase {
     std::unique_ptr<GTGraph> graph;
 };
 
-/// Every type of series, and every way to set an axis, for a surface of that resolution in dots per inch.
+/// Every type of series, and axes set in many ways, for a surface of that resolution in dots per inch.
 std::vector<GalleryCase> galleryCases(int resolution);
 
 } // namespace tallyvane

@@ -35,8 +35,10 @@ void draw(GTGraph& graph, QPainter& painter, int resolution) {
 QImage imageOf(GTGraph& graph, int resolution) {
     QImage image(dots(pointsWide, resolution), dots(pointsHigh, resolution), QImage::Format_RGB32);
     image.fill(Qt::white);
-    QPainter painter(&image);
-    draw(graph, painter, resolution);
+    {
+        QPainter painter(&image);
+        draw(graph, painter, resolution);
+    }
     return image;
 }
 
