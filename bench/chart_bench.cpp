@@ -58,45 +58,95 @@ std::unique_ptr<GTGraph> graphOf(int count) {
     return graph;
 }
 
-QImage emptyImage() {
-    QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
+/// The plot that the graph gets on the image, so that the plain ways draw at the same places.
+constexpr QRect plot(43, 17, 757, 452);
+
+QImage emptyImage(double scale) {
+    QImage image(static_cast<int>(width * scale), static_cast<int>(height * scale),
+                 QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(scale);
     image.fill(Qt::white);
     return image;
 }
 
+double scaleOf(const benchmark::State& state) { return static_cast<double>(state.range(1)) / 100; }
+
 void draw_graph(benchmark::State& state) {
     const QtToolkit toolkit;
     const auto graph = graphOf(static_cast<int>(state.range(0)));
-    QImage image = emptyImage();
+    for (int i = 0; i < seriesCount; ++i)
+        graph->Series(i)->PenSize(static_cast<int>(state.range(2)));
+    QImage image = emptyImage(scaleOf(state));
     QPainter painter(&image);
-    PainterGraphics g(painter, image.rect());
+    PainterGraphics g(painter, QRect(0, 0, width, height));
     for (auto _ : state)
         graph->Draw(g);
+    const QPoint middle(static_cast<int>(400 * scaleOf(state)), static_cast<int>(250 * scaleOf(state)));
+    if (image.pixelColor(middle) == Qt::white)
+        state.SkipWithError("nothing was drawn");
 }
 
-void draw_plain(benchmark::State& state) {
-    const auto count = static_cast<int>(state.range(0));
+std::vector<std::vector<QPointF>> coursesOf(int count) {
+    const auto graph = graphOf(count);
+    const double low = graph->Series(0)->YMin();
+    const double unit = plot.height() / (graph->Series(0)->YMax() - low);
     std::vector<std::vector<QPointF>> courses;
     for (int i = 0; i < seriesCount; ++i) {
         std::vector<QPointF> course;
         for (const double value : readings(i, count))
-            course.emplace_back(static_cast<double>(course.size()) * width / (count - 1), height - value * height / 20);
+            course.emplace_back(plot.left() + static_cast<double>(course.size()) * plot.width() / (count - 1),
+                                plot.bottom() - (value - low) * unit);
         courses.push_back(std::move(course));
     }
-    QImage image = emptyImage();
+    return courses;
+}
+
+/// Draws all courses again and again: a polyline, then `drawSymbol` at each point.
+template <class DrawSymbol>
+void drawPlainly(benchmark::State& state, DrawSymbol drawSymbol) {
+    const auto courses = coursesOf(static_cast<int>(state.range(0)));
+    QImage image = emptyImage(scaleOf(state));
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     for (auto _ : state)
         for (int i = 0; i < seriesCount; ++i) {
             const auto& course = courses[static_cast<std::size_t>(i)];
-            painter.setPen(QColor(colorOf(i)));
+            const QPen pen(QColor(colorOf(i)), static_cast<double>(state.range(2)));
+            painter.setPen(pen);
             painter.setBrush(Qt::NoBrush);
             painter.drawPolyline(course.data(), static_cast<int>(course.size()));
+            painter.setPen(QColor(colorOf(i)));
             painter.setBrush(QColor(colorOf(i)));
-            for (const QPointF& point : course)
-                painter.drawEllipse(QRectF(std::floor(point.x()) - symbolSize / 2.0,
-                                           std::floor(point.y()) - symbolSize / 2.0, symbolSize, symbolSize));
+            drawSymbol(painter, course);
         }
+}
+
+QRectF symbolAt(QPointF place) {
+    return {std::floor(place.x()) - symbolSize / 2.0, std::floor(place.y()) - symbolSize / 2.0, symbolSize, symbolSize};
+}
+
+void draw_plain(benchmark::State& state) {
+    drawPlainly(state, [](QPainter& painter, const std::vector<QPointF>& course) {
+        for (const QPointF& point : course)
+            painter.drawEllipse(symbolAt(point));
+    });
+}
+
+/// A painter that knows the trick as well: one image for all symbols of a series. At scale 1 only.
+void draw_plain_images(benchmark::State& state) {
+    drawPlainly(state, [](QPainter& painter, const std::vector<QPointF>& course) {
+        QImage symbol(symbolSize + 2, symbolSize + 2, QImage::Format_ARGB32_Premultiplied);
+        symbol.fill(Qt::transparent);
+        {
+            QPainter symbolPainter(&symbol);
+            symbolPainter.setRenderHint(QPainter::Antialiasing);
+            symbolPainter.setPen(painter.pen());
+            symbolPainter.setBrush(painter.brush());
+            symbolPainter.drawEllipse(QRectF(1, 1, symbolSize, symbolSize));
+        }
+        for (const QPointF& point : course)
+            painter.drawImage(QPoint(static_cast<int>(point.x()) - 3, static_cast<int>(point.y()) - 3), symbol);
+    });
 }
 
 void fill_series(benchmark::State& state) {
@@ -111,8 +161,20 @@ void fill_series(benchmark::State& state) {
     }
 }
 
-BENCHMARK(draw_plain)->Arg(365)->Arg(10'000)->Arg(100'000)->Unit(benchmark::kMillisecond);
-BENCHMARK(draw_graph)->Arg(365)->Arg(10'000)->Arg(100'000)->Unit(benchmark::kMillisecond);
+// Points a series, scale in percent, pen
+void sizes(benchmark::internal::Benchmark* benchmark) {
+    benchmark->Unit(benchmark::kMillisecond)->ArgNames({"points", "scale", "pen"});
+    for (const int points : {365, 10'000, 100'000})
+        benchmark->Args({points, 100, 1});
+}
+void sizesOfScreens(benchmark::internal::Benchmark* benchmark) {
+    sizes(benchmark);
+    for (const int points : {365, 10'000})
+        benchmark->Args({points, 125, 1})->Args({points, 200, 1})->Args({points, 100, 2});
+}
+BENCHMARK(draw_plain)->Apply(sizesOfScreens);
+BENCHMARK(draw_graph)->Apply(sizesOfScreens);
+BENCHMARK(draw_plain_images)->Apply(sizes);
 BENCHMARK(fill_series)->Arg(10'000)->Arg(100'000)->Unit(benchmark::kMillisecond);
 
 } // namespace
