@@ -4,6 +4,7 @@
 /// as typed, and a number is always Val of that text. A row has no identity but its place: two rows may bear one date.
 #pragma once
 
+#include "platform/date.h"
 #include "platform/listbox.h"
 
 namespace tallyvane::DayTable {

@@ -14,6 +14,8 @@ public:
     virtual void controlChanged() = 0;
     /// The control goes out of being and must not be touched again.
     virtual void controlGone() = 0;
+    /// The keys are to go to this control from now on.
+    virtual void takeFocus() {}
 };
 
 /// What all controls have in common. A control is a plain object: properties, events that its window sets, and one
@@ -41,6 +43,19 @@ public:
 
     /// Has the control painted anew.
     void Refresh() { changed(); }
+    /// From here on the keys go to this control.
+    void SetFocus() {
+        if (observer_ != nullptr)
+            observer_->takeFocus();
+    }
+
+    /// In points of the screen, as its window's table says at creation.
+    int Width() const { return width_; }
+    int Height() const { return height_; }
+    void size(int width, int height) {
+        width_ = width;
+        height_ = height;
+    }
 
     /// The one observer; nil for none. The control does not own it.
     void observe(ControlObserver* observer) { observer_ = observer; }
@@ -65,6 +80,8 @@ private:
     ControlObserver* observer_ = nullptr;
     bool visible_ = true;
     bool enabled_ = true;
+    int width_ = 0;
+    int height_ = 0;
     std::string helpTag_;
     std::string accessibleName_;
 };

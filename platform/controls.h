@@ -1,4 +1,4 @@
-/// The simple controls: labels, buttons, fields, canvases, timers.
+/// The simple controls: labels, buttons, canvases, timers.
 #pragma once
 
 #include <functional>
@@ -10,7 +10,6 @@
 #include "platform/date.h"
 #include "platform/graphics.h"
 #include "platform/picture.h"
-#include "platform/text.h"
 
 namespace tallyvane {
 
@@ -31,6 +30,9 @@ public:
     void TextSize(int value) { set(textSize_, value); }
     bool Bold() const { return bold_; }
     void Bold(bool value) { set(bold_, value); }
+    /// Whether a text that is too wide goes on in further lines.
+    bool Multiline() const { return multiline_; }
+    void Multiline(bool value) { set(multiline_, value); }
 
 private:
     std::string text_;
@@ -38,19 +40,35 @@ private:
     std::optional<Color> textColor_;
     int textSize_ = 0;
     bool bold_ = false;
+    bool multiline_ = false;
 };
 
-/// An area that shows a picture, and what its window paints over it.
+/// An area that shows a picture, and what its window paints over it. A class that derives from it can make a control
+/// of its own of the mouse's events.
 class Canvas : public Control {
 public:
     /// The picture on show, at its own size from the top left corner; empty for none.
     const std::optional<Picture>& Backdrop() const { return backdrop_; }
     void Backdrop(std::optional<Picture> value) { set(backdrop_, std::move(value)); }
+    /// Whether it can be reached by the keyboard, where the space bar and Return stand for a press in its middle.
+    bool AcceptFocus() const { return acceptFocus_; }
+    void AcceptFocus(bool value) { set(acceptFocus_, value); }
 
     std::function<void(Graphics& g)> Paint;
 
+    virtual void Event_Open() {}
+    virtual void Event_Paint(Graphics& g) {
+        if (Paint)
+            Paint(g);
+    }
+    /// True: the events of dragging and of the release are to follow.
+    virtual bool Event_MouseDown(int /*x*/, int /*y*/) { return false; }
+    virtual void Event_MouseDrag(int /*x*/, int /*y*/) {}
+    virtual void Event_MouseUp(int /*x*/, int /*y*/) {}
+
 private:
     std::optional<Picture> backdrop_;
+    bool acceptFocus_ = false;
 };
 
 class PushButton : public Control {
@@ -84,56 +102,26 @@ private:
     std::string caption_;
 };
 
-/// A field of one line, such as the open cell of a list. Places are counted in characters, from 0.
-class TextField : public Control {
+/// A box with a check mark or without, and its caption.
+class CheckBox : public Control {
 public:
-    const std::string& Text() const { return text_; }
-    void Text(std::string value) { set(text_, std::move(value)); }
-    int SelStart() const { return selStart_; }
-    void SelStart(int value) { set(selStart_, value); }
-    int SelLength() const { return selLength_; }
-    void SelLength(int value) { set(selLength_, value); }
-
-    /// The text and the selection as the user has just made them: no news for the observer, who brings it.
-    void userChanged(std::string text, int selStart, int selLength) {
-        text_ = std::move(text);
-        selStart_ = selStart;
-        selLength_ = selLength;
+    const std::string& Caption() const { return caption_; }
+    void Caption(std::string value) { set(caption_, std::move(value)); }
+    bool Value() const { return value_; }
+    void Value(bool value) { set(value_, value); }
+    /// The user has changed it: the value, then Action.
+    void userToggled(bool value) {
+        value_ = value;
+        if (Action)
+            Action();
     }
+
+    std::function<void()> Open;
+    std::function<void()> Action;
 
 private:
-    std::string text_;
-    int selStart_ = 0;
-    int selLength_ = 0;
-};
-
-/// A field of many lines.
-class TextArea : public Control {
-public:
-    const std::string& Text() const { return text_; }
-    /// Line ends become EndOfLine. Raises TextChange when the text differs.
-    void Text(std::string_view value) {
-        std::string text = ReplaceLineEndings(value, EndOfLine);
-        if (text_ == text)
-            return;
-        set(text_, std::move(text));
-        raiseTextChange();
-    }
-    /// The user has typed: as Text, but no news for the observer, who brings it.
-    void userTyped(std::string value) {
-        text_ = std::move(value);
-        raiseTextChange();
-    }
-
-    std::function<void()> TextChange;
-
-private:
-    void raiseTextChange() {
-        if (TextChange)
-            TextChange();
-    }
-
-    std::string text_;
+    std::string caption_;
+    bool value_ = false;
 };
 
 /// A frame with tabs, fixed once it is shown. The controls of a page stand in the window's table with the page's

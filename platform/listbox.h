@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/controls.h"
 #include "platform/graphics.h"
+#include "platform/text_controls.h"
 
 namespace tallyvane {
 

@@ -18,6 +18,9 @@ std::vector<Window*>& registry() {
 struct RaiseOpen {
     void operator()(Listbox* list) const { raise(list->Open); }
     void operator()(CalendarControl* calendar) const { raise(calendar->Open); }
+    void operator()(CheckBox* box) const { raise(box->Open); }
+    void operator()(TextField* field) const { raise(field->Open); }
+    void operator()(Canvas* canvas) const { canvas->Event_Open(); }
     template <class Other>
     void operator()(Other*) const {}
 
@@ -51,6 +54,13 @@ void Window::shape(Kind kind, int width, int height, int minHeight, int maxHeigh
     minHeight_ = minHeight;
     maxHeight_ = maxHeight;
     bounds_ = {0, 0, width, height};
+}
+
+void Window::place(std::initializer_list<Placement> placements) {
+    placements_ = placements;
+    for (const Placement& placement : placements_)
+        std::visit([&](Control* control) { control->size(placement.frame.width, placement.frame.height); },
+                   placement.control);
 }
 
 void Window::carry(MenuBar* menuBar, Toolbar* toolbar) {

@@ -10,6 +10,7 @@
 #include "platform/geometry.h"
 #include "platform/listbox.h"
 #include "platform/menus.h"
+#include "platform/text_controls.h"
 
 namespace tallyvane {
 
@@ -31,8 +32,8 @@ enum Lock : unsigned { lockLeft = 1, lockTop = 2, lockRight = 4, lockBottom = 8 
 
 /// A line of a window's table of controls: what, where, and how it follows the window's size.
 struct Placement {
-    using AnyControl = std::variant<StaticText*, Canvas*, PushButton*, BevelButton*, TextArea*, TabPanel*,
-                                    CalendarControl*, ProgressWheel*, Listbox*, Timer*>;
+    using AnyControl = std::variant<StaticText*, Canvas*, PushButton*, BevelButton*, CheckBox*, TextField*, TextArea*,
+                                    TabPanel*, CalendarControl*, ProgressWheel*, Listbox*, Timer*>;
 
     AnyControl control;
     /// In the window as it is created. Timers have none.
@@ -118,7 +119,7 @@ protected:
     /// Size at creation. The width never changes; the height stays between the limits.
     void shape(Kind kind, int width, int height, int minHeight, int maxHeight);
     void shape(Kind kind, int width, int height) { shape(kind, width, height, height, height); }
-    void place(std::initializer_list<Placement> placements) { placements_ = placements; }
+    void place(std::initializer_list<Placement> placements);
     void carry(MenuBar* menuBar, Toolbar* toolbar);
     void belongTo(Window* owner) { owner_ = owner; }
 

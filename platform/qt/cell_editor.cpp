@@ -5,45 +5,9 @@
 #include <limits>
 
 #include "platform/qt/event_guard.h"
+#include "platform/qt/key_names.h"
 
 namespace tallyvane {
-
-namespace {
-
-/// The key as the list's events name it: a control character, or the text that the key types.
-std::string nameOf(const QKeyEvent& key) {
-    switch (key.key()) {
-    case Qt::Key_Backspace:
-        return Chr(8);
-    case Qt::Key_Tab:
-        return Chr(9);
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        return Chr(13);
-    case Qt::Key_Escape:
-        return Chr(27);
-    case Qt::Key_Left:
-    case Qt::Key_Backtab: // back to where Tab came from
-        return Chr(28);
-    case Qt::Key_Right:
-        return Chr(29);
-    case Qt::Key_Up:
-        return Chr(30);
-    case Qt::Key_Down:
-        return Chr(31);
-    default:
-        return fromQt(key.text());
-    }
-}
-
-/// A key that belongs to the window or to the text field: a shortcut, or the selecting by Shift and an arrow.
-bool isShortcut(const QKeyEvent& key) {
-    if ((key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0)
-        return true;
-    return (key.modifiers() & Qt::ShiftModifier) != 0 && key.text().isEmpty() && key.key() != Qt::Key_Backtab;
-}
-
-} // namespace
 
 CellEditor::CellEditor(Listbox& list, QWidget* parent) : Peer(list.ActiveCell(), parent), list_(&list) {
     // Light in every theme, as the list is.

@@ -40,6 +40,7 @@ public:
     }
 
     void controlGone() override { control_ = nullptr; }
+    void takeFocus() override { Widget::setFocus(Qt::OtherFocusReason); }
     void controlChanged() override {
         Widget::setVisible(control_->Visible() && inFront_);
         Widget::setEnabled(control_->Enabled());

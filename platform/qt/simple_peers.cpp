@@ -1,9 +1,14 @@
 #include "platform/qt/simple_peers.h"
 
 #include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QShortcut>
+#include <QStyleOptionFocusRect>
 #include <QTabBar>
+
+#include <utility>
 
 #include "platform/qt/event_guard.h"
 #include "platform/qt/painter_graphics.h"
@@ -36,6 +41,7 @@ StaticTextPeer::StaticTextPeer(StaticText& text, QWidget* parent) : Peer(text, p
 void StaticTextPeer::sync() {
     setText(tallyvane::toQt(Left(control_->Text(), mostCharacters)));
     setAlignment(toQt(control_->Align()) | Qt::AlignVCenter);
+    setWordWrap(control_->Multiline());
     QFont font = parentWidget()->font();
     if (control_->TextSize() > 0)
         font.setPixelSize(control_->TextSize());
@@ -53,18 +59,51 @@ void StaticTextPeer::sync() {
 
 CanvasPeer::CanvasPeer(Canvas& canvas, QWidget* parent) : Peer(canvas, parent) { controlChanged(); }
 
+void CanvasPeer::sync() { setFocusPolicy(control_->AcceptFocus() ? Qt::TabFocus : Qt::NoFocus); }
+
 void CanvasPeer::paintEvent(QPaintEvent* /*event*/) {
     if (control_ == nullptr)
         return;
-    constexpr double disabledOpacity = 0.45;
     QPainter painter(this);
-    painter.setOpacity(control_->Enabled() ? 1.0 : disabledOpacity);
     PainterGraphics g(painter, rect());
-    if (control_->Backdrop())
-        g.DrawPicture(*control_->Backdrop(), 0, 0);
     deliver([&] {
-        if (control_->Paint)
-            control_->Paint(g);
+        if (control_->Backdrop())
+            g.DrawPicture(*control_->Backdrop(), 0, 0);
+        control_->Event_Paint(g);
+    });
+    if (hasFocus()) {
+        QStyleOptionFocusRect focus;
+        focus.initFrom(this);
+        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
+    }
+}
+
+void CanvasPeer::mousePressEvent(QMouseEvent* event) {
+    if (control_ != nullptr && event->button() == Qt::LeftButton)
+        deliver([&] { pressed_ = control_->Event_MouseDown(event->pos().x(), event->pos().y()); });
+}
+
+void CanvasPeer::mouseMoveEvent(QMouseEvent* event) {
+    if (control_ != nullptr && pressed_)
+        deliver([&] { control_->Event_MouseDrag(event->pos().x(), event->pos().y()); });
+}
+
+void CanvasPeer::mouseReleaseEvent(QMouseEvent* event) {
+    if (control_ != nullptr && event->button() == Qt::LeftButton && std::exchange(pressed_, false))
+        deliver([&] { control_->Event_MouseUp(event->pos().x(), event->pos().y()); });
+}
+
+void CanvasPeer::keyPressEvent(QKeyEvent* event) {
+    const bool presses =
+        event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (control_ == nullptr || !control_->AcceptFocus() || !presses) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    const QPoint middle = rect().center();
+    deliver([&] {
+        if (control_->Event_MouseDown(middle.x(), middle.y()))
+            control_->Event_MouseUp(middle.x(), middle.y());
     });
 }
 
@@ -109,35 +148,19 @@ BevelButtonPeer::BevelButtonPeer(BevelButton& button, QWidget* parent) : Peer(bu
 
 void BevelButtonPeer::sync() { setText(tallyvane::toQt(control_->Caption())); }
 
-// TextArea
+// CheckBox
 
-namespace {
-
-/// The text letter by letter; toPlainText would make blanks of the blanks that do not break.
-std::string textOf(const QTextDocument& document) {
-    QString text = document.toRawText();
-    text.replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
-    text.replace(QChar::LineSeparator, QLatin1Char('\n'));
-    return fromQt(text);
-}
-
-} // namespace
-
-TextAreaPeer::TextAreaPeer(TextArea& area, QWidget* parent) : Peer(area, parent) {
-    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    setTabChangesFocus(true);
+CheckBoxPeer::CheckBoxPeer(CheckBox& box, QWidget* parent) : Peer(box, parent) {
     controlChanged();
-    connect(this, &QPlainTextEdit::textChanged, this, [this] {
+    connect(this, &QCheckBox::clicked, this, [this](bool checked) {
         if (control_ != nullptr)
-            deliver([this] { control_->userTyped(textOf(*document())); });
+            deliver([&] { control_->userToggled(checked); });
     });
 }
 
-void TextAreaPeer::sync() {
-    if (control_->Text() == textOf(*document()))
-        return;
-    const QSignalBlocker quiet(this);
-    setPlainText(tallyvane::toQt(control_->Text()));
+void CheckBoxPeer::sync() {
+    setText(tallyvane::toQt(control_->Caption()));
+    setChecked(control_->Value());
 }
 
 // TabPanel

@@ -1,8 +1,8 @@
 /// Peers of the simple controls.
 #pragma once
 
+#include <QCheckBox>
 #include <QLabel>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTimer>
@@ -26,7 +26,15 @@ public:
     CanvasPeer(Canvas& canvas, QWidget* parent);
 
 protected:
+    void sync() override;
     void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    bool pressed_ = false; // the canvas wants to hear how the press goes on
 };
 
 class PushButtonPeer : public Peer<QPushButton, PushButton> {
@@ -45,9 +53,9 @@ protected:
     void sync() override;
 };
 
-class TextAreaPeer : public Peer<QPlainTextEdit, TextArea> {
+class CheckBoxPeer : public Peer<QCheckBox, CheckBox> {
 public:
-    TextAreaPeer(TextArea& area, QWidget* parent);
+    CheckBoxPeer(CheckBox& box, QWidget* parent);
 
 protected:
     void sync() override;

@@ -7,6 +7,7 @@
 #include "platform/qt/event_guard.h"
 #include "platform/qt/listbox_peer.h"
 #include "platform/qt/pictures.h"
+#include "platform/qt/text_peers.h"
 #include "platform/qt/toolbar_peer.h"
 
 namespace tallyvane {
@@ -21,6 +22,8 @@ struct MakePeer {
     WidgetPeer* operator()(Canvas* canvas) const { return new CanvasPeer(*canvas, parent); }
     WidgetPeer* operator()(PushButton* button) const { return new PushButtonPeer(*button, parent); }
     WidgetPeer* operator()(BevelButton* button) const { return new BevelButtonPeer(*button, parent); }
+    WidgetPeer* operator()(CheckBox* box) const { return new CheckBoxPeer(*box, parent); }
+    WidgetPeer* operator()(TextField* field) const { return new TextFieldPeer(*field, parent); }
     WidgetPeer* operator()(TextArea* area) const { return new TextAreaPeer(*area, parent); }
     WidgetPeer* operator()(TabPanel* panel) const { return new TabPanelPeer(*panel, parent); }
     WidgetPeer* operator()(CalendarControl* calendar) const { return new CalendarPeer(*calendar, parent); }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QPlainTextEdit>
 #include <QTest>
 
 #include "platform/qt/event_guard.h"

@@ -1,0 +1,40 @@
+#include "platform/qt/key_names.h"
+
+#include <QKeyEvent>
+
+#include "platform/qt/convert.h"
+
+namespace tallyvane {
+
+std::string nameOf(const QKeyEvent& key) {
+    switch (key.key()) {
+    case Qt::Key_Backspace:
+        return Chr(8);
+    case Qt::Key_Tab:
+        return Chr(9);
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return Chr(13);
+    case Qt::Key_Escape:
+        return Chr(27);
+    case Qt::Key_Left:
+    case Qt::Key_Backtab: // back to where Tab came from
+        return Chr(28);
+    case Qt::Key_Right:
+        return Chr(29);
+    case Qt::Key_Up:
+        return Chr(30);
+    case Qt::Key_Down:
+        return Chr(31);
+    default:
+        return fromQt(key.text());
+    }
+}
+
+bool isShortcut(const QKeyEvent& key) {
+    if ((key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0)
+        return true;
+    return (key.modifiers() & Qt::ShiftModifier) != 0 && key.text().isEmpty() && key.key() != Qt::Key_Backtab;
+}
+
+} // namespace tallyvane

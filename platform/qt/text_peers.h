@@ -1,0 +1,34 @@
+/// Peers of the fields that the user writes in.
+#pragma once
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+
+#include "platform/qt/peer.h"
+#include "platform/text_controls.h"
+
+namespace tallyvane {
+
+class TextFieldPeer : public Peer<QLineEdit, TextField> {
+public:
+    TextFieldPeer(TextField& field, QWidget* parent);
+
+protected:
+    void sync() override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void tellText();
+};
+
+class TextAreaPeer : public Peer<QPlainTextEdit, TextArea, TextAreaObserver> {
+public:
+    TextAreaPeer(TextArea& area, QWidget* parent);
+
+    void replaceSelection(std::string_view text) override;
+
+protected:
+    void sync() override;
+};
+
+} // namespace tallyvane

@@ -1,0 +1,104 @@
+/// The fields that the user writes in. Places in a text are counted in characters, from 0.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "platform/control.h"
+#include "platform/text.h"
+
+namespace tallyvane {
+
+/// A field of one line, also the open cell of a list.
+class TextField : public Control {
+public:
+    const std::string& Text() const { return text_; }
+    /// Raises TextChange when the text differs.
+    void Text(std::string value) {
+        const bool differs = text_ != value;
+        set(text_, std::move(value));
+        if (differs && TextChange)
+            TextChange();
+    }
+    int SelStart() const { return selStart_; }
+    void SelStart(int value) { set(selStart_, value); }
+    int SelLength() const { return selLength_; }
+    void SelLength(int value) { set(selLength_, value); }
+
+    /// The text and the selection as the user has just made them: as Text, but no news for the observer, who brings it.
+    void userChanged(std::string text, int selStart, int selLength) {
+        const bool differs = text_ != text;
+        text_ = std::move(text);
+        selStart_ = selStart;
+        selLength_ = selLength;
+        if (differs && TextChange)
+            TextChange();
+    }
+
+    std::function<void()> Open;
+    /// A key; true when it was consumed. Control keys come as the characters 8, 9, 13, 27 to 31.
+    std::function<bool(const std::string& key)> KeyDown;
+    std::function<void()> TextChange;
+
+private:
+    std::string text_;
+    int selStart_ = 0;
+    int selLength_ = 0;
+};
+
+/// Shows a text area, and alone knows where the user's selection is.
+class TextAreaObserver : public ControlObserver {
+public:
+    /// Puts a text in place of the selection, as if the user had typed it.
+    virtual void replaceSelection(std::string_view text) = 0;
+};
+
+/// A field of many lines.
+class TextArea : public Control {
+public:
+    const std::string& Text() const { return text_; }
+    /// Line ends become EndOfLine. Raises TextChange when the text differs.
+    void Text(std::string_view value) {
+        std::string text = ReplaceLineEndings(value, EndOfLine);
+        if (text_ == text)
+            return;
+        set(text_, std::move(text));
+        raiseTextChange();
+    }
+    /// Puts a text in place of the user's selection; at the end when nobody shows the area.
+    void SelText(std::string_view value) {
+        if (area_ != nullptr)
+            area_->replaceSelection(value);
+        else
+            Text(text_ + std::string(value));
+    }
+    /// Words that no dictionary knows are marked, if there is a dictionary. Fixed once it is shown.
+    bool SpellChecking() const { return spellChecking_; }
+    void SpellChecking(bool value) { set(spellChecking_, value); }
+
+    /// The user has typed: as Text, but no news for the observer, who brings it.
+    void userTyped(std::string value) {
+        text_ = std::move(value);
+        raiseTextChange();
+    }
+
+    std::function<void()> TextChange;
+
+    void observe(TextAreaObserver* observer) {
+        Control::observe(observer);
+        area_ = observer;
+    }
+
+private:
+    void raiseTextChange() {
+        if (TextChange)
+            TextChange();
+    }
+
+    std::string text_;
+    bool spellChecking_ = false;
+    TextAreaObserver* area_ = nullptr;
+};
+
+} // namespace tallyvane
