@@ -20,4 +20,14 @@ std::optional<Headings> readHeadings() {
     return headings;
 }
 
+void saveHeadings(const Headings& headings) {
+    std::optional<TextOutputStream> stream =
+        DataFiles::createText(DataFiles::applicationFileToWrite(DataFiles::headings));
+    if (!stream)
+        return;
+    for (const std::string& heading : headings)
+        stream->WriteLine(heading);
+    stream->Close();
+}
+
 } // namespace tallyvane

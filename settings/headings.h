@@ -14,5 +14,7 @@ using Headings = std::array<std::string, 13>;
 const Headings& defaultHeadings();
 /// The headings as they were saved; a file that is too short gives empty ones for the rest. Nothing without a file.
 [[nodiscard]] std::optional<Headings> readHeadings();
+/// Writes the file, a heading a line. Nothing when it can't be had; throws IOException when the disk fails.
+void saveHeadings(const Headings& headings);
 
 } // namespace tallyvane

@@ -15,13 +15,15 @@ Window1* StartUpManager::primaryWindow = nullptr;
 
 namespace {
 
-/// Shows the one window of its kind; one that was closed is made anew.
+/// Shows the one window of its kind; one that was closed is made anew, and `join` ties it to the others.
 template <class W>
-W& showSingle(std::unique_ptr<W>& window) {
-    if (!window || !window->isOpen())
+void showSingle(
+    std::unique_ptr<W>& window, const std::function<void(W&)>& join = [](W&) {}) {
+    if (!window || !window->isOpen()) {
         window = std::make_unique<W>();
+        join(*window);
+    }
     window->Show();
-    return *window;
 }
 
 } // namespace
@@ -32,6 +34,7 @@ App::App() : menuBar(MenuBar1()) {
     menuBar.handlers = {
         {"FileQuit", [this] { FileQuit_Action(); }},
         {"FileAboutBrindlemarks", [this] { FileAboutBrindlemarks_Action(); }},
+        {"FilePreferences", [this] { FilePreferences_Action(); }},
         {"HelpUsersGuide", [this] { HelpUsersGuide_Action(); }},
         {"HelpSupportForum", [this] { HelpSupportForum_Action(); }},
     };
@@ -90,11 +93,22 @@ void App::bringUpMainWindow() {
         return;
     }
     auto window = std::make_unique<Window1>(toolbar_, menuBar);
+    joinWindows(*window);
     enableToolbar(*window);
     window->Open();
     window->Visible(false);
     window->Timer1.Mode(Timer::ModeSingle);
     window1_ = std::move(window); // only now: a table that could not be loaded must never be saved
+}
+
+void App::joinWindows(Window1& window) {
+    window.showHeadingsEditor = [this] { showHeadingsEditor(); };
+}
+
+void App::showHeadingsEditor() {
+    showSingle<EditHeadings>(headings_, [this](EditHeadings& editor) {
+        editor.showHeadings = [this](const Headings& headings) { window1_->showHeadings(headings); };
+    });
 }
 
 /// A button whose window there is none of is off rather than dead.
@@ -166,6 +180,15 @@ void App::FileQuit_Action() {
 }
 
 void App::FileAboutBrindlemarks_Action() { showSingle(about_); }
+
+void App::FilePreferences_Action() {
+    showSingle<PrefsWindow>(prefs_, [this](PrefsWindow& prefs) {
+        prefs.startIndicatorTimer = [this] {
+            if (window1_)
+                window1_->Timer1.Mode(Timer::ModeSingle);
+        };
+    });
+}
 
 void App::HelpUsersGuide_Action() { ShowURL(TALLYVANE_GUIDE_URL); }
 

@@ -8,6 +8,8 @@
 #include "platform/folder_item.h"
 #include "platform/menus.h"
 #include "platform/system_files.h"
+#include "settings/edit_headings.h"
+#include "settings/prefs_window.h"
 #include "shell/about_window.h"
 #include "shell/splash_window.h"
 #include "shell/toolbar1.h"
@@ -41,6 +43,7 @@ public:
     void HelpUsersGuide_Action();
     void HelpSupportForum_Action();
     void FileAboutBrindlemarks_Action();
+    void FilePreferences_Action();
     void FileQuit_Action();
 
     /// Runs an event to its end, or to the catch-all. Every event of the program comes this way.
@@ -52,6 +55,8 @@ public:
     Window1* window1() { return window1_.get(); }
     SplashWindow* splashWindow() { return splash_.get(); }
     AboutWindow* aboutWindow() { return about_.get(); }
+    PrefsWindow* prefsWindow() { return prefs_.get(); }
+    EditHeadings* editHeadings() { return headings_.get(); }
     MenuBar menuBar;
 
 private:
@@ -59,7 +64,9 @@ private:
     void bringUpMainWindow();
     void tellMissingDataFolder();
     void giveWay();
+    void joinWindows(Window1& window);
     void enableToolbar(const Window1& window);
+    void showHeadingsEditor();
 
     Toolbar1 toolbar_;
     bool showingException_ = false;
@@ -67,6 +74,8 @@ private:
     std::unique_ptr<Window1> window1_;
     std::unique_ptr<SplashWindow> splash_;
     std::unique_ptr<AboutWindow> about_;
+    std::unique_ptr<PrefsWindow> prefs_;
+    std::unique_ptr<EditHeadings> headings_;
 };
 
 } // namespace tallyvane

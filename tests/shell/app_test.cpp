@@ -199,7 +199,7 @@ TEST_F(AppTest, AFolderThatTakesNoFilesIsBorneInSilence) {
 TEST_F(AppTest, MenuItemsAnswerOrAreOff) {
     App app;
     app.Event_Open();
-    const std::vector<std::string> everywhere{"FileQuit", "FileAboutBrindlemarks", "HelpUsersGuide",
+    const std::vector<std::string> everywhere{"FileQuit", "FileAboutBrindlemarks", "FilePreferences", "HelpUsersGuide",
                                               "HelpSupportForum"};
     EXPECT_EQ(enabledItems(app, nullptr), everywhere);
     EXPECT_EQ(enabledItems(app, app.window1()), everywhere);

@@ -1,0 +1,124 @@
+#include "settings/prefs_window.h"
+
+#include "platform/number.h"
+#include "platform/text.h"
+#include "platform/toolkit.h"
+#include "settings/globals.h"
+#include "settings/prefs_module.h"
+
+namespace tallyvane {
+
+namespace {
+
+constexpr std::array<double*, 4> limits{&Globals::gOver, &Globals::gCaution, &Globals::gLow, &Globals::gUnder};
+
+constexpr int zoneTop(int zone) { return 122 + 56 * zone; }
+constexpr Rect zoneMark(int zone) { return {56, zoneTop(zone) + 6, 15, 15}; }
+constexpr Rect zoneName(int zone) { return {82, zoneTop(zone), 150, 26}; }
+constexpr Rect limitField(int limit) { return {240, zoneTop(limit) + 27, 90, 28}; }
+
+} // namespace
+
+PrefsWindow::PrefsWindow() {
+    shape(Kind::fixed, 440, 500);
+    Title("Preferences");
+    place({
+        {&TabPanel1, {12, 12, 416, 436}},
+        {&StaticText1, {28, 50, 384, 40}, lockLeft | lockTop, &TabPanel1, 0},
+        {&CheckBox1, {28, 92, 384, 26}, lockLeft | lockTop, &TabPanel1, 0},
+        {&Canvas1, zoneMark(0), lockLeft | lockTop, &TabPanel1, 0},
+        {&StaticText2, zoneName(0), lockLeft | lockTop, &TabPanel1, 0},
+        {&EditField1, limitField(0), lockLeft | lockTop, &TabPanel1, 0},
+        {&Canvas2, zoneMark(1), lockLeft | lockTop, &TabPanel1, 0},
+        {&StaticText3, zoneName(1), lockLeft | lockTop, &TabPanel1, 0},
+        {&EditField2, limitField(1), lockLeft | lockTop, &TabPanel1, 0},
+        {&Canvas3, zoneMark(2), lockLeft | lockTop, &TabPanel1, 0},
+        {&StaticText4, zoneName(2), lockLeft | lockTop, &TabPanel1, 0},
+        {&EditField3, limitField(2), lockLeft | lockTop, &TabPanel1, 0},
+        {&Canvas4, zoneMark(3), lockLeft | lockTop, &TabPanel1, 0},
+        {&StaticText5, zoneName(3), lockLeft | lockTop, &TabPanel1, 0},
+        {&EditField4, limitField(3), lockLeft | lockTop, &TabPanel1, 0},
+        {&Canvas5, zoneMark(4), lockLeft | lockTop, &TabPanel1, 0},
+        {&StaticText6, zoneName(4), lockLeft | lockTop, &TabPanel1, 0},
+        {&StaticText7, {28, 404, 384, 26}, lockLeft | lockTop, &TabPanel1, 0},
+        {&PushButton1, {318, 458, 110, 30}},
+        {&Timer1},
+    });
+    build();
+    wire();
+}
+
+void PrefsWindow::build() {
+    TabPanel1.Captions({"Test Result Indicators"});
+    StaticText1.Text("Enter the limits for each blood glucose level. You can use either mmol/L or mg/dL");
+    StaticText1.Multiline(true);
+    CheckBox1.Caption("Show Indicator Lights");
+    const std::array<Canvas*, 5> marks{&Canvas1, &Canvas2, &Canvas3, &Canvas4, &Canvas5};
+    const std::array<StaticText*, 5> names{&StaticText2, &StaticText3, &StaticText4, &StaticText5, &StaticText6};
+    const std::array<const char*, 5> pictures{"over2.tiff", "caution2.tiff", "zone2.tiff", "low3.tiff", "under3.tiff"};
+    const std::array<const char*, 5> zones{"Too High", "High", "Target Zone", "Low", "Too Low"};
+    for (std::size_t i = 0; i < zones.size(); ++i) {
+        marks[i]->Backdrop(Picture(pictures[i]));
+        names[i]->Text(zones[i]);
+    }
+    const std::array<const char*, 4> built{"13.0", "9.0", "5.0", "3.0"};
+    for (std::size_t i = 0; i < built.size(); ++i) {
+        fields()[i]->Text(built[i]);
+        fields()[i]->AccessibleName(std::string("Limit between ") + zones[i] + " and " + zones[i + 1]);
+    }
+    StaticText7.Text("mmol/L or mg/dL");
+    StaticText7.Align(TextAlign::center);
+    PushButton1.Caption("OK");
+    PushButton1.Default(true);
+    Timer1.Period(100);
+}
+
+void PrefsWindow::wire() {
+    for (std::size_t i = 0; i < fields().size(); ++i) {
+        fields()[i]->Open = [this, i] { EditField_Open(i); };
+        fields()[i]->KeyDown = [this](const std::string& key) { return EditField_KeyDown(key); };
+        fields()[i]->TextChange = [this, i] { EditField_TextChange(i); };
+    }
+    CheckBox1.Open = [this] { CheckBox1_Open(); };
+    CheckBox1.Action = [this] { CheckBox1_Action(); };
+    PushButton1.Action = [this] { PushButton1_Action(); };
+    Timer1.Action = [this] { Timer1_Action(); };
+}
+
+void PrefsWindow::Event_Close() { PrefsModule::savePrefs(); }
+
+void PrefsWindow::EditField_Open(std::size_t field) { fields()[field]->Text(Str(*limits[field])); }
+
+/// Takes figures, the point and the backspace key. Any other key is refused.
+bool PrefsWindow::EditField_KeyDown(const std::string& key) {
+    if (InStr(".0123456789", key) > 0 || key == Chr(8))
+        return false;
+    Beep();
+    return true;
+}
+
+void PrefsWindow::EditField_TextChange(std::size_t field) {
+    *limits[field] = Val(fields()[field]->Text());
+    lightsChanged();
+}
+
+void PrefsWindow::CheckBox1_Open() { CheckBox1.Value(Globals::gShowIndicators); }
+
+void PrefsWindow::CheckBox1_Action() {
+    Globals::gShowIndicators = CheckBox1.Value();
+    lightsChanged();
+}
+
+void PrefsWindow::lightsChanged() {
+    if (startIndicatorTimer)
+        startIndicatorTimer();
+}
+
+void PrefsWindow::PushButton1_Action() { Timer1.Mode(Timer::ModeSingle); }
+
+void PrefsWindow::Timer1_Action() {
+    PrefsModule::savePrefs();
+    Close();
+}
+
+} // namespace tallyvane

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <array>
+#include <functional>
+
+#include "platform/window.h"
+
+namespace tallyvane {
+
+/// The dialog of the four personal limits and the switch of the lights. Every key takes effect at once and stays; there
+/// is no way back but typing.
+class PrefsWindow : public Window {
+public:
+    PrefsWindow();
+
+    TabPanel TabPanel1; // one page: "Test Result Indicators"
+    StaticText StaticText1; // what to do
+    CheckBox CheckBox1; // Show Indicator Lights
+    // From above: a zone, then the limit between it and the next
+    Canvas Canvas1, Canvas2, Canvas3, Canvas4, Canvas5;
+    StaticText StaticText2, StaticText3, StaticText4, StaticText5, StaticText6;
+    TextField EditField1, EditField2, EditField3, EditField4;
+    StaticText StaticText7; // the units
+    PushButton PushButton1; // OK
+    Timer Timer1; // saves and closes
+
+    /// Has the main window show its lights anew, shortly after.
+    std::function<void()> startIndicatorTimer;
+
+    /// Throws IOException when the disk fails, and stays open.
+    void Event_Close() override;
+
+    void EditField_Open(std::size_t field);
+    bool EditField_KeyDown(const std::string& key);
+    void EditField_TextChange(std::size_t field);
+    void CheckBox1_Open();
+    void CheckBox1_Action();
+    void PushButton1_Action();
+    void Timer1_Action();
+
+private:
+    std::array<TextField*, 4> fields() { return {&EditField1, &EditField2, &EditField3, &EditField4}; }
+    void build();
+    void wire();
+    void lightsChanged();
+};
+
+} // namespace tallyvane
