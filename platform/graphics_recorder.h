@@ -52,6 +52,7 @@ class RecordedBitmap : public Bitmap {
 public:
     RecordedBitmap(int width, int height) : surface_(width, height) {}
     GraphicsRecorder& surface() override { return surface_; }
+    void changePixels(const std::function<Pixel(Pixel)>& /*change*/) override {}
 
 private:
     GraphicsRecorder surface_;

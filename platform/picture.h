@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cassert>
+#include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -11,6 +13,16 @@ namespace tallyvane {
 
 class Graphics;
 
+/// One pixel of a bitmap, its colour not weakened by its alpha: 0 is clear, 255 covers all.
+struct Pixel {
+    std::uint8_t red = 0;
+    std::uint8_t green = 0;
+    std::uint8_t blue = 0;
+    std::uint8_t alpha = 0;
+
+    bool operator==(const Pixel&) const = default;
+};
+
 /// Pixels and the surface that draws on them. The toolkit in force makes them; at first they are clear.
 class Bitmap {
 public:
@@ -20,6 +32,8 @@ public:
     virtual ~Bitmap() = default;
 
     virtual Graphics& surface() = 0;
+    /// Puts `change` of a pixel in place of each pixel.
+    virtual void changePixels(const std::function<Pixel(Pixel)>& change) = 0;
 };
 
 /// A picture as a value, of one of three kinds: one of the program's own, by the name of its file among the resources

@@ -22,4 +22,15 @@ QImage clearPixels(int width, int height, double scale) {
 QtBitmap::QtBitmap(int width, int height, double scale)
     : image_(clearPixels(width, height, scale)), painter_(&image_), surface_(painter_, QRect(0, 0, width, height)) {}
 
+void QtBitmap::changePixels(const std::function<Pixel(Pixel)>& change) {
+    const auto channel = [](int value) { return static_cast<std::uint8_t>(value); };
+    for (int y = 0; y < image_.height(); ++y)
+        for (int x = 0; x < image_.width(); ++x) {
+            const QColor color = image_.pixelColor(x, y);
+            const Pixel pixel =
+                change({channel(color.red()), channel(color.green()), channel(color.blue()), channel(color.alpha())});
+            image_.setPixelColor(x, y, QColor(pixel.red, pixel.green, pixel.blue, pixel.alpha));
+        }
+}
+
 } // namespace tallyvane

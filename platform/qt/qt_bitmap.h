@@ -13,6 +13,7 @@ public:
     QtBitmap(int width, int height, double scale);
 
     PainterGraphics& surface() override { return surface_; }
+    void changePixels(const std::function<Pixel(Pixel)>& change) override;
     const QImage& image() const { return image_; }
 
 private:
