@@ -142,6 +142,7 @@ Date readClock() {
 
 std::string isoText(const Date& date, DateSource::Form form) {
     switch (form) {
+    case DateSource::Form::abbreviatedDate:
     case DateSource::Form::longDate:
         return padded(date.Year(), 4) + '-' + padded(date.Month(), 2) + '-' + padded(date.Day(), 2);
     case DateSource::Form::shortTime:
@@ -203,6 +204,7 @@ std::string Date::ShortDate() const {
     return text;
 }
 
+std::string Date::AbbreviatedDate() const { return DateSource::text(*this, DateSource::Form::abbreviatedDate); }
 std::string Date::LongDate() const { return DateSource::text(*this, DateSource::Form::longDate); }
 std::string Date::ShortTime() const { return DateSource::text(*this, DateSource::Form::shortTime); }
 std::string Date::LongTime() const { return DateSource::text(*this, DateSource::Form::longTime); }

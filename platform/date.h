@@ -30,6 +30,7 @@ public:
     /// The date in the locale's short form, the year in four digits: "11/22/2026".
     std::string ShortDate() const;
     // The other forms of the locale; without one ISO: "2026-11-22", "14:05", "14:05:09"
+    std::string AbbreviatedDate() const;
     std::string LongDate() const;
     std::string ShortTime() const;
     std::string LongTime() const;
@@ -62,7 +63,7 @@ extern std::function<Date()> now;
 /// apostrophes too. A pattern that is not one day, one month and one year in figures gives "yyyy-MM-dd".
 void setShortPattern(std::string_view pattern);
 /// The forms of a date that are only read by people, never back by the program.
-enum class Form { longDate, shortTime, longTime };
+enum class Form { abbreviatedDate, longDate, shortTime, longTime };
 /// The text of a moment in such a form of the locale.
 extern std::function<std::string(const Date&, Form)> text;
 } // namespace DateSource

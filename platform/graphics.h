@@ -52,6 +52,9 @@ public:
     /// Draws a shape, its position moved by x, y.
     virtual void DrawObject(const Object2D& shape, double x, double y) = 0;
 
+    /// Goes on to a new sheet of paper. A screen has none.
+    virtual void NextPage() {}
+
 private:
     Color foreColor_ = RGB(0, 0, 0);
     double penWidth_ = 1;

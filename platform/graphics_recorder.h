@@ -38,6 +38,7 @@ public:
     void DrawString(std::string_view text, double x, double y) override;
     void DrawPicture(const Picture& picture, double x, double y) override;
     void DrawObject(const Object2D& shape, double x, double y) override;
+    void NextPage() override { calls_.push_back({"NextPage"}); }
 
     const std::vector<Call>& calls() const { return calls_; }
 

@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 
+#include "platform/dialogs.h"
 #include "platform/picture.h"
 #include "platform/window.h"
 
@@ -27,6 +28,11 @@ public:
     /// A modal message with one button; returns when the user has pressed it.
     virtual void message(const std::string& text) = 0;
     virtual void beep() = 0;
+    /// The absolute path that the user chose; "" when the dialog was cancelled.
+    virtual std::string askWhereToSave(const SaveAsDialog& dialog) = 0;
+    virtual std::string askForFile(const OpenDialog& dialog) = 0;
+    /// The pages to print on, after the print dialog; nil when that was cancelled.
+    virtual std::unique_ptr<Graphics> openPrinterDialog() = 0;
     /// Hands an address to the desktop's default program for it.
     virtual void openUrl(const std::string& address) = 0;
     /// Ends the event loop with that exit code.

@@ -18,7 +18,8 @@ QColor mixed(QColor a, QColor b) {
 
 } // namespace
 
-PainterGraphics::PainterGraphics(QPainter& painter, const QRect& area) : painter_(painter), area_(area) {
+PainterGraphics::PainterGraphics(QPainter& painter, QPaintDevice& device, const QRect& area)
+    : painter_(painter), area_(area), font_(device) {
     painter_.save();
     painter_.setClipRect(area, Qt::IntersectClip);
     painter_.translate(area.topLeft());

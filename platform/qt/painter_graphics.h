@@ -14,7 +14,9 @@ namespace tallyvane {
 /// moved and cut. The painter is as it was when the surface goes.
 class PainterGraphics : public Graphics {
 public:
-    PainterGraphics(QPainter& painter, const QRect& area);
+    PainterGraphics(QPainter& painter, const QRect& area) : PainterGraphics(painter, *painter.device(), area) {}
+    /// For a painter that may not have begun on its device; nothing is drawn then.
+    PainterGraphics(QPainter& painter, QPaintDevice& device, const QRect& area);
     ~PainterGraphics() override;
 
     double Width() const override { return area_.width(); }
@@ -41,7 +43,7 @@ private:
     QPainter& painter_;
     QRect area_;
     std::optional<QColor> tint_;
-    mutable FontInUse font_{*painter_.device()};
+    mutable FontInUse font_;
 };
 
 } // namespace tallyvane

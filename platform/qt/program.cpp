@@ -40,6 +40,10 @@ void settleDateForm() {
     DateSource::text = [locale, timeZone](const Date& date, DateSource::Form form) {
         const QTime time(date.Hour(), date.Minute(), date.Second());
         switch (form) {
+        case DateSource::Form::abbreviatedDate:
+            return fromQt(locale.toString(toQt(date), locale.dateFormat()
+                                                          .replace(QStringLiteral("dddd"), QStringLiteral("ddd"))
+                                                          .replace(QStringLiteral("MMMM"), QStringLiteral("MMM"))));
         case DateSource::Form::longDate:
             return fromQt(locale.toString(toQt(date), QLocale::LongFormat));
         case DateSource::Form::shortTime:

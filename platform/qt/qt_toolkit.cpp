@@ -2,12 +2,16 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QDir>
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QPointer>
+#include <QPrintDialog>
 #include <QScreen>
 #include <QUrl>
 
 #include "platform/qt/convert.h"
+#include "platform/qt/print_job.h"
 #include "platform/qt/qt_bitmap.h"
 #include "platform/qt/window_peer.h"
 
@@ -23,6 +27,13 @@ WindowFrame* frameOf(const Window* window) {
             return frame;
     }
     return nullptr;
+}
+
+/// Shows the dialog. The path is that of the disk, byte for byte; "" when the user cancelled.
+std::string chosenPath(QFileDialog& dialog) {
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return {};
+    return QFile::encodeName(dialog.selectedFiles().first()).toStdString();
 }
 
 Window* windowInFront() {
@@ -63,6 +74,30 @@ void QtToolkit::message(const std::string& text) {
 }
 
 void QtToolkit::beep() { QApplication::beep(); }
+
+std::string QtToolkit::askWhereToSave(const SaveAsDialog& dialog) {
+    QFileDialog chooser(QApplication::activeWindow(), toQt(dialog.Title), QDir::homePath());
+    chooser.setAcceptMode(QFileDialog::AcceptSave);
+    chooser.setLabelText(QFileDialog::FileName, toQt(dialog.PromptText));
+    chooser.selectFile(toQt(dialog.SuggestedFileName));
+    return chosenPath(chooser);
+}
+
+std::string QtToolkit::askForFile(const OpenDialog& dialog) {
+    QFileDialog chooser(QApplication::activeWindow(), toQt(dialog.Title), QDir::homePath());
+    chooser.setFileMode(QFileDialog::ExistingFile);
+    return chosenPath(chooser);
+}
+
+std::unique_ptr<Graphics> QtToolkit::openPrinterDialog() {
+    constexpr double quarterInch = 18; // points
+    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    printer->setPageMargins(QMarginsF(quarterInch, quarterInch, quarterInch, quarterInch), QPageLayout::Point);
+    QPrintDialog dialog(printer.get(), QApplication::activeWindow());
+    if (dialog.exec() != QDialog::Accepted)
+        return nullptr;
+    return PrintJob::begin(std::move(printer));
+}
 
 void QtToolkit::openUrl(const std::string& address) { QDesktopServices::openUrl(QUrl(toQt(address))); }
 

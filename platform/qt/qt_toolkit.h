@@ -15,6 +15,9 @@ public:
     std::shared_ptr<Bitmap> makeBitmap(int width, int height) override;
     void message(const std::string& text) override;
     void beep() override;
+    std::string askWhereToSave(const SaveAsDialog& dialog) override;
+    std::string askForFile(const OpenDialog& dialog) override;
+    std::unique_ptr<Graphics> openPrinterDialog() override;
     void openUrl(const std::string& address) override;
     void quit(int code) override;
 

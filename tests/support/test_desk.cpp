@@ -9,6 +9,24 @@
 
 namespace tallyvane {
 
+namespace {
+
+/// Pages that hand over what was drawn on them when they are done.
+class RecordedPages : public GraphicsRecorder {
+public:
+    explicit RecordedPages(std::vector<Call>& printed) : GraphicsRecorder(576, 756), printed_(printed) {}
+    ~RecordedPages() override { printed_ = calls(); }
+
+private:
+    std::vector<Call>& printed_;
+};
+
+} // namespace
+
+std::unique_ptr<Graphics> RecordingToolkit::openPrinterDialog() {
+    return printerReady ? std::make_unique<RecordedPages>(printed) : nullptr;
+}
+
 void TestDesk::SetUp() {
     std::string pattern = (std::filesystem::temp_directory_path() / ("tallyvane-test-" + std::string(6, 'X'))).string();
     folder_ = ::mkdtemp(pattern.data());

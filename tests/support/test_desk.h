@@ -26,12 +26,25 @@ public:
     }
     void message(const std::string& text) override { messages.push_back(text); }
     void beep() override { ++beeps; }
+    std::string askWhereToSave(const SaveAsDialog& dialog) override {
+        dialogs.push_back(dialog.Title + "|" + dialog.PromptText + "|" + dialog.SuggestedFileName);
+        return answer;
+    }
+    std::string askForFile(const OpenDialog& dialog) override {
+        dialogs.push_back(dialog.Title);
+        return answer;
+    }
+    std::unique_ptr<Graphics> openPrinterDialog() override;
     void openUrl(const std::string& address) override { addresses.push_back(address); }
     void quit(int code) override { quits.push_back(code); }
 
     std::vector<std::string> messages;
     std::vector<std::string> addresses;
     std::vector<int> quits;
+    std::vector<std::string> dialogs;
+    std::string answer; // the path that the user chooses; "" cancels
+    bool printerReady = true; // false: the user cancels the print dialog
+    std::vector<GraphicsRecorder::Call> printed; // on all pages
     int beeps = 0;
 };
 

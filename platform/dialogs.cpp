@@ -1,0 +1,17 @@
+#include "platform/dialogs.h"
+
+#include "platform/toolkit.h"
+
+namespace tallyvane {
+
+std::optional<FolderItem> SaveAsDialog::ShowModal() const {
+    Toolkit* toolkit = Toolkit::inForce();
+    return toolkit == nullptr ? std::nullopt : GetFolderItem(toolkit->askWhereToSave(*this));
+}
+
+std::optional<FolderItem> OpenDialog::ShowModal() const {
+    Toolkit* toolkit = Toolkit::inForce();
+    return toolkit == nullptr ? std::nullopt : GetFolderItem(toolkit->askForFile(*this));
+}
+
+} // namespace tallyvane

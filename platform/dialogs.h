@@ -1,0 +1,29 @@
+/// The dialogs that ask for a file.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "platform/folder_item.h"
+
+namespace tallyvane {
+
+/// Asks where to save. The user is asked before a file that exists is replaced.
+struct SaveAsDialog {
+    std::string Title;
+    std::string PromptText;
+    std::string SuggestedFileName;
+
+    /// Nil when the user cancelled.
+    [[nodiscard]] std::optional<FolderItem> ShowModal() const;
+};
+
+/// Asks for a file that exists.
+struct OpenDialog {
+    std::string Title;
+
+    /// Nil when the user cancelled.
+    [[nodiscard]] std::optional<FolderItem> ShowModal() const;
+};
+
+} // namespace tallyvane

@@ -1,0 +1,34 @@
+#include "platform/text_output.h"
+
+#include "platform/printing.h"
+#include "platform/text_streams.h"
+
+namespace tallyvane {
+
+void printText(const std::string& text) {
+    constexpr double left = 50;
+    constexpr double top = 50;
+    constexpr double blockHeight = 648;
+    const std::unique_ptr<Graphics> g = OpenPrinterDialog();
+    if (!g)
+        return;
+    StyledTextPrinter printer(*g, text, 540);
+    printer.Width(475);
+    while (!printer.EndOfText()) {
+        printer.DrawBlock(left, top, blockHeight);
+        if (!printer.EndOfText())
+            g->NextPage();
+    }
+}
+
+void saveText(const std::string& text, const SaveAsDialog& dialog) {
+    const std::optional<FolderItem> file = dialog.ShowModal();
+    if (!file)
+        return;
+    if (std::optional<TextOutputStream> stream = TextOutputStream::Create(*file)) {
+        stream->Write(text);
+        stream->Close();
+    }
+}
+
+} // namespace tallyvane

@@ -1,0 +1,61 @@
+#include "platform/qt/print_job.h"
+
+#include <gtest/gtest.h>
+
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <algorithm>
+
+#include "platform/printing.h"
+
+namespace tallyvane {
+
+namespace {
+
+std::unique_ptr<QPrinter> printerTo(const QString& file) {
+    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    printer->setOutputFileName(file);
+    printer->setPageSize(QPageSize(QPageSize::Letter));
+    printer->setPageMargins(QMarginsF(18, 18, 18, 18), QPageLayout::Point);
+    return printer;
+}
+
+std::string textOf(const QString& pdf) {
+    QProcess reader;
+    reader.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), pdf, QStringLiteral("-")});
+    reader.waitForFinished();
+    return reader.readAllStandardOutput().toStdString();
+}
+
+TEST(PrintJob, AnythingPrintedIsTextInThePdf) {
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("journal.pdf"));
+    {
+        const std::unique_ptr<PrintJob> job = PrintJob::begin(printerTo(file));
+        ASSERT_NE(job, nullptr);
+        EXPECT_EQ(job->Width(), 612 - 36) << "the printable area in points";
+        EXPECT_EQ(job->Height(), 792 - 36);
+        std::string text;
+        for (int line = 1; line <= 120; ++line)
+            text += "line " + std::to_string(line) + " of the journal\n";
+        StyledTextPrinter printer(*job, text, 475);
+        while (!printer.EndOfText()) {
+            printer.DrawBlock(50, 50, 648);
+            if (!printer.EndOfText())
+                job->NextPage();
+        }
+    }
+    const std::string text = textOf(file);
+    for (const int line : {1, 50, 120})
+        EXPECT_NE(text.find("line " + std::to_string(line) + " of the journal\n"), std::string::npos) << line;
+    EXPECT_EQ(std::count(text.begin(), text.end(), '\f'), 3) << "pages";
+}
+
+TEST(PrintJob, APrinterThatTakesNothingGivesNoPages) {
+    EXPECT_EQ(PrintJob::begin(printerTo(QStringLiteral("/proc/no such folder/journal.pdf"))), nullptr);
+}
+
+} // namespace
+
+} // namespace tallyvane
