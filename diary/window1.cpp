@@ -4,6 +4,7 @@
 
 #include "diary/cell_navigation.h"
 #include "diary/date_window.h"
+#include "diary/day_details.h"
 #include "diary/day_table.h"
 #include "diary/indicators.h"
 #include "diary/running_logs.h"
@@ -11,6 +12,7 @@
 #include "diary/window_data.h"
 #include "platform/number.h"
 #include "platform/system_files.h"
+#include "platform/text_output.h"
 #include "platform/toolkit.h"
 #include "settings/globals.h"
 
@@ -64,6 +66,15 @@ void Window1::saveLogs() { RunningLogs::save(); }
 
 void Window1::getLogs() {
     RunningLogs::load([this](const std::string& journal) { JournalFld.Text(journal); });
+}
+
+void Window1::getDetails(int row) {
+    const std::optional<Date> day = ParseDate(ListBox1.Cell(row, DayTable::dateColumn));
+    const DayDetails details = day ? DayDetails::of(*day) : DayDetails();
+    theMeds = details.medications;
+    theExercises = details.exercise;
+    theFoods = details.food;
+    medLines = details.medicationLines;
 }
 
 void Window1::saveWindowData() { WindowData::save({Left(), Top(), Width(), Height()}); }
@@ -184,6 +195,18 @@ void Window1::BevelButton2_Action() {
 void Window1::CalendarControl1_DayDoubleClicked() { addDay(); }
 
 void Window1::JournalFld_TextChange() { Globals::gJournal = JournalFld.Text(); }
+
+void Window1::AutoButton13_Action() { JournalFld.SelText(Date().AbbreviatedDate()); }
+
+void Window1::AutoButton14_Action() { PrintLog(JournalFld); }
+
+void Window1::AutoButton15_Action() { SaveJournalToDisk(JournalFld, "Save Journal"); }
+
+void Window1::PrintLog(const TextArea& field) { printText(field.Text()); }
+
+void Window1::SaveJournalToDisk(const TextArea& field, const std::string& prompt) {
+    saveText(field.Text(), {"Save", prompt, &field == &JournalFld ? "Tallyvane Journal" : "untitled"});
+}
 
 void Window1::Timer1_Action() {
     for (Canvas* light : stripLights())

@@ -6,6 +6,7 @@
 
 #include "diary/averages.h"
 #include "platform/window.h"
+#include "records/auto_button/auto_button.h"
 #include "settings/headings.h"
 
 namespace tallyvane {
@@ -35,9 +36,15 @@ public:
     CalendarControl CalendarControl1;
     TabPanel TabPanel1;
     TextArea JournalFld;
-    Canvas AutoButton13, AutoButton14, AutoButton15; // date, print, save
+    AutoButton AutoButton13, AutoButton14, AutoButton15; // date, print, save
     Toolbar& Toolbar11;
     Timer Timer1; // applies the indicator switch
+
+    /// Details of one day, as getDetails left them.
+    std::string theMeds;
+    std::string theExercises;
+    std::string theFoods;
+    int medLines = 0;
 
     /// Calls upward, to windows of other rooms. The shell sets those that there are.
     std::function<void()> showResources;
@@ -61,6 +68,8 @@ public:
     void getData();
     void saveLogs();
     void getLogs();
+    /// Reads the details of a row's day into the four properties; they are empty for a day without any.
+    void getDetails(int row);
     void saveWindowData();
     void getWindowData();
     void getHeadings();
@@ -86,6 +95,11 @@ public:
     void BevelButton2_Action();
     void CalendarControl1_DayDoubleClicked();
     void JournalFld_TextChange();
+    void AutoButton13_Action();
+    void AutoButton14_Action();
+    void AutoButton15_Action();
+    void PrintLog(const TextArea& field);
+    void SaveJournalToDisk(const TextArea& field, const std::string& prompt);
     void Toolbar11_Action(const ToolItem& item);
     void Timer1_Action();
 

@@ -134,8 +134,9 @@ void Window1::build() {
     AutoButton14.HelpTag("Print journal");
     AutoButton15.Backdrop(Picture("download_pagepng_32x32.png"));
     AutoButton15.HelpTag("Save journal");
-    for (Canvas* button : {&AutoButton13, &AutoButton14, &AutoButton15})
-        button->Enabled(false);
+    for (AutoButton* button : {&AutoButton13, &AutoButton14, &AutoButton15})
+        button->AccessibleName(button->HelpTag());
+    JournalFld.SpellChecking(true);
     Timer1.Period(50);
 }
 
@@ -164,6 +165,9 @@ void Window1::wire() {
     BevelButton1.Action = [this] { BevelButton1_Action(); };
     BevelButton2.Action = [this] { BevelButton2_Action(); };
     CalendarControl1.DayDoubleClicked = [this] { CalendarControl1_DayDoubleClicked(); };
+    AutoButton13.Action = [this] { AutoButton13_Action(); };
+    AutoButton14.Action = [this] { AutoButton14_Action(); };
+    AutoButton15.Action = [this] { AutoButton15_Action(); };
     JournalFld.TextChange = [this] { JournalFld_TextChange(); };
     Toolbar11.Action = [this](const ToolItem& item) { Toolbar11_Action(item); };
     Timer1.Action = [this] { Timer1_Action(); };

@@ -10,6 +10,8 @@ namespace tallyvane::DataFiles {
 
 /// Between the fields of a line.
 inline constexpr std::string_view fieldSeparator = "@#@";
+/// Between the parts of a field, or of an entry in a list.
+inline constexpr std::string_view subfieldSeparator = "@@@";
 /// A line end inside a field.
 inline constexpr std::string_view lineEndMark = "$%$";
 
@@ -19,6 +21,11 @@ std::optional<FolderItem> applicationFolder();
 std::optional<FolderItem> applicationFile(std::string_view name);
 /// The same, with the folder made first where it is missing.
 std::optional<FolderItem> applicationFileToWrite(std::string_view name);
+/// A file of the folder of that same name inside the application's folder, where some windows keep theirs; nil when it
+/// does not exist.
+std::optional<FolderItem> innerFile(std::string_view name);
+/// The same, with both folders made first where they are missing.
+std::optional<FolderItem> innerFileToWrite(std::string_view name);
 /// A stream on a file that may be nil, missing or unreadable; all three give nil.
 std::optional<TextInputStream> openText(const std::optional<FolderItem>& file);
 /// A stream that replaces a file; nil for a nil file and for one that can't be opened.
@@ -31,5 +38,6 @@ inline constexpr std::string_view headings = "7VXHeadings";
 inline constexpr std::string_view runningLogs = "QVXLogData";
 inline constexpr std::string_view journal = "Tallyvane Journal";
 inline constexpr std::string_view windowData = "QVXWindowData";
+inline constexpr std::string_view details = "Details"; // a folder: a file for each day that has details
 
 } // namespace tallyvane::DataFiles

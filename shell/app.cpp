@@ -103,6 +103,7 @@ void App::bringUpMainWindow() {
 
 void App::joinWindows(Window1& window) {
     window.showHeadingsEditor = [this] { showHeadingsEditor(); };
+    window.showLogs = [this] { showSingle(logs_); };
 }
 
 void App::showHeadingsEditor() {

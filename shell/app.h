@@ -8,6 +8,7 @@
 #include "platform/folder_item.h"
 #include "platform/menus.h"
 #include "platform/system_files.h"
+#include "records/logs_window.h"
 #include "settings/edit_headings.h"
 #include "settings/prefs_window.h"
 #include "shell/about_window.h"
@@ -57,6 +58,7 @@ public:
     AboutWindow* aboutWindow() { return about_.get(); }
     PrefsWindow* prefsWindow() { return prefs_.get(); }
     EditHeadings* editHeadings() { return headings_.get(); }
+    logsWindow* logs() { return logs_.get(); }
     MenuBar menuBar;
 
 private:
@@ -76,6 +78,7 @@ private:
     std::unique_ptr<AboutWindow> about_;
     std::unique_ptr<PrefsWindow> prefs_;
     std::unique_ptr<EditHeadings> headings_;
+    std::unique_ptr<logsWindow> logs_;
 };
 
 } // namespace tallyvane

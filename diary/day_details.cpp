@@ -1,0 +1,42 @@
+#include "diary/day_details.h"
+
+#include "platform/text.h"
+#include "settings/data_files.h"
+
+namespace tallyvane {
+
+namespace {
+
+constexpr std::string_view endOfMedications = "endofmeds";
+constexpr std::string_view betweenTexts = "     ";
+
+std::string withLineEnds(std::string_view field) { return ReplaceAll(field, DataFiles::lineEndMark, EndOfLine); }
+
+} // namespace
+
+DayDetails DayDetails::of(const Date& day) {
+    DayDetails details;
+    const std::optional<FolderItem> folder = DataFiles::applicationFile(DataFiles::details);
+    std::optional<TextInputStream> stream = DataFiles::openText(folder ? folder->Child(day.ShortDate()) : std::nullopt);
+    if (!stream)
+        return details;
+    std::string_view line;
+    do {
+        line = stream->ReadLine();
+        if (line != endOfMedications) {
+            FieldWalk texts(line, DataFiles::subfieldSeparator);
+            details.medications += texts.next();
+            for (int i = 0; i < 2; ++i) {
+                details.medications += betweenTexts;
+                details.medications += texts.next();
+            }
+            details.medications += EndOfLine;
+        }
+        ++details.medicationLines;
+    } while (line != endOfMedications && !stream->EndOfFile());
+    details.food = withLineEnds(stream->ReadLine());
+    details.exercise = withLineEnds(stream->ReadLine());
+    return details;
+}
+
+} // namespace tallyvane

@@ -1,0 +1,92 @@
+#include "records/logs_window.h"
+
+#include "platform/text_output.h"
+#include "settings/data_files.h"
+#include "settings/globals.h"
+#include "settings/log_record.h"
+
+namespace tallyvane {
+
+namespace {
+
+constexpr unsigned lockAll = lockLeft | lockTop | lockRight | lockBottom;
+constexpr Rect fieldFrame{30, 108, 560, 330};
+
+} // namespace
+
+logsWindow::logsWindow() {
+    shape(Kind::document, 620, 510, 330, 32000);
+    Title("Logs");
+    place({
+        {&AutoButton1, {18, 14, 32, 32}},
+        {&AutoButton2, {62, 14, 32, 32}},
+        {&AutoButton3, {106, 14, 32, 32}},
+        {&TabPanel1, {16, 64, 588, 390}, lockAll},
+        {&FoodFld, fieldFrame, lockAll, &TabPanel1, 0},
+        {&ExerciseFld, fieldFrame, lockAll, &TabPanel1, 1},
+        {&MedicationFld, fieldFrame, lockAll, &TabPanel1, 2},
+        {&PushButton1, {498, 466, 106, 30}, lockLeft | lockBottom},
+    });
+    AutoButton1.Backdrop(Picture("calendarpng_32x32.png"));
+    AutoButton1.HelpTag("Add date to log");
+    AutoButton2.Backdrop(Picture("printItem3.png"));
+    AutoButton2.HelpTag("Print log");
+    AutoButton3.Backdrop(Picture("download_pagepng_32x32.png"));
+    AutoButton3.HelpTag("Save log");
+    for (AutoButton* button : {&AutoButton1, &AutoButton2, &AutoButton3})
+        button->AccessibleName(button->HelpTag());
+    TabPanel1.Captions({"Food", "Exercise", "Medication"});
+    for (const Page& page : pages()) {
+        page.field->AccessibleName(page.fileName);
+        page.field->TextChange = [page] { *page.log = page.field->Text(); };
+    }
+    PushButton1.Caption("OK");
+
+    AutoButton1.Action = [this] { AutoButton1_Action(); };
+    AutoButton2.Action = [this] { AutoButton2_Action(); };
+    AutoButton3.Action = [this] { AutoButton3_Action(); };
+    PushButton1.Action = [this] { PushButton1_Action(); };
+}
+
+std::array<logsWindow::Page, 3> logsWindow::pages() {
+    return {{
+        {&FoodFld, &Globals::gFood, "Tallyvane Food Log", "Save Food Log"},
+        {&ExerciseFld, &Globals::gExercise, "Tallyvane Exercise Log", "Save Exercise Log"},
+        {&MedicationFld, &Globals::gMedication, "Tallyvane Medication Log", "Save Medical Log"},
+    }};
+}
+
+void logsWindow::getLogs() {
+    std::optional<TextInputStream> stream = DataFiles::openText(DataFiles::innerFile(DataFiles::runningLogs));
+    if (!stream)
+        return;
+    const LogRecord record = readLogRecord(*stream);
+    Globals::gExercise = record.exercise;
+    ExerciseFld.Text(withLineEnds(record.exercise));
+    Globals::gFood = record.food;
+    FoodFld.Text(withLineEnds(record.food));
+    Globals::gMedication = record.medication;
+    MedicationFld.Text(withLineEnds(record.medication));
+}
+
+void logsWindow::saveLogs() {
+    std::optional<TextOutputStream> stream = DataFiles::createText(DataFiles::innerFileToWrite(DataFiles::runningLogs));
+    if (!stream)
+        return;
+    writeLogRecord(*stream);
+    stream->Close();
+}
+
+void logsWindow::saveToDisk(const TextArea& field, const std::string& prompt) {
+    saveText(field.Text(), {"Save", prompt, page().fileName});
+}
+
+void logsWindow::printLog(const TextArea& field) { printText(field.Text()); }
+
+void logsWindow::AutoButton1_Action() { page().field->SelText(Date().AbbreviatedDate()); }
+
+void logsWindow::AutoButton2_Action() { printLog(*page().field); }
+
+void logsWindow::AutoButton3_Action() { saveToDisk(*page().field, page().prompt); }
+
+} // namespace tallyvane

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <array>
+
+#include "platform/window.h"
+#include "records/auto_button/auto_button.h"
+
+namespace tallyvane {
+
+/// The running logs of food, exercise and medication, a page each, in a file of this window's own. Every way of closing
+/// saves.
+class logsWindow : public Window {
+public:
+    logsWindow();
+
+    AutoButton AutoButton1, AutoButton2, AutoButton3; // date, print, save
+    TabPanel TabPanel1;
+    TextArea FoodFld, ExerciseFld, MedicationFld;
+    PushButton PushButton1; // OK
+
+    void Event_Open() override { getLogs(); }
+    void Event_Close() override { saveLogs(); }
+
+    /// The texts of the last time, into fields and globals; without a file both stay. The journal is not this window's.
+    void getLogs();
+    void saveLogs();
+    void saveToDisk(const TextArea& field, const std::string& prompt);
+    void printLog(const TextArea& field);
+
+    void AutoButton1_Action();
+    void AutoButton2_Action();
+    void AutoButton3_Action();
+    void PushButton1_Action() { Close(); }
+
+private:
+    /// What belongs to a page of TabPanel1.
+    struct Page {
+        TextArea* field;
+        std::string* log;
+        const char* fileName; // suggested for saving
+        const char* prompt;
+    };
+    std::array<Page, 3> pages();
+    Page page() { return pages().at(static_cast<std::size_t>(TabPanel1.Value())); }
+};
+
+} // namespace tallyvane

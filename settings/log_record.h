@@ -1,0 +1,25 @@
+/// The record of the running logs: one line of four fields, with a mark for each line end inside them.
+#pragma once
+
+#include <string>
+
+#include "platform/text_streams.h"
+
+namespace tallyvane {
+
+/// The four logs as they stand in a record.
+struct LogRecord {
+    std::string exercise;
+    std::string food;
+    std::string journal;
+    std::string medication;
+};
+
+/// Reads a record; fields that it lacks are empty.
+LogRecord readLogRecord(TextInputStream& stream);
+/// Writes the record of the four globals.
+void writeLogRecord(TextOutputStream& stream);
+/// A field with real line ends.
+std::string withLineEnds(const std::string& field);
+
+} // namespace tallyvane
