@@ -20,4 +20,13 @@ private:
     const std::string* name_;
 };
 
+/// How letters are set off.
+struct TextStyle {
+    bool bold = false;
+    bool italic = false;
+    bool underline = false;
+
+    bool operator==(const TextStyle&) const = default;
+};
+
 } // namespace tallyvane

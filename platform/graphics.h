@@ -35,6 +35,10 @@ public:
     /// In the surface's units.
     float TextSize() const { return textSize_; }
     void TextSize(double size) { textSize_ = static_cast<float>(size); }
+    const TextStyle& Style() const { return style_; }
+    void Bold(bool on) { style_.bold = on; }
+    void Italic(bool on) { style_.italic = on; }
+    void Underline(bool on) { style_.underline = on; }
 
     // Measures of the font and size now set
     virtual double TextAscent() const = 0;
@@ -61,6 +65,7 @@ private:
     double penHeight_ = 1;
     FontName textFont_;
     float textSize_ = 12;
+    TextStyle style_;
 };
 
 } // namespace tallyvane

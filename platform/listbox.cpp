@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/number.h"
 #include "platform/text.h"
 
 namespace tallyvane {
@@ -30,7 +31,7 @@ void Listbox::Cell(int row, int column, std::string_view text) {
 }
 
 void Listbox::AddRow(std::string_view text) {
-    Row row{std::vector<std::string>(columns_.size()), ++lastRevision_, false};
+    Row row{std::vector<std::string>(columns_.size()), ++lastRevision_, false, nullptr};
     row.cells.front() = text;
     rows_.push_back(std::move(row));
     lastIndex_ = ListCount() - 1;
@@ -66,6 +67,58 @@ void Listbox::RemoveSelectedRows() {
     if (list_ != nullptr)
         list_->rowsReplaced();
     raiseChange();
+}
+
+void Listbox::DeleteAllRows() {
+    closeCell();
+    rows_.clear();
+    lastIndex_ = -1;
+    const bool wasSelected = selectedCount_ > 0;
+    selectedCount_ = 0;
+    if (list_ != nullptr)
+        list_->rowsReplaced();
+    if (wasSelected)
+        raiseChange();
+}
+
+int Listbox::WidthActual(int column) const {
+    const std::string field = NthField(columnWidths_, ",", column + 1);
+    constexpr int whole = 100; // percent
+    const double width = Val(field);
+    return static_cast<int>(field.ends_with('%') ? width * Width() / whole : width);
+}
+
+Listbox::RowLook& Listbox::lookOf(int row) {
+    std::unique_ptr<RowLook>& look = rows_[index(row)].look;
+    if (!look)
+        look = std::make_unique<RowLook>();
+    return *look;
+}
+
+TextStyle Listbox::CellStyle(int row, int column) const {
+    if (!contains(row, column) || !rows_[index(row)].look)
+        return {};
+    const auto& styles = rows_[index(row)].look->styles;
+    const auto found = styles.find(column);
+    return found == styles.end() ? TextStyle() : found->second;
+}
+
+void Listbox::CellStyle(int row, int column, TextStyle style) {
+    if (!contains(row, column))
+        return;
+    lookOf(row).styles[column] = style;
+    changed();
+}
+
+std::optional<Picture> Listbox::RowPicture(int row) const {
+    return contains(row, 0) && rows_[index(row)].look ? rows_[index(row)].look->picture : std::nullopt;
+}
+
+void Listbox::RowPicture(int row, Picture picture) {
+    if (!contains(row, 0))
+        return;
+    lookOf(row).picture = std::move(picture);
+    changed();
 }
 
 int Listbox::ListIndex() const {

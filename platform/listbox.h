@@ -2,6 +2,9 @@
 
 #include <cstdint>
 #include <functional>
+#include <map>
+#include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -40,9 +43,15 @@ public:
     // Columns
 
     int ColumnCount() const { return static_cast<int>(columns_.size()); }
-    /// Points of each column with "," between them. A column past the last width is not shown.
+    /// Points of each column, or parts of the list's width with "%", with "," between them. A column past the last
+    /// width is not shown.
     const std::string& ColumnWidths() const { return columnWidths_; }
     void ColumnWidths(std::string value) { set(columnWidths_, std::move(value)); }
+    /// Points of a column as the list was laid out; 0 for one that is not shown.
+    int WidthActual(int column) const;
+    /// Whether the headings are shown.
+    bool HasHeading() const { return hasHeading_; }
+    void HasHeading(bool value) { set(hasHeading_, value); }
     const std::string& Heading(int column) const { return columns_[index(column)].heading; }
     void Heading(int column, std::string text) { set(columns_[index(column)].heading, std::move(text)); }
     int ColumnType(int column) const { return columns_[index(column)].type; }
@@ -65,6 +74,13 @@ public:
     /// Appends a row whose column 0 holds the text; its other cells are empty.
     void AddRow(std::string_view text);
     void RemoveRow(int row);
+    void DeleteAllRows();
+    /// How a cell's text is set off, also in print.
+    TextStyle CellStyle(int row, int column) const;
+    void CellStyle(int row, int column, TextStyle style);
+    /// A small picture before the text of column 0; empty for none.
+    std::optional<Picture> RowPicture(int row) const;
+    void RowPicture(int row, Picture picture);
     /// Removes all selected rows at one go, and raises Change once if there were any.
     void RemoveSelectedRows();
     std::uint64_t revision(int row) const { return rows_[index(row)].revision; }
@@ -122,6 +138,7 @@ public:
     std::function<bool(int row, int column, const std::string& key)> CellKeyDown;
     std::function<void(int row, int column)> CellTextChange;
     std::function<bool(int column)> HeaderPressed;
+    std::function<void()> DoubleClick;
     /// Paints below the text of a cell; the surface is the cell. Also called for rows that do not exist.
     std::function<bool(Graphics& g, int row, int column)> CellBackgroundPaint;
     /// Before the text is drawn at x, y: may set the colour, or draw the text itself and say true.
@@ -139,22 +156,29 @@ private:
         int alignment = AlignDefault;
         int sortDirection = 0;
     };
+    struct RowLook {
+        std::map<int, TextStyle> styles; // by column
+        std::optional<Picture> picture;
+    };
     struct Row {
         std::vector<std::string> cells;
         std::uint64_t revision = 0;
         bool selected = false;
+        std::unique_ptr<RowLook> look; // nil for a row like all others
     };
 
     static std::size_t index(int i) { return static_cast<std::size_t>(i); }
     bool contains(int row, int column) const {
         return row >= 0 && row < ListCount() && column >= 0 && column < ColumnCount();
     }
+    RowLook& lookOf(int row);
     void raiseChange();
     void write(int row, int column, std::string_view text);
     void raiseTextChange(int row, int column);
 
     std::vector<Column> columns_;
     std::string columnWidths_;
+    bool hasHeading_ = true;
     int rowHeight_ = 15;
     SelectionTypes selectionType_ = SelectionTypes::single;
     std::vector<Row> rows_;

@@ -9,8 +9,41 @@
 
 namespace tallyvane {
 
-/// Shows the print dialog. Nil when the user cancelled. What is drawn goes to paper when the surface goes out of being.
-[[nodiscard]] std::unique_ptr<Graphics> OpenPrinterDialog();
+/// The paper as the user has set it up. The toolkit in force makes it.
+class Paper {
+public:
+    Paper() = default;
+    Paper(const Paper&) = delete;
+    Paper& operator=(const Paper&) = delete;
+    virtual ~Paper() = default;
+
+    // Size of the printable area, in points
+    virtual double width() const = 0;
+    virtual double height() const = 0;
+    /// Shows the page set-up dialog. False when the user cancelled.
+    virtual bool ask() = 0;
+};
+
+/// A page set-up.
+class PrinterSetup {
+public:
+    PrinterSetup();
+
+    /// Of the printable area, in points; 0 where nothing can be printed.
+    double Width() const { return paper_ ? paper_->width() : 0; }
+    double Height() const { return paper_ ? paper_->height() : 0; }
+    /// False when the user cancelled.
+    [[nodiscard]] bool PageSetupDialog() { return paper_ && paper_->ask(); }
+
+    const Paper* paper() const { return paper_.get(); }
+
+private:
+    std::unique_ptr<Paper> paper_;
+};
+
+/// Shows the print dialog; without a set-up the paper is the printer's own. Nil when the user cancelled. What is drawn
+/// goes to paper when the surface goes out of being.
+[[nodiscard]] std::unique_ptr<Graphics> OpenPrinterDialog(const PrinterSetup* setup = nullptr);
 
 /// Lays a text out on one page after the other, in the desktop's own font at 12 points. Lines are broken between words;
 /// a word that is wider than the page is broken where it must be.
@@ -31,9 +64,5 @@ private:
     double width_;
     std::size_t place_ = 0;
 };
-
-/// Bytes of the text that stand in its first line, within that width and up to a line end, with the blanks or the line
-/// end after them. One character at the least.
-std::size_t firstLine(const Graphics& g, std::string_view text, double width);
 
 } // namespace tallyvane

@@ -6,6 +6,7 @@
 
 #include "platform/dialogs.h"
 #include "platform/picture.h"
+#include "platform/printing.h"
 #include "platform/window.h"
 
 namespace tallyvane {
@@ -31,8 +32,10 @@ public:
     /// The absolute path that the user chose; "" when the dialog was cancelled.
     virtual std::string askWhereToSave(const SaveAsDialog& dialog) = 0;
     virtual std::string askForFile(const OpenDialog& dialog) = 0;
-    /// The pages to print on, after the print dialog; nil when that was cancelled.
-    virtual std::unique_ptr<Graphics> openPrinterDialog() = 0;
+    /// Paper as the printer has it.
+    virtual std::unique_ptr<Paper> makePaper() = 0;
+    /// The pages to print on, after the print dialog; nil when that was cancelled. `paper` can be nil.
+    virtual std::unique_ptr<Graphics> openPrinterDialog(const Paper* paper) = 0;
     /// Hands an address to the desktop's default program for it.
     virtual void openUrl(const std::string& address) = 0;
     /// Ends the event loop with that exit code.

@@ -10,22 +10,25 @@ namespace tallyvane {
 
 namespace {
 
-QFont fontOf(const std::string& name, float size, const QPaintDevice& device) {
+QFont fontOf(const std::string& name, float size, TextStyle style, const QPaintDevice& device) {
     constexpr double pointsAnInch = 72;
     QFont font = QGuiApplication::font();
     if (name != "System")
         font.setFamily(toQt(name));
     // By points and the device's resolution, since pixel sizes of fonts are whole and a print needs 37.5.
     font.setPointSizeF(std::max(1.0, static_cast<double>(size)) * pointsAnInch / device.logicalDpiY());
+    font.setBold(style.bold);
+    font.setItalic(style.italic);
+    font.setUnderline(style.underline);
     return font;
 }
 
 } // namespace
 
-const FontInUse::Known& FontInUse::known(FontName name, float size) {
-    if (!known_ || known_->name != name || known_->size != size) {
-        const QFont font = fontOf(name, size, device_);
-        known_.emplace(Known{name, size, font, QFontMetricsF(font, &device_)});
+const FontInUse::Known& FontInUse::known(FontName name, float size, TextStyle style) {
+    if (!known_ || known_->name != name || known_->size != size || known_->style != style) {
+        const QFont font = fontOf(name, size, style, device_);
+        known_.emplace(Known{name, size, style, font, QFontMetricsF(font, &device_)});
     }
     return *known_;
 }

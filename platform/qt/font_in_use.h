@@ -15,17 +15,20 @@ public:
     explicit FontInUse(QPaintDevice& device) : device_(device) {}
 
     /// The font of that name, its size in units of the device, and its measures there. "System" is the desktop's own.
-    const QFont& font(FontName name, float size) { return known(name, size).font; }
-    const QFontMetricsF& metrics(FontName name, float size) { return known(name, size).metrics; }
+    const QFont& font(FontName name, float size, TextStyle style = {}) { return known(name, size, style).font; }
+    const QFontMetricsF& metrics(FontName name, float size, TextStyle style = {}) {
+        return known(name, size, style).metrics;
+    }
 
 private:
     struct Known {
         FontName name;
         float size;
+        TextStyle style;
         QFont font;
         QFontMetricsF metrics;
     };
-    const Known& known(FontName name, float size);
+    const Known& known(FontName name, float size, TextStyle style);
 
     QPaintDevice& device_;
     std::optional<Known> known_;

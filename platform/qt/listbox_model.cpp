@@ -1,6 +1,7 @@
 #include "platform/qt/listbox_model.h"
 
-#include "platform/number.h"
+#include <algorithm>
+
 #include "platform/qt/convert.h"
 
 namespace tallyvane {
@@ -9,8 +10,9 @@ namespace {
 
 std::vector<int> widthsOf(const Listbox& list) {
     std::vector<int> widths;
-    for (FieldWalk fields(list.ColumnWidths(), ","); !fields.atEnd();)
-        widths.push_back(static_cast<int>(Val(fields.next())));
+    const int shown = std::min(CountFields(list.ColumnWidths(), ","), list.ColumnCount());
+    for (int column = 0; column < shown; ++column)
+        widths.push_back(list.WidthActual(column));
     return widths;
 }
 

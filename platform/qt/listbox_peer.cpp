@@ -107,6 +107,7 @@ void ListboxPeer::sync() {
     const bool several = control_->SelectionType() == Listbox::SelectionTypes::multiple;
     setSelectionMode(several ? ExtendedSelection : SingleSelection);
     verticalHeader()->setDefaultSectionSize(control_->DefaultRowHeight());
+    horizontalHeader()->setVisible(control_->HasHeading());
     model_->tellColumnsChanged();
     const std::vector<int>& widths = model_->widths();
     for (std::size_t column = 0; column < widths.size(); ++column)
@@ -215,6 +216,12 @@ void ListboxPeer::mouseReleaseEvent(QMouseEvent* event) {
         click(cell, event->pos() - visualRect(cell).topLeft());
 }
 
+void ListboxPeer::mouseDoubleClickEvent(QMouseEvent* event) {
+    QTableView::mouseDoubleClickEvent(event);
+    if (control_ != nullptr && control_->DoubleClick && indexAt(event->pos()).isValid())
+        deliver([this] { control_->DoubleClick(); });
+}
+
 void ListboxPeer::click(const QModelIndex& cell, const QPoint& place) {
     bool done = false;
     deliver([&] {
@@ -287,10 +294,21 @@ void ListboxPeer::drawText(QPainter& painter, const QRect& area, int row, int co
     if (drawn)
         return;
     painter.setPen(tallyvane::toQt(g.ForeColor()));
+    const TextStyle style = control_->CellStyle(row, column);
+    QFont cellFont = font();
+    cellFont.setBold(style.bold);
+    cellFont.setItalic(style.italic);
+    cellFont.setUnderline(style.underline);
+    painter.setFont(cellFont);
+    QRect place = inner.translated(-area.topLeft());
+    if (const auto picture = control_->RowPicture(row); picture && column == 0) {
+        constexpr int pictureWidth = 16;
+        g.DrawPicture(*picture, place.left(), (area.height() - pictureWidth) / 2.0);
+        place.setLeft(place.left() + pictureWidth + textMargin);
+    }
     const QString whole = tallyvane::toQt(Left(control_->Cell(row, column), mostCharacters));
-    const QString shown = fontMetrics().elidedText(whole, Qt::ElideRight, inner.width());
-    painter.drawText(inner.translated(-area.topLeft()), toQt(control_->ColumnAlignment(column)) | Qt::AlignVCenter,
-                     shown);
+    const QString shown = QFontMetrics(cellFont).elidedText(whole, Qt::ElideRight, place.width());
+    painter.drawText(place, toQt(control_->ColumnAlignment(column)) | Qt::AlignVCenter, shown);
 }
 
 void ListboxPeer::paintEvent(QPaintEvent* event) {

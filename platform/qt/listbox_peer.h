@@ -32,6 +32,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     /// Nothing: a digit typed while no cell is open must not take the selection elsewhere.
     void keyboardSearch(const QString& /*search*/) override {}

@@ -29,7 +29,7 @@ PainterGraphics::PainterGraphics(QPainter& painter, QPaintDevice& device, const 
 
 PainterGraphics::~PainterGraphics() { painter_.restore(); }
 
-const QFontMetricsF& PainterGraphics::metrics() const { return font_.metrics(TextFont(), TextSize()); }
+const QFontMetricsF& PainterGraphics::metrics() const { return font_.metrics(TextFont(), TextSize(), Style()); }
 
 double PainterGraphics::StringWidth(std::string_view string) const { return metrics().horizontalAdvance(toQt(string)); }
 
@@ -82,7 +82,7 @@ void PainterGraphics::FillRect(double x, double y, double width, double height) 
 }
 
 void PainterGraphics::DrawString(std::string_view string, double x, double y) {
-    painter_.setFont(font_.font(TextFont(), TextSize()));
+    painter_.setFont(font_.font(TextFont(), TextSize(), Style()));
     painter_.setPen(toQt(ForeColor()));
     painter_.drawText(QPointF(reachable(x), reachable(y)), toQt(string));
 }

@@ -1,5 +1,8 @@
 #include "platform/qt/print_job.h"
 
+#include <QApplication>
+#include <QPageSetupDialog>
+
 namespace tallyvane {
 
 namespace {
@@ -12,6 +15,23 @@ QRect printableArea(const QPrinter& printer) {
 }
 
 } // namespace
+
+std::unique_ptr<QPrinter> makePrinter() {
+    constexpr double quarterInch = 18; // points
+    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    printer->setPageMargins(QMarginsF(quarterInch, quarterInch, quarterInch, quarterInch), QPageLayout::Point);
+    return printer;
+}
+
+bool QtPaper::ask() {
+    const std::unique_ptr<QPrinter> printer = makePrinter();
+    printer->setPageLayout(layout_);
+    QPageSetupDialog dialog(printer.get(), QApplication::activeWindow());
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    layout_ = printer->pageLayout();
+    return true;
+}
 
 PrinterAndPainter::PrinterAndPainter(std::unique_ptr<QPrinter> ready) : printer(std::move(ready)) {
     if (painter.begin(printer.get()))

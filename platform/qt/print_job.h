@@ -1,12 +1,32 @@
 #pragma once
 
+#include <QPageLayout>
 #include <QPrinter>
 
 #include <memory>
 
+#include "platform/printing.h"
 #include "platform/qt/painter_graphics.h"
 
 namespace tallyvane {
+
+/// The printer that the desktop prefers, with margins of a quarter of an inch.
+std::unique_ptr<QPrinter> makePrinter();
+
+/// Paper that Qt's page set-up dialog sets up.
+class QtPaper : public Paper {
+public:
+    QtPaper() : layout_(makePrinter()->pageLayout()) {}
+
+    double width() const override { return layout_.paintRect(QPageLayout::Point).width(); }
+    double height() const override { return layout_.paintRect(QPageLayout::Point).height(); }
+    bool ask() override;
+
+    const QPageLayout& layout() const { return layout_; }
+
+private:
+    QPageLayout layout_;
+};
 
 /// A printer with its painter, which counts in points.
 struct PrinterAndPainter {

@@ -89,10 +89,12 @@ std::string QtToolkit::askForFile(const OpenDialog& dialog) {
     return chosenPath(chooser);
 }
 
-std::unique_ptr<Graphics> QtToolkit::openPrinterDialog() {
-    constexpr double quarterInch = 18; // points
-    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
-    printer->setPageMargins(QMarginsF(quarterInch, quarterInch, quarterInch, quarterInch), QPageLayout::Point);
+std::unique_ptr<Paper> QtToolkit::makePaper() { return std::make_unique<QtPaper>(); }
+
+std::unique_ptr<Graphics> QtToolkit::openPrinterDialog(const Paper* paper) {
+    std::unique_ptr<QPrinter> printer = makePrinter();
+    if (const auto* chosen = dynamic_cast<const QtPaper*>(paper))
+        printer->setPageLayout(chosen->layout());
     QPrintDialog dialog(printer.get(), QApplication::activeWindow());
     if (dialog.exec() != QDialog::Accepted)
         return nullptr;

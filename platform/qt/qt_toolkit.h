@@ -17,7 +17,8 @@ public:
     void beep() override;
     std::string askWhereToSave(const SaveAsDialog& dialog) override;
     std::string askForFile(const OpenDialog& dialog) override;
-    std::unique_ptr<Graphics> openPrinterDialog() override;
+    std::unique_ptr<Paper> makePaper() override;
+    std::unique_ptr<Graphics> openPrinterDialog(const Paper* paper) override;
     void openUrl(const std::string& address) override;
     void quit(int code) override;
 

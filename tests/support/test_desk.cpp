@@ -11,10 +11,26 @@ namespace tallyvane {
 
 namespace {
 
+// Letter paper with quarter-inch margins
+constexpr double letterWidth = 576;
+constexpr double letterHeight = 756;
+
+class RecordedPaper : public Paper {
+public:
+    explicit RecordedPaper(const bool& accepted) : accepted_(accepted) {}
+    double width() const override { return letterWidth; }
+    double height() const override { return letterHeight; }
+    bool ask() override { return accepted_; }
+
+private:
+    const bool& accepted_;
+};
+
 /// Pages that hand over what was drawn on them when they are done.
 class RecordedPages : public GraphicsRecorder {
 public:
-    explicit RecordedPages(std::vector<Call>& printed) : GraphicsRecorder(576, 756), printed_(printed) {}
+    explicit RecordedPages(std::vector<Call>& printed)
+        : GraphicsRecorder(letterWidth, letterHeight), printed_(printed) {}
     ~RecordedPages() override { printed_ = calls(); }
 
 private:
@@ -23,7 +39,9 @@ private:
 
 } // namespace
 
-std::unique_ptr<Graphics> RecordingToolkit::openPrinterDialog() {
+std::unique_ptr<Paper> RecordingToolkit::makePaper() { return std::make_unique<RecordedPaper>(pageSetupReady); }
+
+std::unique_ptr<Graphics> RecordingToolkit::openPrinterDialog(const Paper* /*paper*/) {
     return printerReady ? std::make_unique<RecordedPages>(printed) : nullptr;
 }
 

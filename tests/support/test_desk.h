@@ -34,7 +34,8 @@ public:
         dialogs.push_back(dialog.Title);
         return answer;
     }
-    std::unique_ptr<Graphics> openPrinterDialog() override;
+    std::unique_ptr<Paper> makePaper() override;
+    std::unique_ptr<Graphics> openPrinterDialog(const Paper* paper) override;
     void openUrl(const std::string& address) override { addresses.push_back(address); }
     void quit(int code) override { quits.push_back(code); }
 
@@ -43,6 +44,7 @@ public:
     std::vector<int> quits;
     std::vector<std::string> dialogs;
     std::string answer; // the path that the user chooses; "" cancels
+    bool pageSetupReady = true; // false: the user cancels the page set-up
     bool printerReady = true; // false: the user cancels the print dialog
     std::vector<GraphicsRecorder::Call> printed; // on all pages
     int beeps = 0;
