@@ -52,6 +52,9 @@ public:
     /// Whether the headings are shown.
     bool HasHeading() const { return hasHeading_; }
     void HasHeading(bool value) { set(hasHeading_, value); }
+    /// Whether a frame is drawn around the list.
+    bool Border() const { return border_; }
+    void Border(bool value) { set(border_, value); }
     const std::string& Heading(int column) const { return columns_[index(column)].heading; }
     void Heading(int column, std::string text) { set(columns_[index(column)].heading, std::move(text)); }
     int ColumnType(int column) const { return columns_[index(column)].type; }
@@ -179,6 +182,7 @@ private:
     std::vector<Column> columns_;
     std::string columnWidths_;
     bool hasHeading_ = true;
+    bool border_ = false;
     int rowHeight_ = 15;
     SelectionTypes selectionType_ = SelectionTypes::single;
     std::vector<Row> rows_;

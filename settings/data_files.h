@@ -38,6 +38,8 @@ inline constexpr std::string_view headings = "7VXHeadings";
 inline constexpr std::string_view runningLogs = "QVXLogData";
 inline constexpr std::string_view journal = "Tallyvane Journal";
 inline constexpr std::string_view windowData = "QVXWindowData";
+inline constexpr std::string_view contacts = "QVXContacts";
+inline constexpr std::string_view medications = "QVXMedications";
 inline constexpr std::string_view details = "Details"; // a folder: a file for each day that has details
 
 } // namespace tallyvane::DataFiles

@@ -104,6 +104,7 @@ void App::bringUpMainWindow() {
 void App::joinWindows(Window1& window) {
     window.showHeadingsEditor = [this] { showHeadingsEditor(); };
     window.showLogs = [this] { showSingle(logs_); };
+    window.showTeamAndMedications = [this] { showSingle(info_); };
 }
 
 void App::showHeadingsEditor() {

@@ -8,6 +8,7 @@
 #include "platform/folder_item.h"
 #include "platform/menus.h"
 #include "platform/system_files.h"
+#include "records/info_window.h"
 #include "records/logs_window.h"
 #include "settings/edit_headings.h"
 #include "settings/prefs_window.h"
@@ -59,6 +60,7 @@ public:
     PrefsWindow* prefsWindow() { return prefs_.get(); }
     EditHeadings* editHeadings() { return headings_.get(); }
     logsWindow* logs() { return logs_.get(); }
+    InfoWindow* infoWindow() { return info_.get(); }
     MenuBar menuBar;
 
 private:
@@ -79,6 +81,7 @@ private:
     std::unique_ptr<PrefsWindow> prefs_;
     std::unique_ptr<EditHeadings> headings_;
     std::unique_ptr<logsWindow> logs_;
+    std::unique_ptr<InfoWindow> info_;
 };
 
 } // namespace tallyvane

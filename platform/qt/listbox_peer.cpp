@@ -78,7 +78,6 @@ ListboxPeer::ListboxPeer(Listbox& list, QWidget* parent)
 
 void ListboxPeer::setUpLook() {
     setPalette(lightColors());
-    setFrameShape(NoFrame);
     setShowGrid(false);
     setCornerButtonEnabled(false);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -108,6 +107,7 @@ void ListboxPeer::sync() {
     setSelectionMode(several ? ExtendedSelection : SingleSelection);
     verticalHeader()->setDefaultSectionSize(control_->DefaultRowHeight());
     horizontalHeader()->setVisible(control_->HasHeading());
+    setFrameShape(control_->Border() ? StyledPanel : NoFrame);
     model_->tellColumnsChanged();
     const std::vector<int>& widths = model_->widths();
     for (std::size_t column = 0; column < widths.size(); ++column)

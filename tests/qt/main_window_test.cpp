@@ -123,8 +123,9 @@ TEST_F(MainWindowTest, ItemsAndButtonsWithoutAnAnswerAreOff) {
                                                  "HelpSupportForum", "HelpUsersGuide"}));
     for (const QAction* action : frame_->findChild<QToolBar*>()->actions())
         if (!action->text().isEmpty())
-            EXPECT_EQ(action->isEnabled(),
-                      action->text() == QStringLiteral("Headings") || action->text() == QStringLiteral("Logs"))
+            EXPECT_EQ(action->isEnabled(), action->text() == QStringLiteral("Headings") ||
+                                               action->text() == QStringLiteral("Logs") ||
+                                               action->text() == QStringLiteral("Team/Meds"))
                 << fromQt(action->text());
 }
 

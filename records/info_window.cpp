@@ -1,0 +1,167 @@
+#include "records/info_window.h"
+
+#include <exception>
+#include <optional>
+
+#include "platform/text.h"
+#include "platform/toolkit.h"
+#include "records/row_file.h"
+#include "reports/listbox_print_all.h"
+#include "settings/data_files.h"
+
+namespace tallyvane {
+
+namespace {
+
+constexpr int addressColumn = 4;
+
+struct CellPlace {
+    int row;
+    int column;
+};
+
+/// The cell beside the open one that a key leads to; the open one itself at the edge. Nothing for a key that does not
+/// move.
+std::optional<CellPlace> cellBeside(const Listbox& list, CellPlace cell, const std::string& key) {
+    CellPlace next = cell;
+    if (key == Chr(30)) // Up
+        --next.row;
+    else if (key == Chr(31)) // Down
+        ++next.row;
+    else if (key == Chr(28)) // Left
+        --next.column;
+    else if (key == Chr(29) || key == Chr(9)) // Right, Tab
+        ++next.column;
+    else
+        return std::nullopt;
+    const bool exists =
+        next.row >= 0 && next.row < list.ListCount() && next.column >= 0 && next.column < list.ColumnCount();
+    return exists ? next : cell;
+}
+
+void openWhole(Listbox& list, CellPlace cell) {
+    list.EditCell(cell.row, cell.column);
+    list.ActiveCell().SelStart(0);
+    list.ActiveCell().SelLength(Len(list.ActiveCell().Text()));
+}
+
+} // namespace
+
+// Opening and closing
+
+void InfoWindow::Event_Open() {
+    getContacts();
+    getMeds();
+}
+
+/// What fails one file does not cost the other.
+void InfoWindow::Event_Close() {
+    std::exception_ptr failure;
+    try {
+        saveContacts();
+    } catch (const IOException&) {
+        failure = std::current_exception();
+    }
+    saveMeds();
+    if (failure)
+        std::rethrow_exception(failure);
+}
+
+void InfoWindow::getContacts() {
+    if (RowFile::load(ListBox1, DataFiles::contacts, true))
+        ListBox1.ListIndex(0);
+}
+
+void InfoWindow::getMeds() { RowFile::load(ListBox2, DataFiles::medications, false); }
+
+void InfoWindow::saveContacts() { RowFile::save(ListBox1, DataFiles::contacts); }
+
+void InfoWindow::saveMeds() { RowFile::save(ListBox2, DataFiles::medications); }
+
+void InfoWindow::PushButton1_Action() {
+    saveContacts();
+    saveMeds();
+    Close();
+}
+
+// Contacts
+
+void InfoWindow::enableDetails(bool on) {
+    BevelButton2.Enabled(on);
+    for (TextField* field : {&EditField2, &EditField3, &EditField4})
+        field->Enabled(on);
+    EditField5.Enabled(on);
+}
+
+void InfoWindow::emptyDetails() {
+    ignoreIt = true;
+    for (TextField* field : {&EditField2, &EditField3, &EditField4})
+        field->Text("");
+    EditField5.Text("");
+    ignoreIt = false;
+}
+
+void InfoWindow::ListBox1_Change() {
+    const int row = ListBox1.ListIndex();
+    enableDetails(row >= 0);
+    if (row < 0) {
+        emptyDetails();
+        return;
+    }
+    EditField2.Text(ListBox1.Cell(row, 1));
+    EditField3.Text(ListBox1.Cell(row, 2));
+    EditField4.Text(ListBox1.Cell(row, 3));
+    EditField5.Text(ReplaceAll(ListBox1.Cell(row, addressColumn), DataFiles::lineEndMark, EndOfLine));
+}
+
+void InfoWindow::storeDetail(int column, const std::string& text) {
+    if (!ignoreIt)
+        ListBox1.Cell(ListBox1.ListIndex(), column, ReplaceAll(text, EndOfLine, DataFiles::lineEndMark));
+}
+
+void InfoWindow::BevelButton1_Action() {
+    ListBox1.AddRow("new contact");
+    ListBox1.ListIndex(ListBox1.LastIndex());
+    emptyDetails();
+    EditField2.SetFocus();
+}
+
+void InfoWindow::BevelButton2_Action() {
+    ListBox1.RemoveRow(ListBox1.ListIndex());
+    emptyDetails();
+}
+
+void InfoWindow::Canvas2_Action() {
+    constexpr std::string_view scheme = "mailto:";
+    const std::string& address = EditField4.Text();
+    if (InStr(address, "@") == 0)
+        MsgBox("Not a valid email address");
+    else
+        ShowURL(address.starts_with(scheme) ? address : std::string(scheme) + address);
+}
+
+// Medications
+
+void InfoWindow::ListBox2_Change() {
+    const bool selected = ListBox2.ListIndex() >= 0;
+    AutoButton4.Enabled(selected);
+    AutoButton4.Backdrop(selected ? AutoButton4.enabledIcon : AutoButton4.disabledIcon);
+}
+
+bool InfoWindow::ListBox2_CellKeyDown(int row, int column, const std::string& key) {
+    const std::optional<CellPlace> cell = cellBeside(ListBox2, {row, column}, key);
+    if (cell)
+        openWhole(ListBox2, *cell);
+    return cell.has_value();
+}
+
+void InfoWindow::AutoButton3_Action() {
+    ListBox2.AddRow("medication");
+    openWhole(ListBox2, {ListBox2.LastIndex(), 0});
+}
+
+void InfoWindow::AutoButton4_Action() { ListBox2.RemoveRow(ListBox2.ListIndex()); }
+
+void InfoWindow::Canvas1_Action() { ListboxPrintAll().print(ListBox2, true); }
+
+} // namespace tallyvane

@@ -1,0 +1,115 @@
+#include "records/info_window.h"
+
+namespace tallyvane {
+
+namespace {
+
+constexpr unsigned fixedPlace = lockLeft | lockTop;
+constexpr int detailLeft = 340;
+constexpr int rowHeight = 20;
+
+} // namespace
+
+InfoWindow::InfoWindow() {
+    shape(Kind::fixed, 660, 480);
+    Title("Information");
+    layOut();
+    build();
+    wire();
+}
+
+void InfoWindow::layOut() {
+    place({
+        {&TabPanel1, {14, 14, 632, 414}},
+        {&ListBox1, {30, 58, 240, 318}, fixedPlace, &TabPanel1, 0},
+        {&BevelButton1, {30, 384, 28, 28}, fixedPlace, &TabPanel1, 0},
+        {&BevelButton2, {64, 384, 28, 28}, fixedPlace, &TabPanel1, 0},
+        {&StaticText1, {280, 58, 56, 28}, fixedPlace, &TabPanel1, 0},
+        {&EditField2, {detailLeft, 58, 292, 28}, fixedPlace, &TabPanel1, 0},
+        {&StaticText2, {280, 96, 56, 28}, fixedPlace, &TabPanel1, 0},
+        {&EditField3, {detailLeft, 96, 292, 28}, fixedPlace, &TabPanel1, 0},
+        {&StaticText3, {280, 134, 56, 28}, fixedPlace, &TabPanel1, 0},
+        {&EditField4, {detailLeft, 134, 260, 28}, fixedPlace, &TabPanel1, 0},
+        {&Canvas2, {608, 136, 24, 24}, fixedPlace, &TabPanel1, 0},
+        {&StaticText4, {280, 172, 56, 28}, fixedPlace, &TabPanel1, 0},
+        {&EditField5, {detailLeft, 172, 292, 204}, fixedPlace, &TabPanel1, 0},
+        {&ListBox2, {30, 58, 600, 318}, fixedPlace, &TabPanel1, 1},
+        {&AutoButton3, {30, 386, 24, 24}, fixedPlace, &TabPanel1, 1},
+        {&AutoButton4, {62, 386, 24, 24}, fixedPlace, &TabPanel1, 1},
+        {&Canvas1, {598, 382, 32, 32}, fixedPlace, &TabPanel1, 1},
+        {&PushButton1, {540, 438, 106, 30}},
+    });
+}
+
+void InfoWindow::build() {
+    TabPanel1.Captions({"Support Team Contacts", "Medication Schedule"});
+    ListBox1.ColumnWidths("100%");
+    ListBox1.Heading(0, "Role");
+    ListBox1.ColumnType(0, Listbox::TypeEditable);
+    ListBox1.AccessibleName("Contacts");
+    for (const char* role : {"Primary Care Provider (Doctor)", "Dietician", "Diabetes Nurse"})
+        ListBox1.AddRow(role);
+    ListBox2.ColumnWidths("30%,20%,50%");
+    ListBox2.AccessibleName("Medications");
+    const std::array<const char*, 3> headings{"Medication", "Dosage", "Schedule"};
+    for (int column = 0; column < 3; ++column) {
+        ListBox2.Heading(column, headings[static_cast<std::size_t>(column)]);
+        ListBox2.ColumnType(column, Listbox::TypeEditable);
+    }
+    for (Listbox* list : {&ListBox1, &ListBox2}) {
+        list->DefaultRowHeight(rowHeight);
+        list->Border(true);
+    }
+
+    BevelButton1.Caption("+");
+    BevelButton1.HelpTag("Add a contact");
+    BevelButton2.Caption("\u2212");
+    BevelButton2.HelpTag("Remove the selected contact");
+    for (BevelButton* button : {&BevelButton1, &BevelButton2})
+        button->AccessibleName(button->HelpTag());
+    StaticText1.Text("Name");
+    StaticText2.Text("Phone");
+    StaticText3.Text("Email");
+    StaticText4.Text("Address");
+    for (StaticText* label : {&StaticText1, &StaticText2, &StaticText3, &StaticText4})
+        label->Align(TextAlign::right);
+    EditField2.AccessibleName("Name");
+    EditField3.AccessibleName("Phone");
+    EditField4.AccessibleName("Email");
+    EditField5.AccessibleName("Address");
+    enableDetails(false);
+
+    Canvas2.Backdrop(Picture("emailpng_24x24.png"));
+    Canvas2.HelpTag("Send e-mail");
+    AutoButton3.ButtonType = AutoButton::addButton;
+    AutoButton3.HelpTag("Add a medication");
+    AutoButton4.ButtonType = AutoButton::removeButton;
+    AutoButton4.HelpTag("Remove the selected medication");
+    AutoButton4.Enabled(false);
+    Canvas1.Backdrop(Picture("printItem3.png"));
+    Canvas1.HelpTag("Print the medications");
+    for (AutoButton* button : {&Canvas2, &AutoButton3, &AutoButton4, &Canvas1})
+        button->AccessibleName(button->HelpTag());
+    PushButton1.Caption("OK");
+}
+
+void InfoWindow::wire() {
+    ListBox1.Change = [this] { ListBox1_Change(); };
+    ListBox2.Change = [this] { ListBox2_Change(); };
+    ListBox2.CellKeyDown = [this](int row, int column, const std::string& key) {
+        return ListBox2_CellKeyDown(row, column, key);
+    };
+    EditField2.TextChange = [this] { storeDetail(1, EditField2.Text()); };
+    EditField3.TextChange = [this] { storeDetail(2, EditField3.Text()); };
+    EditField4.TextChange = [this] { storeDetail(3, EditField4.Text()); };
+    EditField5.TextChange = [this] { storeDetail(4, EditField5.Text()); };
+    BevelButton1.Action = [this] { BevelButton1_Action(); };
+    BevelButton2.Action = [this] { BevelButton2_Action(); };
+    Canvas2.Action = [this] { Canvas2_Action(); };
+    AutoButton3.Action = [this] { AutoButton3_Action(); };
+    AutoButton4.Action = [this] { AutoButton4_Action(); };
+    Canvas1.Action = [this] { Canvas1_Action(); };
+    PushButton1.Action = [this] { PushButton1_Action(); };
+}
+
+} // namespace tallyvane

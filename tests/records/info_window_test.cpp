@@ -1,0 +1,151 @@
+#include "records/info_window.h"
+
+#include <algorithm>
+
+#include "platform/text.h"
+#include "support/test_desk.h"
+
+namespace tallyvane {
+
+namespace {
+
+class InfoWindowTest : public TestDesk {
+protected:
+    void openWith(const std::string& contacts, const std::string& medications) {
+        makeApplicationFolder();
+        write(applicationFile("QVXContacts"), contacts);
+        write(applicationFile("QVXMedications"), medications);
+        info_.Show();
+    }
+
+    InfoWindow info_;
+};
+
+TEST_F(InfoWindowTest, ANewOneHasThreeRolesAndWritesBothFiles) {
+    info_.Show();
+    EXPECT_EQ(info_.ListBox1.ListIndex(), -1);
+    EXPECT_FALSE(info_.EditField2.Enabled());
+    info_.Close();
+    EXPECT_EQ(read(applicationFile("QVXContacts")),
+              "Primary Care Provider (Doctor)@#@@#@@#@@#@\nDietician@#@@#@@#@@#@\nDiabetes Nurse@#@@#@@#@@#@\n");
+    EXPECT_EQ(read(applicationFile("QVXMedications")), "");
+}
+
+TEST_F(InfoWindowTest, WhatWasReadIsWrittenAgain) {
+    const std::string contacts = "Doctor@#@Dr A@#@1@#@a@b.c@#@Street 1$%$Town\nNurse@#@B@#@@#@@#@\n";
+    const std::string medications = "Metformin@#@500@#@with meals\n@#@@#@\n";
+    openWith(contacts, medications);
+    EXPECT_EQ(info_.ListBox1.ListIndex(), 0);
+    EXPECT_EQ(info_.EditField5.Text(), "Street 1\nTown");
+    EXPECT_EQ(info_.ListBox2.ListIndex(), -1);
+    info_.PushButton1.Action();
+    EXPECT_FALSE(info_.isOpen());
+    EXPECT_EQ(read(applicationFile("QVXContacts")), contacts);
+    EXPECT_EQ(read(applicationFile("QVXMedications")), medications);
+}
+
+TEST_F(InfoWindowTest, AnEmptyFileIsOneEmptyRow) {
+    openWith("", "");
+    EXPECT_EQ(info_.ListBox1.ListCount(), 1);
+    EXPECT_EQ(info_.ListBox2.ListCount(), 1);
+    EXPECT_EQ(info_.ListBox1.Cell(0, 0), "");
+}
+
+TEST_F(InfoWindowTest, DetailsFollowTheSelectionAndTheList) {
+    openWith("Doctor@#@Dr A@#@@#@@#@\nNurse@#@B@#@@#@@#@\n", "");
+    info_.EditField2.userChanged("Dr Z", 4, 0);
+    info_.EditField5.userTyped("Street 9\nTown");
+    info_.ListBox1.ListIndex(1);
+    EXPECT_EQ(info_.EditField2.Text(), "B");
+    EXPECT_EQ(info_.ListBox1.Cell(0, 1), "Dr Z");
+    EXPECT_EQ(info_.ListBox1.Cell(0, 4), "Street 9$%$Town");
+    EXPECT_EQ(info_.ListBox1.Cell(1, 4), "");
+
+    info_.BevelButton1.Action();
+    EXPECT_EQ(info_.ListBox1.Cell(2, 0), "new contact");
+    EXPECT_EQ(info_.ListBox1.ListIndex(), 2);
+    EXPECT_EQ(info_.EditField2.Text(), "");
+    info_.EditField3.userChanged("555", 3, 0);
+    EXPECT_EQ(info_.ListBox1.Cell(2, 2), "555");
+
+    info_.BevelButton2.Action();
+    EXPECT_EQ(info_.ListBox1.ListCount(), 2);
+    EXPECT_EQ(info_.ListBox1.ListIndex(), -1);
+    for (const Control* control : std::initializer_list<const Control*>{
+             &info_.BevelButton2, &info_.EditField2, &info_.EditField3, &info_.EditField4, &info_.EditField5})
+        EXPECT_FALSE(control->Enabled());
+    EXPECT_EQ(info_.EditField3.Text(), "");
+    EXPECT_EQ(info_.ListBox1.Cell(1, 1), "B") << "emptying the details is no editing";
+}
+
+TEST_F(InfoWindowTest, Email) {
+    struct Row {
+        const char* address;
+        const char* opened; // nil: a message instead
+    };
+    const Row rows[] = {
+        {"a@b.c", "mailto:a@b.c"}, {"mailto:a@b.c", "mailto:a@b.c"}, {"a at b", nullptr}, {"", nullptr}};
+    openWith("Doctor\n", "");
+    for (const Row& row : rows) {
+        toolkit_.messages.clear();
+        toolkit_.addresses.clear();
+        info_.EditField4.userChanged(row.address, 0, 0);
+        info_.Canvas2.Action();
+        EXPECT_EQ(toolkit_.addresses,
+                  row.opened == nullptr ? std::vector<std::string>() : std::vector<std::string>{row.opened});
+        EXPECT_EQ(toolkit_.messages, row.opened != nullptr ? std::vector<std::string>()
+                                                           : std::vector<std::string>{"Not a valid email address"});
+    }
+}
+
+TEST_F(InfoWindowTest, KeysInTheSchedule) {
+    struct Row {
+        const char* name;
+        int from[2];
+        int key;
+        int to[2];
+        bool consumed;
+    };
+    const Row rows[] = {
+        {"up", {1, 1}, 30, {0, 1}, true},         {"up at the top", {0, 1}, 30, {0, 1}, true},
+        {"down", {0, 1}, 31, {1, 1}, true},       {"down at the bottom", {1, 1}, 31, {1, 1}, true},
+        {"left", {0, 1}, 28, {0, 0}, true},       {"left at the edge", {0, 0}, 28, {0, 0}, true},
+        {"right", {0, 1}, 29, {0, 2}, true},      {"right at the edge", {0, 2}, 29, {0, 2}, true},
+        {"tab", {0, 0}, 9, {0, 1}, true},         {"backspace", {0, 0}, 8, {0, 0}, false},
+        {"a letter", {0, 0}, 'a', {0, 0}, false},
+    };
+    openWith("", "aaa@#@bb@#@c\nddd@#@ee@#@f\n");
+    for (const Row& row : rows) {
+        info_.ListBox2.EditCell(row.from[0], row.from[1]);
+        info_.ListBox2.ActiveCell().SelStart(1);
+        info_.ListBox2.ActiveCell().SelLength(0);
+        EXPECT_EQ(info_.ListBox2.CellKeyDown(row.from[0], row.from[1], Chr(row.key)), row.consumed) << row.name;
+        EXPECT_EQ(info_.ListBox2.openRow(), row.to[0]) << row.name;
+        EXPECT_EQ(info_.ListBox2.openColumn(), row.to[1]) << row.name;
+        EXPECT_EQ(info_.ListBox2.ActiveCell().SelLength() > 0, row.consumed)
+            << row.name << ": the whole text is selected";
+    }
+}
+
+TEST_F(InfoWindowTest, MedicationsComeAndGo) {
+    info_.Show();
+    EXPECT_FALSE(info_.AutoButton4.Enabled());
+    EXPECT_FALSE(info_.AutoButton4.Event_MouseDown(5, 5)) << "nothing to remove";
+    info_.AutoButton3.Action();
+    EXPECT_EQ(info_.ListBox2.Cell(0, 0), "medication");
+    EXPECT_EQ(info_.ListBox2.openRow(), 0);
+    EXPECT_EQ(info_.ListBox2.ActiveCell().SelLength(), 10);
+    EXPECT_TRUE(info_.AutoButton4.Enabled()) << "the row is selected";
+    EXPECT_TRUE(info_.AutoButton4.Event_MouseDown(5, 5));
+    info_.AutoButton4.Event_MouseUp(5, 5);
+    EXPECT_EQ(info_.ListBox2.ListCount(), 0);
+    EXPECT_FALSE(info_.AutoButton4.Enabled());
+
+    info_.Canvas1.Action();
+    EXPECT_TRUE(std::any_of(toolkit_.printed.begin(), toolkit_.printed.end(),
+                            [](const auto& call) { return call.text == "Schedule"; }));
+}
+
+} // namespace
+
+} // namespace tallyvane
