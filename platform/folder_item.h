@@ -19,6 +19,19 @@ public:
     bool Exists() const;
     bool Directory() const;
     const std::string& AbsolutePath() const { return path_; }
+    /// The last part of the path.
+    std::string DisplayName() const;
+
+    /// A text from which the file can be found again: a "file:" address without "@", "#", "www" or line ends, so that
+    /// it is taken neither for a link nor for a separator.
+    std::string GetSaveInfo() const;
+    /// The file that such a text names. Nil for any other text, and for a file that is not there any more.
+    [[nodiscard]] static std::optional<FolderItem> GetRelative(std::string_view saveInfo);
+
+    /// Opens the file in the desktop's program for it; nothing when it is not there.
+    void Launch() const;
+    /// Takes the file away, if it is there and can go.
+    void Delete() const;
 
     /// Makes the folder, for its owner alone. False when it could not be made.
     [[nodiscard]] bool CreateAsFolder() const;

@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/folder_item.h"
 #include "platform/graphics.h"
 #include "platform/text_controls.h"
 
@@ -25,6 +26,12 @@ public:
     virtual void selectionChanged() = 0;
     /// A cell was opened, or the open one was closed.
     virtual void openCellChanged() = 0;
+};
+
+/// What the user drops: a file, a text, or neither of them.
+struct DragItem {
+    std::optional<FolderItem> file;
+    std::optional<std::string> text;
 };
 
 /// A grid of text cells with headings, a selection of rows and one cell at most open for typing. Rows and columns
@@ -141,7 +148,12 @@ public:
     std::function<bool(int row, int column, const std::string& key)> CellKeyDown;
     std::function<void(int row, int column)> CellTextChange;
     std::function<bool(int column)> HeaderPressed;
+    /// On a row; also Return, when no cell is open.
     std::function<void()> DoubleClick;
+    /// A click with the platform's key for shortcuts held down; also F2.
+    std::function<void(int row, int column)> CellCommandClick;
+    /// A file or a text was dropped on the list. A list that hears of it takes both.
+    std::function<void(const DragItem& item)> DropObject;
     /// Paints below the text of a cell; the surface is the cell. Also called for rows that do not exist.
     std::function<bool(Graphics& g, int row, int column)> CellBackgroundPaint;
     /// Before the text is drawn at x, y: may set the colour, or draw the text itself and say true.

@@ -24,6 +24,9 @@ Kind kindOf(const std::string& path);
 /// Makes a folder that only its owner can enter. False when it could not be made.
 [[nodiscard]] bool makeFolder(const std::string& path);
 
+/// Takes a plain file away. False when there was none or it could not go.
+[[nodiscard]] bool remove(const std::string& path);
+
 /// The whole content of a file; nothing for what is no plain file, can't be read or is larger than a gigabyte.
 [[nodiscard]] std::optional<std::string> read(const std::string& path);
 

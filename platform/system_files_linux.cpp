@@ -149,6 +149,8 @@ Kind kindOf(const std::string& path) {
 
 bool makeFolder(const std::string& path) { return !hasNul(path) && ::mkdir(path.c_str(), ownerOnlyFolder) == 0; }
 
+bool remove(const std::string& path) { return kindOf(path) == Kind::file && ::unlink(path.c_str()) == 0; }
+
 std::optional<std::string> read(const std::string& path) {
     const int file = openPlain(path, O_RDONLY);
     if (file < 0)

@@ -25,6 +25,8 @@ void Beep() {
 }
 
 void ShowURL(const std::string& address) {
+    if (address.starts_with("www"))
+        ShowURL("http://" + address);
     constexpr std::array<std::string_view, 3> schemes{"http:", "https:", "mailto:"};
     for (const std::string_view scheme : schemes)
         if (theToolkit != nullptr && address.starts_with(scheme))

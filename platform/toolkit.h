@@ -38,6 +38,8 @@ public:
     virtual std::unique_ptr<Graphics> openPrinterDialog(const Paper* paper) = 0;
     /// Hands an address to the desktop's default program for it.
     virtual void openUrl(const std::string& address) = 0;
+    /// The same for a file that exists.
+    virtual void openFile(const std::string& path) = 0;
     /// Ends the event loop with that exit code.
     virtual void quit(int code) = 0;
 
@@ -51,7 +53,8 @@ public:
 void MsgBox(const std::string& text);
 /// The system sound.
 void Beep();
-/// Hands a "http:", "https:" or "mailto:" address to the desktop; any other text goes nowhere.
+/// Hands a "http:", "https:" or "mailto:" address to the desktop, and a text that begins with "www" as one of "http:".
+/// Any other text goes nowhere.
 void ShowURL(const std::string& address);
 /// Closes every window that is still open and ends the program.
 void Quit(int code);

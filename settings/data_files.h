@@ -12,6 +12,8 @@ namespace tallyvane::DataFiles {
 inline constexpr std::string_view fieldSeparator = "@#@";
 /// Between the parts of a field, or of an entry in a list.
 inline constexpr std::string_view subfieldSeparator = "@@@";
+/// Between the entries of a list.
+inline constexpr std::string_view entrySeparator = "###";
 /// A line end inside a field.
 inline constexpr std::string_view lineEndMark = "$%$";
 
@@ -40,6 +42,7 @@ inline constexpr std::string_view journal = "Tallyvane Journal";
 inline constexpr std::string_view windowData = "QVXWindowData";
 inline constexpr std::string_view contacts = "QVXContacts";
 inline constexpr std::string_view medications = "QVXMedications";
+inline constexpr std::string_view resources = "QVXFileData"; // in the inner folder
 inline constexpr std::string_view details = "Details"; // a folder: a file for each day that has details
 
 } // namespace tallyvane::DataFiles

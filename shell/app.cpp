@@ -104,6 +104,11 @@ void App::bringUpMainWindow() {
 void App::joinWindows(Window1& window) {
     window.showHeadingsEditor = [this] { showHeadingsEditor(); };
     window.showLogs = [this] { showSingle(logs_); };
+    window.showResources = [this] { showSingle(files_); };
+    window.closeResources = [this] {
+        if (files_)
+            files_->Close();
+    };
     window.showTeamAndMedications = [this] { showSingle(info_); };
 }
 

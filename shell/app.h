@@ -8,6 +8,7 @@
 #include "platform/folder_item.h"
 #include "platform/menus.h"
 #include "platform/system_files.h"
+#include "records/file_window.h"
 #include "records/info_window.h"
 #include "records/logs_window.h"
 #include "settings/edit_headings.h"
@@ -61,6 +62,7 @@ public:
     EditHeadings* editHeadings() { return headings_.get(); }
     logsWindow* logs() { return logs_.get(); }
     InfoWindow* infoWindow() { return info_.get(); }
+    fileWindow* files() { return files_.get(); }
     MenuBar menuBar;
 
 private:
@@ -82,6 +84,7 @@ private:
     std::unique_ptr<EditHeadings> headings_;
     std::unique_ptr<logsWindow> logs_;
     std::unique_ptr<InfoWindow> info_;
+    std::unique_ptr<fileWindow> files_;
 };
 
 } // namespace tallyvane

@@ -1,11 +1,15 @@
 #include "platform/qt/listbox_peer.h"
 
+#include <QDropEvent>
+#include <QFile>
 #include <QHeaderView>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
+#include <QUrl>
 
 #include "platform/qt/event_guard.h"
 #include "platform/qt/painter_graphics.h"
@@ -65,6 +69,7 @@ ListboxPeer::ListboxPeer(Listbox& list, QWidget* parent)
     setEditTriggers(NoEditTriggers);
     setSelectionBehavior(SelectRows);
     setTabKeyNavigation(false);
+    setAcceptDrops(true);
     horizontalHeader()->setSectionsClickable(true);
     const auto press = [this](int column) {
         if (control_ != nullptr)
@@ -205,14 +210,20 @@ void ListboxPeer::selectionChanged(const QItemSelection& selected, const QItemSe
 void ListboxPeer::mousePressEvent(QMouseEvent* event) {
     // Presses with Ctrl or Shift extend the selection; they are no clicks in a cell.
     const bool plain = event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier;
-    pressed_ = plain ? indexAt(event->pos()) : QModelIndex();
+    pressedWithCommand_ = event->button() == Qt::LeftButton && event->modifiers() == Qt::ControlModifier &&
+                          control_ != nullptr && control_->CellCommandClick;
+    pressed_ = plain || pressedWithCommand_ ? indexAt(event->pos()) : QModelIndex();
     QTableView::mousePressEvent(event);
 }
 
 void ListboxPeer::mouseReleaseEvent(QMouseEvent* event) {
     QTableView::mouseReleaseEvent(event);
     const QModelIndex cell = std::exchange(pressed_, QModelIndex());
-    if (control_ != nullptr && cell.isValid() && cell == indexAt(event->pos()))
+    if (control_ == nullptr || !cell.isValid() || cell != indexAt(event->pos()))
+        return;
+    if (pressedWithCommand_)
+        commandClick(cell);
+    else
         click(cell, event->pos() - visualRect(cell).topLeft());
 }
 
@@ -220,6 +231,41 @@ void ListboxPeer::mouseDoubleClickEvent(QMouseEvent* event) {
     QTableView::mouseDoubleClickEvent(event);
     if (control_ != nullptr && control_->DoubleClick && indexAt(event->pos()).isValid())
         deliver([this] { control_->DoubleClick(); });
+}
+
+void ListboxPeer::commandClick(const QModelIndex& cell) {
+    deliver([&] { control_->CellCommandClick(cell.row(), cell.column()); });
+}
+
+void ListboxPeer::dragEnterEvent(QDragEnterEvent* event) {
+    if (control_ != nullptr && control_->DropObject)
+        event->acceptProposedAction();
+}
+
+void ListboxPeer::dragMoveEvent(QDragMoveEvent* event) {
+    if (control_ != nullptr && control_->DropObject)
+        event->acceptProposedAction();
+}
+
+void ListboxPeer::dropEvent(QDropEvent* event) {
+    event->acceptProposedAction();
+    bool anyFile = false;
+    for (const QUrl& url : event->mimeData()->urls())
+        if (url.isLocalFile()) {
+            anyFile = true;
+            drop({GetFolderItem(QFile::encodeName(url.toLocalFile()).toStdString()), std::nullopt});
+        }
+    if (anyFile)
+        return;
+    if (event->mimeData()->hasText())
+        drop({std::nullopt, fromQt(event->mimeData()->text())});
+    else
+        drop({});
+}
+
+void ListboxPeer::drop(const DragItem& item) {
+    if (control_ != nullptr && control_->DropObject)
+        deliver([&] { control_->DropObject(item); });
 }
 
 void ListboxPeer::click(const QModelIndex& cell, const QPoint& place) {
@@ -240,7 +286,13 @@ void ListboxPeer::keyPressEvent(QKeyEvent* event) {
         return;
     }
     deliver([&] { control_->ListIndex(cell.row()); }); // as a click does
-    if (control_ != nullptr)
+    if (control_ == nullptr)
+        return;
+    if (event->key() == Qt::Key_F2 && control_->CellCommandClick)
+        commandClick(cell);
+    else if (event->key() != Qt::Key_F2 && control_->DoubleClick)
+        deliver([this] { control_->DoubleClick(); });
+    else
         click(cell, QPoint());
 }
 

@@ -33,6 +33,9 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     /// Nothing: a digit typed while no cell is open must not take the selection elsewhere.
     void keyboardSearch(const QString& /*search*/) override {}
@@ -43,12 +46,15 @@ protected:
 private:
     void setUpLook();
     void click(const QModelIndex& cell, const QPoint& place);
+    void commandClick(const QModelIndex& cell);
+    void drop(const DragItem& item);
     void placeEditor();
     void drawText(QPainter& painter, const QRect& area, int row, int column);
 
     ListboxModel* model_;
     CellEditor* editor_;
     QModelIndex pressed_;
+    bool pressedWithCommand_ = false;
     bool bringingSelection_ = false; // from the list to the view, not the other way
 };
 

@@ -103,6 +103,10 @@ std::unique_ptr<Graphics> QtToolkit::openPrinterDialog(const Paper* paper) {
 
 void QtToolkit::openUrl(const std::string& address) { QDesktopServices::openUrl(QUrl(toQt(address))); }
 
+void QtToolkit::openFile(const std::string& path) {
+    QDesktopServices::openUrl(QUrl::fromLocalFile(QFile::decodeName(QByteArray::fromStdString(path))));
+}
+
 void QtToolkit::quit(int code) {
     quitAsked_ = true;
     quitCode_ = code;

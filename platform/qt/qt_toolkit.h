@@ -20,6 +20,7 @@ public:
     std::unique_ptr<Paper> makePaper() override;
     std::unique_ptr<Graphics> openPrinterDialog(const Paper* paper) override;
     void openUrl(const std::string& address) override;
+    void openFile(const std::string& path) override;
     void quit(int code) override;
 
     bool quitAsked() const { return quitAsked_; }

@@ -100,8 +100,8 @@ TEST_F(WindowTest, OnlyAddressesForTheWebAndMailGoOut) {
     for (const char* address : {"http://a.example", "https://a.example", "mailto:a@b.example", "file:///etc/passwd",
                                 "javascript:x", "", "www.a.example"})
         ShowURL(address);
-    EXPECT_EQ(toolkit_.addresses,
-              (std::vector<std::string>{"http://a.example", "https://a.example", "mailto:a@b.example"}));
+    EXPECT_EQ(toolkit_.addresses, (std::vector<std::string>{"http://a.example", "https://a.example",
+                                                            "mailto:a@b.example", "http://www.a.example"}));
 }
 
 } // namespace

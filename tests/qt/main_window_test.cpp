@@ -125,7 +125,8 @@ TEST_F(MainWindowTest, ItemsAndButtonsWithoutAnAnswerAreOff) {
         if (!action->text().isEmpty())
             EXPECT_EQ(action->isEnabled(), action->text() == QStringLiteral("Headings") ||
                                                action->text() == QStringLiteral("Logs") ||
-                                               action->text() == QStringLiteral("Team/Meds"))
+                                               action->text() == QStringLiteral("Team/Meds") ||
+                                               action->text() == QStringLiteral("Resources"))
                 << fromQt(action->text());
 }
 

@@ -37,10 +37,12 @@ public:
     std::unique_ptr<Paper> makePaper() override;
     std::unique_ptr<Graphics> openPrinterDialog(const Paper* paper) override;
     void openUrl(const std::string& address) override { addresses.push_back(address); }
+    void openFile(const std::string& path) override { files.push_back(path); }
     void quit(int code) override { quits.push_back(code); }
 
     std::vector<std::string> messages;
     std::vector<std::string> addresses;
+    std::vector<std::string> files;
     std::vector<int> quits;
     std::vector<std::string> dialogs;
     std::string answer; // the path that the user chooses; "" cancels

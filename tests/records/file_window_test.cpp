@@ -1,0 +1,140 @@
+#include "records/file_window.h"
+
+#include "settings/globals.h"
+#include "support/test_desk.h"
+
+namespace tallyvane {
+
+namespace {
+
+class FileWindowTest : public TestDesk {
+protected:
+    std::filesystem::path list() const { return applicationFile("Tallyvane") / "QVXFileData"; }
+    void openWith(const std::string& content) {
+        std::filesystem::create_directories(applicationFile("Tallyvane"));
+        write(list(), content);
+        files_.Show();
+    }
+    FolderItem fileNamed(const std::string& name) const {
+        write(folder_ / name, "text");
+        return *GetFolderItem((folder_ / name).string());
+    }
+
+    fileWindow files_;
+};
+
+TEST_F(FileWindowTest, TheTextOfAFileGivesTheFileBackAndIsNoLink) {
+    for (const char* name : {"plain.txt", "a b.txt", "a@b#c@@@d###e.txt", "www.txt", "wwww.txt", "100%.txt",
+                             "\u00e4\xff.txt", "two\nlines"}) {
+        const FolderItem file = fileNamed(name);
+        const std::string info = file.GetSaveInfo();
+        EXPECT_EQ(FolderItem::GetRelative(info), file) << name;
+        for (const char* taken : {"@", "#", "www", "\n"})
+            EXPECT_EQ(info.find(taken), std::string::npos) << info;
+        std::filesystem::remove(file.AbsolutePath());
+        EXPECT_EQ(FolderItem::GetRelative(info), std::nullopt) << "a file that has gone";
+    }
+    for (const char* text :
+         {"", "www.example.org", "a@b.c", "file:", "file://", "file://relative", "/etc/passwd", "file:///%"})
+        EXPECT_EQ(FolderItem::GetRelative(text), std::nullopt) << text;
+}
+
+TEST_F(FileWindowTest, EntriesAreReadAndWrittenAgain) {
+    const std::string content = "Guide@@@www.example.org###Jane@@@jane@example.org###note@@@file:///nowhere\n";
+    openWith(content);
+    EXPECT_TRUE(Globals::gFileWindowOpen);
+    ASSERT_EQ(files_.ListBox1.ListCount(), 3);
+    EXPECT_EQ(files_.ListBox1.RowPicture(0), Picture("webFileIcon.png"));
+    EXPECT_EQ(files_.ListBox1.RowPicture(1), Picture("webFileIcon.png"));
+    EXPECT_EQ(files_.ListBox1.RowPicture(2), std::nullopt);
+    EXPECT_EQ(files_.ListBox1.Cell(2, 1), "file:///nowhere") << "without the line end";
+    files_.PushButton1.Action();
+    EXPECT_FALSE(Globals::gFileWindowOpen);
+    EXPECT_EQ(read(list()), content);
+}
+
+TEST_F(FileWindowTest, FilesComeByDialogAndByDrop) {
+    const FolderItem file = fileNamed("my notes.txt");
+    files_.Show();
+    files_.BevelButton1.Action();
+    EXPECT_EQ(toolkit_.dialogs.back(), "Select a file");
+    EXPECT_EQ(files_.ListBox1.ListCount(), 0) << "cancelled";
+    toolkit_.answer = file.AbsolutePath();
+    files_.UtilityButton1.Action();
+    EXPECT_EQ(files_.ListBox1.Cell(0, 0), "my notes.txt");
+    EXPECT_EQ(read(list()), "my notes.txt@@@" + file.GetSaveInfo() + "\n") << "saved at once";
+    files_.ListBox1.DropObject({file, std::nullopt});
+    EXPECT_EQ(files_.ListBox1.ListCount(), 2);
+    files_.ListBox1.ListIndex(1);
+    files_.ListBox1.DoubleClick();
+    EXPECT_EQ(toolkit_.files, std::vector<std::string>{file.AbsolutePath()});
+}
+
+TEST_F(FileWindowTest, DroppedTexts) {
+    struct Row {
+        const char* text; // nil: neither file nor text
+        int rows;
+        int beeps;
+        const char* opened;
+    };
+    const Row rows[] = {
+        {"www.example.org", 1, 0, "http://www.example.org"},
+        {"http://www.example.org", 1, 0, "http://www.example.org"},
+        {"a@b.c", 1, 0, "mailto:a@b.c"},
+        {"mailto:a@b.c", 1, 0, "mailto:a@b.c"},
+        {"just words", 0, 0, nullptr},
+        {nullptr, 0, 1, nullptr},
+    };
+    for (const Row& row : rows) {
+        fileWindow files;
+        std::filesystem::remove(list());
+        toolkit_.beeps = 0;
+        toolkit_.addresses.clear();
+        files.Show();
+        files.ListBox1.DropObject(
+            {std::nullopt, row.text == nullptr ? std::nullopt : std::optional<std::string>(row.text)});
+        const std::string name = row.text == nullptr ? "nothing" : row.text;
+        ASSERT_EQ(files.ListBox1.ListCount(), row.rows) << name;
+        EXPECT_EQ(toolkit_.beeps, row.beeps) << name;
+        if (row.opened == nullptr)
+            continue;
+        EXPECT_EQ(files.ListBox1.RowPicture(0), Picture("webFileIcon.png")) << name;
+        files.ListBox1.ListIndex(0);
+        files.ListBox1.DoubleClick();
+        EXPECT_EQ(toolkit_.addresses, std::vector<std::string>{row.opened}) << name;
+    }
+}
+
+TEST_F(FileWindowTest, RemovingTheLastEntryTakesALoadedFileAway) {
+    openWith("a@@@b\n");
+    EXPECT_FALSE(files_.BevelButton2.Enabled());
+    files_.ListBox1.ListIndex(0);
+    EXPECT_TRUE(files_.BevelButton2.Enabled());
+    files_.BevelButton2.Action();
+    EXPECT_FALSE(std::filesystem::exists(list()));
+    files_.Close();
+    EXPECT_FALSE(std::filesystem::exists(list())) << "an empty list is not saved";
+}
+
+TEST_F(FileWindowTest, AListThatBeganEmptyKeepsItsFile) {
+    files_.Show();
+    const FolderItem file = fileNamed("note");
+    files_.ListBox1.DropObject({file, std::nullopt});
+    files_.ListBox1.ListIndex(0);
+    files_.BevelButton2.Action();
+    files_.Close();
+    EXPECT_EQ(read(list()), "note@@@" + file.GetSaveInfo() + "\n");
+}
+
+TEST_F(FileWindowTest, RenamingReachesTheFileAtTheNextSave) {
+    openWith("a@@@www.b\n");
+    files_.ListBox1.CellCommandClick(0, 0);
+    EXPECT_EQ(files_.ListBox1.openRow(), 0);
+    files_.ListBox1.userTyped("Guide", 5, 0);
+    files_.Close();
+    EXPECT_EQ(read(list()), "Guide@@@www.b\n");
+}
+
+} // namespace
+
+} // namespace tallyvane
