@@ -79,6 +79,8 @@ public:
 
     /// The user has typed: as Text, but no news for the observer, who brings it.
     void userTyped(std::string value) {
+        if (text_ == value)
+            return;
         text_ = std::move(value);
         raiseTextChange();
     }

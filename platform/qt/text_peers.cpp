@@ -1,11 +1,16 @@
 #include "platform/qt/text_peers.h"
 
+#include <QContextMenuEvent>
 #include <QKeyEvent>
+#include <QMenu>
+#include <QTextBlock>
 
 #include <limits>
+#include <memory>
 
 #include "platform/qt/event_guard.h"
 #include "platform/qt/key_names.h"
+#include "platform/qt/spell_checker.h"
 
 namespace tallyvane {
 
@@ -63,6 +68,8 @@ void TextFieldPeer::keyPressEvent(QKeyEvent* event) {
 TextAreaPeer::TextAreaPeer(TextArea& area, QWidget* parent) : Peer(area, parent) {
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setTabChangesFocus(true);
+    if (area.SpellChecking() && Dictionary::ofDesktop().isThere())
+        new SpellingMarker(document(), Dictionary::ofDesktop());
     controlChanged();
     connect(this, &QPlainTextEdit::textChanged, this, [this] {
         if (control_ != nullptr)
@@ -78,5 +85,34 @@ void TextAreaPeer::sync() {
 }
 
 void TextAreaPeer::replaceSelection(std::string_view text) { textCursor().insertText(tallyvane::toQt(text)); }
+
+void TextAreaPeer::contextMenuEvent(QContextMenuEvent* event) {
+    const std::unique_ptr<QMenu> menu(createStandardContextMenu(event->pos()));
+    if (control_ != nullptr && control_->SpellChecking())
+        offerSpellings(*menu, cursorForPosition(event->pos()));
+    menu->exec(event->globalPos());
+}
+
+/// Puts what may have been meant by a misspelled word at the top of the menu.
+void TextAreaPeer::offerSpellings(QMenu& menu, QTextCursor place) {
+    constexpr int most = 6;
+    const QString line = place.block().text();
+    for (const WordPlace& word : wordsOf(line)) {
+        const int at = place.positionInBlock();
+        const QString text = line.mid(word.start, word.length);
+        if (at < word.start || at > word.start + word.length || Dictionary::ofDesktop().knows(text))
+            continue;
+        QAction* const first = menu.actions().value(0);
+        place.setPosition(place.block().position() + word.start);
+        place.setPosition(place.position() + word.length, QTextCursor::KeepAnchor);
+        for (const QString& suggestion : Dictionary::ofDesktop().suggestions(text).mid(0, most)) {
+            auto* action = new QAction(suggestion, &menu);
+            connect(action, &QAction::triggered, this, [place, suggestion]() mutable { place.insertText(suggestion); });
+            menu.insertAction(first, action);
+        }
+        menu.insertSeparator(first);
+        return;
+    }
+}
 
 } // namespace tallyvane

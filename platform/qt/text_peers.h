@@ -29,6 +29,10 @@ public:
 
 protected:
     void sync() override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
+private:
+    void offerSpellings(QMenu& menu, QTextCursor place);
 };
 
 } // namespace tallyvane
