@@ -4,11 +4,11 @@ namespace tallyvane {
 
 namespace {
 
-constexpr int windowWidth = 790;
+constexpr int windowWidth = 914;
 constexpr int fieldLeft = 16;
 
 /// A column's field stands where the column stands in the table; a group's over the columns of the group.
-constexpr int columnWidth = 84;
+constexpr int columnWidth = 98;
 constexpr int columnLeft(int column) { return fieldLeft + columnWidth * (column - 1); }
 constexpr Rect columnField(int column) { return {columnLeft(column), 126, columnWidth - 4, 26}; }
 constexpr Rect groupField(int first, int columns) { return {columnLeft(first), 56, columnWidth * columns - 4, 26}; }
