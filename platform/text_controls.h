@@ -10,14 +10,15 @@
 
 namespace tallyvane {
 
-/// A field of one line, also the open cell of a list.
+/// A field of one line, also the open cell of a list. Line ends, as in what is pasted, become blanks.
 class TextField : public Control {
 public:
     const std::string& Text() const { return text_; }
     /// Raises TextChange when the text differs.
-    void Text(std::string value) {
-        const bool differs = text_ != value;
-        set(text_, std::move(value));
+    void Text(std::string_view value) {
+        std::string line = ReplaceLineEndings(value, " ");
+        const bool differs = text_ != line;
+        set(text_, std::move(line));
         if (differs && TextChange)
             TextChange();
     }
@@ -27,9 +28,10 @@ public:
     void SelLength(int value) { set(selLength_, value); }
 
     /// The text and the selection as the user has just made them: as Text, but no news for the observer, who brings it.
-    void userChanged(std::string text, int selStart, int selLength) {
-        const bool differs = text_ != text;
-        text_ = std::move(text);
+    void userChanged(std::string_view text, int selStart, int selLength) {
+        std::string line = ReplaceLineEndings(text, " ");
+        const bool differs = text_ != line;
+        text_ = std::move(line);
         selStart_ = selStart;
         selLength_ = selLength;
         if (differs && TextChange)

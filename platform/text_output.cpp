@@ -1,5 +1,7 @@
 #include "platform/text_output.h"
 
+#include <algorithm>
+
 #include "platform/printing.h"
 #include "platform/text_streams.h"
 
@@ -8,10 +10,11 @@ namespace tallyvane {
 void printText(const std::string& text) {
     constexpr double left = 50;
     constexpr double top = 50;
-    constexpr double blockHeight = 648;
+    constexpr double mostHeight = 648;
     const std::unique_ptr<Graphics> g = OpenPrinterDialog();
     if (!g)
         return;
+    const double blockHeight = std::min(mostHeight, g->Height() - top); // paper can be lower
     StyledTextPrinter printer(*g, text, 540);
     printer.Width(475);
     while (!printer.EndOfText()) {

@@ -1,6 +1,9 @@
 #include "platform/toolkit.h"
 
 #include <array>
+#include <exception>
+
+#include "platform/system_files.h"
 
 namespace tallyvane {
 
@@ -25,18 +28,33 @@ void Beep() {
 }
 
 void ShowURL(const std::string& address) {
-    if (address.starts_with("www"))
+    if (address.starts_with("www")) {
         ShowURL("http://" + address);
+        return;
+    }
     constexpr std::array<std::string_view, 3> schemes{"http:", "https:", "mailto:"};
     for (const std::string_view scheme : schemes)
         if (theToolkit != nullptr && address.starts_with(scheme))
             theToolkit->openUrl(address);
 }
 
+void ShowMail(const std::string& address) {
+    constexpr std::string_view scheme = "mailto:";
+    ShowURL(address.starts_with(scheme) ? address : std::string(scheme) + address);
+}
+
 void Quit(int code) {
     const std::vector<Window*> windows = Window::openWindows();
-    for (Window* window : windows)
-        window->Close();
+    std::exception_ptr failure;
+    for (Window* window : windows) {
+        try {
+            window->Close();
+        } catch (const IOException&) { // the others are to be saved all the same
+            failure = failure ? failure : std::current_exception();
+        }
+    }
+    if (failure)
+        std::rethrow_exception(failure);
     if (theToolkit != nullptr)
         theToolkit->quit(code);
 }

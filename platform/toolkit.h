@@ -56,7 +56,10 @@ void Beep();
 /// Hands a "http:", "https:" or "mailto:" address to the desktop, and a text that begins with "www" as one of "http:".
 /// Any other text goes nowhere.
 void ShowURL(const std::string& address);
-/// Closes every window that is still open and ends the program.
+/// The same for an e-mail address, with "mailto:" before it or without.
+void ShowMail(const std::string& address);
+/// Closes every window that is still open and ends the program. If a window could not be saved, the others are closed
+/// all the same, and the program goes on: the first IOException is thrown.
 void Quit(int code);
 
 } // namespace tallyvane

@@ -8,10 +8,12 @@ namespace tallyvane {
 
 namespace {
 
+/// More than a line of paper takes: what is longer is not even measured.
+constexpr std::size_t mostBytes = 4096;
+
 /// Bytes of the first characters that fit within the width; one character at the least.
 std::size_t charactersThatFit(const Graphics& g, std::string_view word, double width) {
-    constexpr std::size_t most = 4096; // more bytes than a line of paper takes
-    const std::string_view looked = word.substr(0, most);
+    const std::string_view looked = word.substr(0, mostBytes);
     std::size_t fits = Left(looked, 1).size();
     while (fits < looked.size()) {
         const std::size_t next = fits + Left(looked.substr(fits), 1).size();
@@ -29,7 +31,7 @@ std::size_t firstLine(const Graphics& g, std::string_view text, double width) {
     std::size_t taken = 0;
     while (taken < end) {
         const std::size_t wordEnd = std::min(text.find(' ', taken), end);
-        if (g.StringWidth(text.substr(0, wordEnd)) > width)
+        if (wordEnd > mostBytes || g.StringWidth(text.substr(0, wordEnd)) > width)
             break;
         taken = std::min(text.find_first_not_of(' ', wordEnd), end);
     }

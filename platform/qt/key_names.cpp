@@ -26,6 +26,16 @@ std::string nameOf(const QKeyEvent& key) {
         return Chr(30);
     case Qt::Key_Down:
         return Chr(31);
+    case Qt::Key_Home:
+        return Chr(1);
+    case Qt::Key_End:
+        return Chr(4);
+    case Qt::Key_Insert:
+        return Chr(5);
+    case Qt::Key_PageUp:
+        return Chr(11);
+    case Qt::Key_PageDown:
+        return Chr(12);
     default:
         return fromQt(key.text());
     }

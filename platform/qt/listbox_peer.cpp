@@ -229,7 +229,8 @@ void ListboxPeer::mouseReleaseEvent(QMouseEvent* event) {
 
 void ListboxPeer::mouseDoubleClickEvent(QMouseEvent* event) {
     QTableView::mouseDoubleClickEvent(event);
-    if (control_ != nullptr && control_->DoubleClick && indexAt(event->pos()).isValid())
+    const bool onRow = event->button() == Qt::LeftButton && indexAt(event->pos()).isValid();
+    if (onRow && control_ != nullptr && control_->DoubleClick)
         deliver([this] { control_->DoubleClick(); });
 }
 
@@ -237,23 +238,27 @@ void ListboxPeer::commandClick(const QModelIndex& cell) {
     deliver([&] { control_->CellCommandClick(cell.row(), cell.column()); });
 }
 
-void ListboxPeer::dragEnterEvent(QDragEnterEvent* event) {
-    if (control_ != nullptr && control_->DropObject)
-        event->acceptProposedAction();
+/// A drop is a copy, whatever the other side proposes: it would take a moved text or file away from where it was.
+bool ListboxPeer::takesDrop(QDropEvent& event) const {
+    const bool takes = control_ != nullptr && control_->DropObject && (event.possibleActions() & Qt::CopyAction) != 0;
+    event.setDropAction(takes ? Qt::CopyAction : Qt::IgnoreAction);
+    event.setAccepted(takes);
+    return takes;
 }
 
-void ListboxPeer::dragMoveEvent(QDragMoveEvent* event) {
-    if (control_ != nullptr && control_->DropObject)
-        event->acceptProposedAction();
-}
+void ListboxPeer::dragEnterEvent(QDragEnterEvent* event) { takesDrop(*event); }
+
+void ListboxPeer::dragMoveEvent(QDragMoveEvent* event) { takesDrop(*event); }
 
 void ListboxPeer::dropEvent(QDropEvent* event) {
-    event->acceptProposedAction();
+    if (!takesDrop(*event))
+        return;
     bool anyFile = false;
     for (const QUrl& url : event->mimeData()->urls())
         if (url.isLocalFile()) {
             anyFile = true;
-            drop({GetFolderItem(QFile::encodeName(url.toLocalFile()).toStdString()), std::nullopt});
+            const QString path = url.adjusted(QUrl::StripTrailingSlash).toLocalFile();
+            drop({GetFolderItem(QFile::encodeName(path).toStdString()), std::nullopt});
         }
     if (anyFile)
         return;

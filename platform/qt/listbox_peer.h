@@ -47,6 +47,7 @@ private:
     void setUpLook();
     void click(const QModelIndex& cell, const QPoint& place);
     void commandClick(const QModelIndex& cell);
+    bool takesDrop(QDropEvent& event) const;
     void drop(const DragItem& item);
     void placeEditor();
     void drawText(QPainter& painter, const QRect& area, int row, int column);

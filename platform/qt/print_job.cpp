@@ -1,6 +1,5 @@
 #include "platform/qt/print_job.h"
 
-#include <QApplication>
 #include <QPageSetupDialog>
 
 namespace tallyvane {
@@ -26,7 +25,7 @@ std::unique_ptr<QPrinter> makePrinter() {
 bool QtPaper::ask() {
     const std::unique_ptr<QPrinter> printer = makePrinter();
     printer->setPageLayout(layout_);
-    QPageSetupDialog dialog(printer.get(), QApplication::activeWindow());
+    QPageSetupDialog dialog(printer.get());
     if (dialog.exec() != QDialog::Accepted)
         return false;
     layout_ = printer->pageLayout();

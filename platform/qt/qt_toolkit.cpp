@@ -76,7 +76,7 @@ void QtToolkit::message(const std::string& text) {
 void QtToolkit::beep() { QApplication::beep(); }
 
 std::string QtToolkit::askWhereToSave(const SaveAsDialog& dialog) {
-    QFileDialog chooser(QApplication::activeWindow(), toQt(dialog.Title), QDir::homePath());
+    QFileDialog chooser(nullptr, toQt(dialog.Title), QDir::homePath());
     chooser.setAcceptMode(QFileDialog::AcceptSave);
     chooser.setLabelText(QFileDialog::FileName, toQt(dialog.PromptText));
     chooser.selectFile(toQt(dialog.SuggestedFileName));
@@ -84,7 +84,7 @@ std::string QtToolkit::askWhereToSave(const SaveAsDialog& dialog) {
 }
 
 std::string QtToolkit::askForFile(const OpenDialog& dialog) {
-    QFileDialog chooser(QApplication::activeWindow(), toQt(dialog.Title), QDir::homePath());
+    QFileDialog chooser(nullptr, toQt(dialog.Title), QDir::homePath());
     chooser.setFileMode(QFileDialog::ExistingFile);
     return chosenPath(chooser);
 }
@@ -95,7 +95,7 @@ std::unique_ptr<Graphics> QtToolkit::openPrinterDialog(const Paper* paper) {
     std::unique_ptr<QPrinter> printer = makePrinter();
     if (const auto* chosen = dynamic_cast<const QtPaper*>(paper))
         printer->setPageLayout(chosen->layout());
-    QPrintDialog dialog(printer.get(), QApplication::activeWindow());
+    QPrintDialog dialog(printer.get()); // of no window, which might go while the dialog is open
     if (dialog.exec() != QDialog::Accepted)
         return nullptr;
     return PrintJob::begin(std::move(printer));

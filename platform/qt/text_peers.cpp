@@ -51,6 +51,8 @@ void TextFieldPeer::tellText() {
         return;
     const int cursor = charactersIn(text(), cursorPosition());
     deliver([&] { control_->userChanged(fromQt(text()), cursor, 0); });
+    if (control_ != nullptr && text().contains(QLatin1Char('\n')))
+        sync();
 }
 
 void TextFieldPeer::keyPressEvent(QKeyEvent* event) {
@@ -72,16 +74,19 @@ TextAreaPeer::TextAreaPeer(TextArea& area, QWidget* parent) : Peer(area, parent)
         new SpellingMarker(document(), Dictionary::ofDesktop());
     controlChanged();
     connect(this, &QPlainTextEdit::textChanged, this, [this] {
-        if (control_ != nullptr)
-            deliver([this] { control_->userTyped(textOf(*document())); });
+        if (control_ == nullptr)
+            return;
+        shown_ = textOf(*document());
+        deliver([this] { control_->userTyped(shown_); });
     });
 }
 
 void TextAreaPeer::sync() {
-    if (control_->Text() == textOf(*document()))
+    if (control_->Text() == shown_)
         return;
+    shown_ = control_->Text();
     const QSignalBlocker quiet(this);
-    setPlainText(tallyvane::toQt(control_->Text()));
+    setPlainText(tallyvane::toQt(shown_));
 }
 
 void TextAreaPeer::replaceSelection(std::string_view text) { textCursor().insertText(tallyvane::toQt(text)); }

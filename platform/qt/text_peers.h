@@ -4,6 +4,8 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
+#include <string>
+
 #include "platform/qt/peer.h"
 #include "platform/text_controls.h"
 
@@ -33,6 +35,8 @@ protected:
 
 private:
     void offerSpellings(QMenu& menu, QTextCursor place);
+
+    std::string shown_; // the area's text as it was brought here, or as the user has changed it
 };
 
 } // namespace tallyvane

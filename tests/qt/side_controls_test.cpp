@@ -1,0 +1,103 @@
+/// Fields, picture buttons and lists as the side windows use them, with real events.
+#include <QClipboard>
+#include <QDragEnterEvent>
+#include <QMimeData>
+
+#include "platform/qt/text_peers.h"
+#include "qt/qt_desk.h"
+#include "settings/globals.h"
+
+namespace tallyvane {
+
+namespace {
+
+class SideControlsTest : public QtDesk {
+protected:
+    void drop(QMimeData& data, Qt::DropActions possible) {
+        QDragEnterEvent enter({20, 20}, possible, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(list_->viewport(), &enter);
+        QDropEvent event(QPointF(20, 20), possible, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(list_->viewport(), &event);
+        accepted_ = event.isAccepted() ? event.dropAction() : Qt::IgnoreAction;
+    }
+
+    ListboxPeer* list_ = nullptr;
+    Qt::DropAction accepted_ = Qt::IgnoreAction;
+};
+
+TEST_F(SideControlsTest, AFieldRefusesKeysAndTakesAPasteInOneLine) {
+    start();
+    app_->FilePreferences_Action();
+    PrefsWindow& prefs = *app_->prefsWindow();
+    auto* field = frameTitled(QStringLiteral("Preferences"))->findChildren<TextFieldPeer*>().value(0);
+    ASSERT_NE(field, nullptr);
+    field->setFocus();
+    field->selectAll();
+    QTest::keyClicks(field, QStringLiteral("1x8,0"));
+    QTest::keyClick(field, Qt::Key_Home);
+    EXPECT_EQ(prefs.EditField1.Text(), "180");
+    EXPECT_EQ(Globals::gOver, 180);
+    EXPECT_EQ(field->cursorPosition(), 3) << "the key was refused";
+    field->selectAll();
+    QGuiApplication::clipboard()->setText(QStringLiteral("7.5\nx"));
+    field->paste();
+    EXPECT_EQ(prefs.EditField1.Text(), "7.5 x");
+    EXPECT_EQ(field->text(), QStringLiteral("7.5 x"));
+}
+
+TEST_F(SideControlsTest, APictureButtonByMouseAndByKeys) {
+    start();
+    auto* journal = frame_->findChild<QPlainTextEdit*>();
+    journal->setPlainText(QStringLiteral("felt so well"));
+    QTextCursor word = journal->textCursor();
+    word.setPosition(5);
+    word.setPosition(7, QTextCursor::KeepAnchor);
+    journal->setTextCursor(word);
+    CanvasPeer* date = nullptr;
+    for (auto* canvas : frame_->findChildren<CanvasPeer*>())
+        if (canvas->toolTip() == QStringLiteral("Add date to journal"))
+            date = canvas;
+    ASSERT_NE(date, nullptr);
+    QTest::mousePress(date, Qt::LeftButton, {}, {5, 5});
+    QTest::mouseMove(date, {50, 5});
+    QTest::mouseRelease(date, Qt::LeftButton, {}, {50, 5});
+    EXPECT_EQ(journal->toPlainText(), QStringLiteral("felt so well")) << "released outside";
+    QTest::mouseClick(date, Qt::LeftButton, {}, {5, 5});
+    const QString today = toQt(Date().AbbreviatedDate());
+    EXPECT_EQ(journal->toPlainText(), QStringLiteral("felt ") + today + QStringLiteral(" well"))
+        << "in place of the selection";
+    QTest::keyClick(date, Qt::Key_Space);
+    EXPECT_EQ(Globals::gJournal, fromQt(QStringLiteral("felt ") + today + today + QStringLiteral(" well")));
+}
+
+TEST_F(SideControlsTest, DropsAreCopies) {
+    start();
+    app_->window1()->showResources();
+    list_ = frameTitled(QStringLiteral("Files"))->findChild<ListboxPeer*>();
+    Listbox& resources = app_->files()->ListBox1;
+
+    QMimeData link;
+    link.setText(QStringLiteral("www.example.org"));
+    drop(link, Qt::MoveAction | Qt::CopyAction);
+    EXPECT_EQ(accepted_, Qt::CopyAction) << "a move would cut the text from where it stands";
+    EXPECT_EQ(resources.ListCount(), 1);
+    drop(link, Qt::MoveAction);
+    EXPECT_EQ(resources.ListCount(), 1) << "one that can only be moved";
+
+    QMimeData files;
+    files.setUrls(
+        {QUrl::fromLocalFile(toQt(folder_.string()) + QLatin1Char('/')), QUrl::fromLocalFile(QStringLiteral("/a b"))});
+    drop(files, Qt::CopyAction);
+    ASSERT_EQ(resources.ListCount(), 3);
+    EXPECT_EQ(resources.Cell(1, 0), folder_.filename().string());
+    EXPECT_EQ(resources.Cell(2, 0), "a b");
+
+    const QPoint row = list_->visualRect(list_->model()->index(0, 0)).center();
+    QTest::mouseClick(list_->viewport(), Qt::LeftButton, Qt::ControlModifier, row);
+    EXPECT_EQ(resources.openRow(), 0) << "opened for another name";
+    EXPECT_FALSE(table_->acceptDrops() && app_->window1()->ListBox1.DropObject) << "the table of days takes none";
+}
+
+} // namespace
+
+} // namespace tallyvane
