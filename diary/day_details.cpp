@@ -2,6 +2,7 @@
 
 #include "platform/text.h"
 #include "settings/data_files.h"
+#include "settings/log_record.h"
 
 namespace tallyvane {
 
@@ -9,8 +10,6 @@ namespace {
 
 constexpr std::string_view endOfMedications = "endofmeds";
 constexpr std::string_view betweenTexts = "     ";
-
-std::string withLineEnds(std::string_view field) { return ReplaceAll(field, DataFiles::lineEndMark, EndOfLine); }
 
 } // namespace
 
@@ -34,8 +33,8 @@ DayDetails DayDetails::of(const Date& day) {
         }
         ++details.medicationLines;
     } while (line != endOfMedications && !stream->EndOfFile());
-    details.food = withLineEnds(stream->ReadLine());
-    details.exercise = withLineEnds(stream->ReadLine());
+    details.food = withLineEnds(std::string(stream->ReadLine()));
+    details.exercise = withLineEnds(std::string(stream->ReadLine()));
     return details;
 }
 

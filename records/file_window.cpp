@@ -18,6 +18,19 @@ bool isWebAddress(std::string_view text) { return InStr(text, "www") > 0; }
 bool isMailAddress(std::string_view text) { return InStr(text, "@") > 0; }
 bool isLink(std::string_view text) { return isWebAddress(text) || isMailAddress(text); }
 
+/// A name that no separator can be found in, nor at its end together with the separator that follows.
+std::string storableName(std::string name) {
+    for (const std::string_view separator : {DataFiles::subfieldSeparator, DataFiles::entrySeparator})
+        while (InStr(name, separator) > 0)
+            name = ReplaceAll(name, separator, separator.substr(1));
+    if (name.ends_with('@') || name.ends_with('#'))
+        name += ' ';
+    return name;
+}
+
+/// A target without the "#" at its end, which leads nowhere and would become part of the separator that follows.
+std::string_view storableTarget(std::string_view target) { return target.substr(0, target.find_last_not_of('#') + 1); }
+
 } // namespace
 
 fileWindow::fileWindow() {
@@ -70,7 +83,12 @@ void fileWindow::Event_Open() {
 
 void fileWindow::Event_Close() {
     Globals::gFileWindowOpen = false;
-    saveFileList();
+    try {
+        saveFileList();
+    } catch (const IOException&) {
+        Globals::gFileWindowOpen = true; // the window stays
+        throw;
+    }
 }
 
 void fileWindow::getFileList() {
@@ -93,21 +111,22 @@ void fileWindow::getFileList() {
     }
 }
 
-void fileWindow::saveFileList() {
+bool fileWindow::saveFileList() {
     if (ListBox1.ListCount() == 0)
-        return;
+        return false;
     std::optional<TextOutputStream> stream = DataFiles::createText(DataFiles::innerFileToWrite(DataFiles::resources));
     if (!stream)
-        return;
+        return false;
     for (int row = 0; row < ListBox1.ListCount(); ++row) {
         if (row > 0)
             stream->Write(DataFiles::entrySeparator);
-        stream->Write(ListBox1.Cell(row, nameColumn));
+        stream->Write(storableName(ListBox1.Cell(row, nameColumn)));
         stream->Write(DataFiles::subfieldSeparator);
-        stream->Write(ListBox1.Cell(row, targetColumn));
+        stream->Write(storableTarget(ListBox1.Cell(row, targetColumn)));
     }
     stream->WriteLine("");
     stream->Close();
+    return true;
 }
 
 // Adding and removing
@@ -121,9 +140,10 @@ void fileWindow::addFile(const FolderItem& file) {
 void fileWindow::addLink(const std::string& link) {
     ListBox1.AddRow(link);
     ListBox1.Cell(ListBox1.LastIndex(), targetColumn, link);
-    saveFileList();
-    ListBox1.DeleteAllRows();
-    getFileList();
+    if (saveFileList()) {
+        ListBox1.DeleteAllRows();
+        getFileList();
+    }
     ListBox1.RowPicture(ListBox1.ListCount() - 1, Picture("webFileIcon.png"));
 }
 
@@ -138,7 +158,7 @@ void fileWindow::ListBox1_DropObject(const DragItem& item) {
     else if (!item.text)
         Beep();
     else if (isLink(*item.text))
-        addLink(*item.text);
+        addLink(Trim(*item.text));
 }
 
 void fileWindow::BevelButton2_Action() {
@@ -158,12 +178,11 @@ bool fileWindow::ListBox1_CellBackgroundPaint(Graphics& g, int /*row*/, int /*co
 void fileWindow::ListBox1_Change() { BevelButton2.Enabled(ListBox1.ListIndex() >= 0); }
 
 void fileWindow::ListBox1_DoubleClick() {
-    constexpr std::string_view scheme = "mailto:";
     const std::string& target = ListBox1.Cell(ListBox1.ListIndex(), targetColumn);
     if (const std::optional<FolderItem> file = FolderItem::GetRelative(target))
         file->Launch();
     else if (isMailAddress(target))
-        ShowURL(target.starts_with(scheme) ? target : std::string(scheme) + target);
+        ShowMail(target);
     else if (isWebAddress(target))
         ShowURL(target);
 }

@@ -27,8 +27,9 @@ public:
 
     /// Adds the entries of the file to the list.
     void getFileList();
-    /// Nothing for an empty list: the file keeps the entries of before.
-    void saveFileList();
+    /// Whether the list was written: not when it is empty, and the file keeps the entries of before, nor when the file
+    /// can't be had. Throws IOException when the disk fails.
+    bool saveFileList();
 
     bool ListBox1_CellBackgroundPaint(Graphics& g, int row, int column);
     void ListBox1_Change();

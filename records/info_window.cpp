@@ -54,8 +54,10 @@ void InfoWindow::Event_Open() {
     getMeds();
 }
 
+void InfoWindow::Event_Close() { saveBoth(); }
+
 /// What fails one file does not cost the other.
-void InfoWindow::Event_Close() {
+void InfoWindow::saveBoth() {
     std::exception_ptr failure;
     try {
         saveContacts();
@@ -79,8 +81,7 @@ void InfoWindow::saveContacts() { RowFile::save(ListBox1, DataFiles::contacts); 
 void InfoWindow::saveMeds() { RowFile::save(ListBox2, DataFiles::medications); }
 
 void InfoWindow::PushButton1_Action() {
-    saveContacts();
-    saveMeds();
+    saveBoth();
     Close();
 }
 
@@ -132,12 +133,11 @@ void InfoWindow::BevelButton2_Action() {
 }
 
 void InfoWindow::Canvas2_Action() {
-    constexpr std::string_view scheme = "mailto:";
     const std::string& address = EditField4.Text();
     if (InStr(address, "@") == 0)
         MsgBox("Not a valid email address");
     else
-        ShowURL(address.starts_with(scheme) ? address : std::string(scheme) + address);
+        ShowMail(address);
 }
 
 // Medications

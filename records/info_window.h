@@ -1,7 +1,5 @@
 #pragma once
 
-#include <array>
-
 #include "platform/window.h"
 #include "records/auto_button/auto_button.h"
 
@@ -48,6 +46,7 @@ public:
     void PushButton1_Action();
 
 private:
+    void saveBoth();
     void layOut();
     void build();
     void wire();

@@ -1,5 +1,7 @@
 #include "records/info_window.h"
 
+#include <array>
+
 namespace tallyvane {
 
 namespace {

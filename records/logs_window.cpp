@@ -61,6 +61,7 @@ void logsWindow::getLogs() {
     if (!stream)
         return;
     const LogRecord record = readLogRecord(*stream);
+    // Showing a text also puts it, with its line ends, into its global; an empty one changes nothing.
     Globals::gExercise = record.exercise;
     ExerciseFld.Text(withLineEnds(record.exercise));
     Globals::gFood = record.food;
@@ -78,7 +79,9 @@ void logsWindow::saveLogs() {
 }
 
 void logsWindow::saveToDisk(const TextArea& field, const std::string& prompt) {
-    saveText(field.Text(), {"Save", prompt, page().fileName});
+    for (const Page& candidate : pages())
+        if (candidate.field == &field)
+            saveText(field.Text(), {"Save", prompt, candidate.fileName});
 }
 
 void logsWindow::printLog(const TextArea& field) { printText(field.Text()); }

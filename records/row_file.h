@@ -6,7 +6,7 @@
 
 namespace tallyvane {
 
-/// A list in a file of the application's folder: a line for each row, the first columns joined.
+/// A list in a file of the application's folder: a line for each row, its columns joined.
 namespace RowFile {
 
 /// Appends a row for each line; an empty file has one, which is empty. False, and no change, when there is no file.

@@ -77,19 +77,19 @@ void EditHeadings::getHeadings() {
         fill(*headings);
 }
 
-void EditHeadings::SaveHeadings() {
+Headings EditHeadings::texts() {
     Headings headings;
-    for (std::size_t i = 0; i < headings.size(); ++i)
-        headings[i] = fields()[i]->Text();
-    tallyvane::saveHeadings(headings);
+    std::size_t i = 0;
+    for (const TextField* field : fields())
+        headings[i++] = field->Text();
+    return headings;
 }
 
+void EditHeadings::SaveHeadings() { saveHeadings(texts()); }
+
 void EditHeadings::showAndClose() {
-    Headings headings;
-    for (std::size_t i = 0; i < headings.size(); ++i)
-        headings[i] = fields()[i]->Text();
     if (showHeadings)
-        showHeadings(headings);
+        showHeadings(texts());
     Close();
 }
 

@@ -38,6 +38,7 @@ public:
 private:
     std::array<TextField*, 13> fields();
     void fill(const Headings& headings);
+    Headings texts();
     void showAndClose();
 };
 

@@ -7,8 +7,8 @@
 
 namespace tallyvane {
 
-/// The dialog of the four personal limits and the switch of the lights. Every key takes effect at once and stays; there
-/// is no way back but typing.
+/// The dialog of the four personal limits and the switch of the lights. Every change takes effect at once and stays;
+/// there is no way back but typing.
 class PrefsWindow : public Window {
 public:
     PrefsWindow();

@@ -168,6 +168,10 @@ void App::Event_Deactivate() {
 }
 
 void App::Event_DisplayLost() {
+    const std::vector<Window*> windows = Window::openWindows();
+    for (Window* window : windows)
+        if (window != window1_.get())
+            run([window] { window->Event_Close(); });
     if (window1_ && window1_->isOpen())
         window1_->saveAll();
 }

@@ -117,11 +117,10 @@ void AutoButton::Event_MouseDrag(int x, int y) {
 }
 
 void AutoButton::Event_MouseUp(int x, int y) {
-    if (isInside(x, y)) {
-        if (Enabled() && !Toggle)
-            showAtRest();
+    if (Enabled() && !Toggle)
+        showAtRest(); // also when released on the edge, which is neither inside nor outside
+    if (isInside(x, y))
         raise(Action);
-    }
     if (!dragOutside)
         raise(MouseUp);
     dragOutside = false;

@@ -29,7 +29,7 @@ public:
     /// The pointer has left the button during this press.
     bool dragOutside = false;
 
-    // Events, in the order of a button's life
+    // Events
     std::function<void()> open;
     std::function<void()> Action; // released inside the button
     std::function<void()> MouseDown;

@@ -26,6 +26,8 @@ Pixel disabledLook(Pixel pixel) {
 Pixel pressedLook(Pixel pixel) {
     constexpr double darker = 0.2;
     const double value = std::max({pixel.red, pixel.green, pixel.blue}) / most;
+    if (isWhite(pixel))
+        pixel.alpha = 0;
     if (isWhite(pixel) || value == 0)
         return pixel;
     // With hue and saturation kept, all channels go with the value.

@@ -5,9 +5,11 @@
 
 namespace tallyvane {
 
-/// Half transparent; white, the colour that shows nothing in such pictures, wholly so.
+// White is the colour that shows nothing in such pictures.
+
+/// Half transparent; white wholly so.
 Pixel disabledLook(Pixel pixel);
-/// The same hue and saturation, darker by a fifth of the range of values; white stays.
+/// The same hue and saturation, darker by a fifth of the range of values; white wholly transparent.
 Pixel pressedLook(Pixel pixel);
 
 } // namespace tallyvane

@@ -69,10 +69,12 @@ TEST(AutoButton, APressFromStepToStep) {
           {'m', 5, 21, "Down ", "rest", false},
           {'m', 5, 20, "Down ", "rest", false},
           {'u', 5, 20, "Down ", "rest", false}}},
-        {"released on the edge",
+        {"released on the edge: no Action, and the next press works",
          false,
          true,
-         {{'d', 5, 5, "Down ", "pressed", false}, {'u', 0, 5, "Down Up ", "pressed", false}}},
+         {{'d', 5, 5, "Down ", "pressed", false},
+          {'u', 0, 5, "Down Up ", "rest", false},
+          {'d', 0, 5, "Down Up Down ", "pressed", false}}},
         {"disabled", false, false, {{'d', 5, 5, "", "disabled", false}}},
         {"a toggle on and off",
          true,
@@ -163,7 +165,7 @@ TEST(AutoButton, LooksOfAPixel) {
         Pixel pressed;
     };
     const Row rows[] = {
-        {"white", {255, 255, 255, 255}, {255, 255, 255, 0}, {255, 255, 255, 255}},
+        {"white", {255, 255, 255, 255}, {255, 255, 255, 0}, {255, 255, 255, 0}},
         {"red", {255, 0, 0, 255}, {255, 0, 0, 130}, {204, 0, 0, 255}},
         {"a pale blue: 200 of value becomes 149", {80, 150, 200, 255}, {80, 150, 200, 130}, {60, 112, 149, 255}},
         {"too dark to be darker", {40, 51, 20, 255}, {40, 51, 20, 130}, {0, 0, 0, 255}},

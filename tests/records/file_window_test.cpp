@@ -1,6 +1,7 @@
 #include "records/file_window.h"
 
 #include "settings/globals.h"
+#include "support/failing_disk.h"
 #include "support/test_desk.h"
 
 namespace tallyvane {
@@ -124,6 +125,44 @@ TEST_F(FileWindowTest, AListThatBeganEmptyKeepsItsFile) {
     files_.BevelButton2.Action();
     files_.Close();
     EXPECT_EQ(read(list()), "note@@@" + file.GetSaveInfo() + "\n");
+}
+
+TEST_F(FileWindowTest, NamesAndTargetsThatTouchTheSeparatorsComeBack) {
+    const FolderItem odd = fileNamed("a@@@b###c@");
+    files_.Show();
+    files_.ListBox1.DropObject({odd, std::nullopt});
+    files_.ListBox1.DropObject({std::nullopt, " www.example.org/#\n"});
+    files_.ListBox1.DropObject({odd, std::nullopt});
+    files_.Close();
+    fileWindow again;
+    again.Show();
+    ASSERT_EQ(again.ListBox1.ListCount(), 3);
+    EXPECT_EQ(again.ListBox1.Cell(0, 0), "a@@b##c@ ");
+    EXPECT_EQ(again.ListBox1.Cell(0, 1), odd.GetSaveInfo());
+    EXPECT_EQ(again.ListBox1.Cell(1, 1), "www.example.org/");
+    EXPECT_EQ(FolderItem::GetRelative(again.ListBox1.Cell(2, 1)), odd);
+}
+
+TEST_F(FileWindowTest, AFileThatCannotBeWrittenCostsNothingOnShow) {
+    openWith("a@@@www.b\n");
+    std::filesystem::remove(list());
+    std::filesystem::create_directory(list()); // no plain file any more
+    files_.ListBox1.DropObject({std::nullopt, "www.new"});
+    ASSERT_EQ(files_.ListBox1.ListCount(), 2);
+    EXPECT_EQ(files_.ListBox1.RowPicture(1), Picture("webFileIcon.png"));
+}
+
+TEST_F(FileWindowTest, ADiskThatFailsKeepsTheWindowOpen) {
+    openWith("a@@@www.b\n");
+    files_.ListBox1.Cell(0, 0, "a longer name than before");
+    {
+        const FailingDisk disk(FailingDisk::Call::reserve);
+        EXPECT_THROW(files_.Close(), IOException);
+    }
+    EXPECT_TRUE(files_.isOpen());
+    EXPECT_TRUE(Globals::gFileWindowOpen);
+    files_.Close();
+    EXPECT_EQ(read(list()), "a longer name than before@@@www.b\n");
 }
 
 TEST_F(FileWindowTest, RenamingReachesTheFileAtTheNextSave) {

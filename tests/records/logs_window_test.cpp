@@ -79,7 +79,6 @@ TEST_F(LogsWindowTest, TheButtonsActOnThePageInFront) {
         EXPECT_EQ(read(folder_ / "saved log"), "one\ntwo 2026-11-22");
 
         logs_.AutoButton2.Action();
-        GraphicsRecorder pages(0, 0);
         ASSERT_EQ(toolkit_.printed.size(), 2U);
         EXPECT_EQ(toolkit_.printed[0].text + "|" + toolkit_.printed[1].text, "one|two 2026-11-22");
         EXPECT_EQ(toolkit_.printed[0].numbers, (std::vector<double>{50, 59})) << "at 50, its ascent below 50";

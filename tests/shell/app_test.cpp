@@ -215,6 +215,66 @@ TEST_F(AppTest, MenuItemsAnswerOrAreOff) {
     EXPECT_EQ(enabledItems(app, app.splashWindow()), everywhere);
 }
 
+TEST_F(AppTest, TheWindowsAreJoined) {
+    App app;
+    app.Event_Open();
+    Window1& window1 = *app.window1();
+    window1.Timer1.Mode(Timer::ModeOff);
+    app.FilePreferences_Action();
+    window1.Timer1.Mode(Timer::ModeOff);
+    app.prefsWindow()->EditField1.userChanged("12", 0, 0);
+    EXPECT_EQ(window1.Timer1.Mode(), Timer::ModeSingle);
+
+    const auto press = [&](const char* button) { window1.Toolbar11_Action({button, "", "", "icon"}); };
+    press("HeadingsBtn");
+    app.editHeadings()->TextField1.userChanged("Dawn", 0, 0);
+    app.editHeadings()->PushButton2.Action();
+    EXPECT_EQ(window1.StaticText13.Text(), "Breakfast");
+    press("HeadingsBtn");
+    EXPECT_EQ(app.editHeadings()->TextField1.Text(), "Dawn") << "made anew, from the file";
+    app.editHeadings()->PushButton1.Action();
+    EXPECT_EQ(window1.StaticText13.Text(), "Dawn");
+
+    press("LogsBtn");
+    app.logs()->FoodFld.userTyped("bread\nmilk");
+    app.logs()->Close();
+    press("LogsBtn");
+    press("LogsBtn"); // it is there already
+    EXPECT_EQ(app.logs()->FoodFld.Text(), "bread\nmilk");
+    press("TeamMedBtn");
+    EXPECT_EQ(app.infoWindow()->ListBox1.ListCount(), 3);
+    press("ResourcesBtn");
+    EXPECT_TRUE(app.files()->isOpen());
+    press("ResourcesBtn");
+    EXPECT_FALSE(app.files()->isOpen());
+}
+
+TEST_F(AppTest, WhatIsOpenIsSavedWhenTheDisplayGoes) {
+    App app;
+    app.Event_Open();
+    app.window1()->Toolbar11_Action({"LogsBtn", "", "", "icon"});
+    app.logs()->FoodFld.userTyped("bread");
+    app.Event_DisplayLost();
+    EXPECT_EQ(read(applicationFile("Tallyvane") / "QVXLogData"), "@#@bread@#@@#@\n");
+}
+
+TEST_F(AppTest, AWindowThatCannotBeSavedDoesNotCostTheOthers) {
+    App app;
+    app.Event_Open();
+    app.window1()->Toolbar11_Action({"HeadingsBtn", "", "", "icon"});
+    app.window1()->Toolbar11_Action({"LogsBtn", "", "", "icon"});
+    app.editHeadings()->TextField1.userChanged("Dawn", 0, 0);
+    app.logs()->FoodFld.userTyped("bread");
+    {
+        const FailingDisk disk(FailingDisk::Call::reserve); // once: under the main window
+        EXPECT_THROW(Quit(0), IOException);
+    }
+    EXPECT_TRUE(app.window1()->isOpen());
+    EXPECT_EQ(read(applicationFile("7VXHeadings")).substr(0, 5), "Dawn\n");
+    EXPECT_EQ(read(applicationFile("Tallyvane") / "QVXLogData"), "@#@bread@#@@#@\n");
+    EXPECT_TRUE(toolkit_.quits.empty()) << "the program goes on";
+}
+
 TEST_F(AppTest, HelpAndAboutItems) {
     App app;
     app.Event_Open();
