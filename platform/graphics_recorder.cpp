@@ -24,6 +24,7 @@ void GraphicsRecorder::DrawString(std::string_view text, double x, double y) {
     Call call{"DrawString", ForeColor(), std::string(text), {x, y}};
     call.textSize = TextSize();
     call.font = TextFont();
+    call.style = Style();
     calls_.push_back(std::move(call));
 }
 

@@ -21,6 +21,7 @@ public:
         double penHeight = 1;
         double textSize = 0; // of DrawString
         FontName font = {};
+        TextStyle style = {};
 
         bool operator==(const Call&) const = default;
     };

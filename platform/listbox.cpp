@@ -95,7 +95,7 @@ Listbox::RowLook& Listbox::lookOf(int row) {
     return *look;
 }
 
-TextStyle Listbox::CellStyle(int row, int column) const {
+TextStyle Listbox::styleOf(int row, int column) const {
     if (!contains(row, column) || !rows_[index(row)].look)
         return {};
     const auto& styles = rows_[index(row)].look->styles;
@@ -103,10 +103,10 @@ TextStyle Listbox::CellStyle(int row, int column) const {
     return found == styles.end() ? TextStyle() : found->second;
 }
 
-void Listbox::CellStyle(int row, int column, TextStyle style) {
+void Listbox::setStyle(int row, int column, bool TextStyle::*part, bool on) {
     if (!contains(row, column))
         return;
-    lookOf(row).styles[column] = style;
+    lookOf(row).styles[column].*part = on;
     changed();
 }
 

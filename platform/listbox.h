@@ -85,9 +85,14 @@ public:
     void AddRow(std::string_view text);
     void RemoveRow(int row);
     void DeleteAllRows();
-    /// How a cell's text is set off, also in print.
-    TextStyle CellStyle(int row, int column) const;
-    void CellStyle(int row, int column, TextStyle style);
+    // How a cell's text is set off, also in print
+    bool CellBold(int row, int column) const { return styleOf(row, column).bold; }
+    void CellBold(int row, int column, bool on) { setStyle(row, column, &TextStyle::bold, on); }
+    bool CellItalic(int row, int column) const { return styleOf(row, column).italic; }
+    void CellItalic(int row, int column, bool on) { setStyle(row, column, &TextStyle::italic, on); }
+    bool CellUnderline(int row, int column) const { return styleOf(row, column).underline; }
+    void CellUnderline(int row, int column, bool on) { setStyle(row, column, &TextStyle::underline, on); }
+    TextStyle styleOf(int row, int column) const;
     /// A small picture before the text of column 0; empty for none.
     std::optional<Picture> RowPicture(int row) const;
     void RowPicture(int row, Picture picture);
@@ -106,6 +111,14 @@ public:
     int SelectedCount() const { return selectedCount_; }
     /// Selects these rows and no other. Raises Change once when the selection differs.
     void select(const std::vector<bool>& rows);
+
+    // What may be dropped on the list
+
+    /// Files of any type; "all" is the only kind there is.
+    void AcceptFileDrop(std::string_view /*kind*/) { acceptsFiles_ = true; }
+    void AcceptTextDrop() { acceptsTexts_ = true; }
+    bool acceptsFiles() const { return acceptsFiles_; }
+    bool acceptsTexts() const { return acceptsTexts_; }
 
     // Editing in place
 
@@ -152,7 +165,7 @@ public:
     std::function<void()> DoubleClick;
     /// A click with the platform's key for shortcuts held down; also F2.
     std::function<void(int row, int column)> CellCommandClick;
-    /// A file or a text was dropped on the list. A list that hears of it takes both.
+    /// A file or a text was dropped on the list.
     std::function<void(const DragItem& item)> DropObject;
     /// Paints below the text of a cell; the surface is the cell. Also called for rows that do not exist.
     std::function<bool(Graphics& g, int row, int column)> CellBackgroundPaint;
@@ -187,6 +200,7 @@ private:
         return row >= 0 && row < ListCount() && column >= 0 && column < ColumnCount();
     }
     RowLook& lookOf(int row);
+    void setStyle(int row, int column, bool TextStyle::*part, bool on);
     void raiseChange();
     void write(int row, int column, std::string_view text);
     void raiseTextChange(int row, int column);
@@ -195,6 +209,8 @@ private:
     std::string columnWidths_;
     bool hasHeading_ = true;
     bool border_ = false;
+    bool acceptsFiles_ = false;
+    bool acceptsTexts_ = false;
     int rowHeight_ = 15;
     SelectionTypes selectionType_ = SelectionTypes::single;
     std::vector<Row> rows_;

@@ -48,6 +48,8 @@ fileWindow::fileWindow() {
     ListBox1.ColumnWidths("100%");
     ListBox1.HasHeading(false);
     ListBox1.Border(true);
+    ListBox1.AcceptFileDrop("all");
+    ListBox1.AcceptTextDrop();
     ListBox1.DefaultRowHeight(22);
     ListBox1.AccessibleName("Resources");
     BevelButton1.Caption("+");

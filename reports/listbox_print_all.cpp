@@ -96,11 +96,10 @@ int ListboxPrintAll::printHeaders(int firstColumn, Graphics& g, float scale, std
 
 void ListboxPrintAll::printCell(int row, int column, Graphics& g, int x, int y, int width, int& height) const {
     const std::string& text = source->Cell(row, column);
-    const TextStyle style = source->CellStyle(row, column);
     setFont(g);
-    g.Bold(style.bold);
-    g.Italic(style.italic);
-    g.Underline(style.underline);
+    g.Bold(source->CellBold(row, column));
+    g.Italic(source->CellItalic(row, column));
+    g.Underline(source->CellUnderline(row, column));
     height = heightOf(g, text, width);
     if (row % 2 == 0) {
         g.ForeColor(backColor);

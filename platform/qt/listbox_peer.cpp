@@ -240,7 +240,9 @@ void ListboxPeer::commandClick(const QModelIndex& cell) {
 
 /// A drop is a copy, whatever the other side proposes: it would take a moved text or file away from where it was.
 bool ListboxPeer::takesDrop(QDropEvent& event) const {
-    const bool takes = control_ != nullptr && control_->DropObject && (event.possibleActions() & Qt::CopyAction) != 0;
+    const bool wanted = control_ != nullptr && control_->DropObject &&
+                        (event.mimeData()->hasUrls() ? control_->acceptsFiles() : control_->acceptsTexts());
+    const bool takes = wanted && (event.possibleActions() & Qt::CopyAction) != 0;
     event.setDropAction(takes ? Qt::CopyAction : Qt::IgnoreAction);
     event.setAccepted(takes);
     return takes;
@@ -351,7 +353,7 @@ void ListboxPeer::drawText(QPainter& painter, const QRect& area, int row, int co
     if (drawn)
         return;
     painter.setPen(tallyvane::toQt(g.ForeColor()));
-    const TextStyle style = control_->CellStyle(row, column);
+    const TextStyle style = control_->styleOf(row, column);
     QFont cellFont = font();
     cellFont.setBold(style.bold);
     cellFont.setItalic(style.italic);

@@ -47,7 +47,7 @@ TEST(PrintJob, AnythingPrintedIsTextInThePdf) {
         }
     }
     const std::string text = textOf(file);
-    for (const int line : {1, 50, 120})
+    for (int line = 1; line <= 120; ++line)
         EXPECT_NE(text.find("line " + std::to_string(line) + " of the journal\n"), std::string::npos) << line;
     EXPECT_EQ(std::count(text.begin(), text.end(), '\f'), 3) << "pages";
 }

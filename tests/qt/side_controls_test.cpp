@@ -3,6 +3,7 @@
 #include <QDragEnterEvent>
 #include <QMimeData>
 
+#include "platform/qt/qt_bitmap.h"
 #include "platform/qt/text_peers.h"
 #include "qt/qt_desk.h"
 #include "settings/globals.h"
@@ -68,6 +69,30 @@ TEST_F(SideControlsTest, APictureButtonByMouseAndByKeys) {
         << "in place of the selection";
     QTest::keyClick(date, Qt::Key_Space);
     EXPECT_EQ(Globals::gJournal, fromQt(QStringLiteral("felt ") + today + today + QStringLiteral(" well")));
+}
+
+TEST_F(SideControlsTest, TheLooksOfAPictureButtonPixelByPixel) {
+    start();
+    const AutoButton& button = app_->window1()->AutoButton14;
+    const auto imageOf = [](const Picture& picture) { return dynamic_cast<QtBitmap&>(*picture.Bitmap()).image(); };
+    const QImage disabled = imageOf(*button.disabledIcon);
+    const QImage pressed = imageOf(*button.pressedIcon);
+    Picture plain(32, 32, 32);
+    plain.Graphics().DrawPicture(*button.enabledIcon, 0, 0);
+    const QImage enabled = imageOf(plain);
+    ASSERT_EQ(disabled.size(), enabled.size());
+    int covered = 0;
+    for (int y = 0; y < enabled.height(); ++y)
+        for (int x = 0; x < enabled.width(); ++x) {
+            const QColor was = enabled.pixelColor(x, y);
+            if (was.alpha() < 255 || was == Qt::white) // edges are rounded on the way
+                continue;
+            ++covered;
+            EXPECT_EQ(disabled.pixelColor(x, y).alpha(), 130) << x << ' ' << y;
+            EXPECT_EQ(pressed.pixelColor(x, y).alpha(), 255) << x << ' ' << y;
+            EXPECT_NEAR(pressed.pixelColor(x, y).value(), std::max(0, was.value() - 51), 1) << x << ' ' << y;
+        }
+    EXPECT_GT(covered, 200);
 }
 
 TEST_F(SideControlsTest, DropsAreCopies) {

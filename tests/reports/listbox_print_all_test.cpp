@@ -83,6 +83,20 @@ TEST_F(PrintAllTest, PagesBeginWithTheHeadings) {
     EXPECT_EQ(std::count(lines.begin(), lines.end(), "text 3 24 'row 53'"), 1);
 }
 
+TEST_F(PrintAllTest, CellsKeepTheirStyles) {
+    addRow({"a", "b"});
+    list_.CellBold(0, 0, true);
+    list_.CellUnderline(0, 1, true);
+    list_.CellItalic(0, 1, true);
+    printed();
+    for (const GraphicsRecorder::Call& call : toolkit_.printed)
+        if (call.operation == "DrawString")
+            EXPECT_EQ(call.style, (call.text == "a"   ? TextStyle{true, false, false}
+                                   : call.text == "b" ? TextStyle{false, true, true}
+                                                      : TextStyle()))
+                << call.text;
+}
+
 TEST_F(PrintAllTest, EmptyCancelledOrWithoutHeadings) {
     EXPECT_EQ(printed().size(), 7U) << "headings and lines";
     toolkit_.printed.clear();
