@@ -1,86 +1,71 @@
 /// chart_gallery OUT: draws every chart of the gallery into the folder OUT, as a PNG and as a page of a PDF, each at 72
 /// and at 300 dots per inch, and all together on one sheet.
-#include <QDir>
-#include <QFile>
-#include <QGuiApplication>
-#include <QImage>
-#include <QPageSize>
-#include <QPainter>
-#include <QPdfWriter>
-
 #include <cmath>
 #include <cstdio>
+#include <filesystem>
 
 #include "cases.h"
-#include "platform/qt/painter_graphics.h"
-#include "platform/qt/qt_toolkit.h"
+#include "platform/qt/file_surfaces.h"
 
 namespace {
 
 using namespace tallyvane;
+using std::filesystem::path;
 
 constexpr int pointsWide = 480;
 constexpr int pointsHigh = 320;
 constexpr int sheetResolution = 72;
 constexpr int resolutions[] = {sheetResolution, 300};
-constexpr double pointsAnInch = 72;
 
-int dots(int points, int resolution) { return static_cast<int>(std::lround(points * resolution / pointsAnInch)); }
+int dots(int points, int resolution) { return static_cast<int>(std::lround(points * resolution / 72.0)); }
 
-void draw(GTGraph& graph, QPainter& painter, int resolution) {
-    PainterGraphics g(painter, {0, 0, dots(pointsWide, resolution), dots(pointsHigh, resolution)});
-    graph.Draw(g);
-}
-
-QImage imageOf(GTGraph& graph, int resolution) {
-    QImage image(dots(pointsWide, resolution), dots(pointsHigh, resolution), QImage::Format_RGB32);
-    image.fill(Qt::white);
-    {
-        QPainter painter(&image);
-        draw(graph, painter, resolution);
-    }
-    return image;
-}
-
-bool writeImages(const QDir& out, int resolution) {
+bool writePictures(const FileSurfaces& surfaces, const path& out, int resolution) {
     bool written = true;
     for (const GalleryCase& chart : galleryCases(resolution)) {
-        const QString name = QStringLiteral("%1_%2.png").arg(QString::fromStdString(chart.name)).arg(resolution);
-        written = imageOf(*chart.graph, resolution).save(out.filePath(name)) && written;
+        const path file = out / (chart.name + "_" + std::to_string(resolution) + ".png");
+        const auto draw = [&](Graphics& g) { chart.graph->Draw(g); };
+        written =
+            surfaces.writePicture(file, dots(pointsWide, resolution), dots(pointsHigh, resolution), draw) && written;
     }
     return written;
 }
 
-bool writePages(const QDir& out, int resolution) {
+bool writePages(const FileSurfaces& surfaces, const path& out, int resolution) {
     const std::vector<GalleryCase> cases = galleryCases(resolution);
-    QPdfWriter writer(out.filePath(QStringLiteral("gallery_%1.pdf").arg(resolution)));
-    writer.setResolution(resolution);
-    writer.setPageSize(QPageSize(QSizeF(pointsWide, pointsHigh), QPageSize::Point));
-    writer.setPageMargins({});
-    QPainter painter;
-    if (!painter.begin(&writer))
-        return false;
-    for (const GalleryCase& chart : cases) {
-        if (&chart != &cases.front() && !writer.newPage())
-            return false;
-        draw(*chart.graph, painter, resolution);
-    }
-    return painter.end();
+    std::vector<FileSurfaces::Drawing> pages;
+    for (const GalleryCase& chart : cases)
+        pages.emplace_back([&chart](Graphics& g) { chart.graph->Draw(g); });
+    const path file = out / ("gallery_" + std::to_string(resolution) + ".pdf");
+    return surfaces.writePdf(file, dots(pointsWide, resolution), dots(pointsHigh, resolution), resolution, pages);
 }
 
-bool writeSheet(const QDir& out) {
+/// A chart as a picture of its own, on white ground.
+Picture pictureOf(GTGraph& graph) {
+    Picture picture(pointsWide, pointsHigh, 32);
+    Graphics& g = picture.Graphics();
+    g.ForeColor(RGB(255, 255, 255));
+    g.FillRect(0, 0, g.Width(), g.Height());
+    graph.Draw(g);
+    return picture;
+}
+
+bool writeSheet(const FileSurfaces& surfaces, const path& out) {
     const std::vector<GalleryCase> cases = galleryCases(sheetResolution);
     constexpr int columns = 4;
     constexpr int gap = 12;
     const int rows = (static_cast<int>(cases.size()) + columns - 1) / columns;
-    QImage sheet(columns * (pointsWide + gap) + gap, rows * (pointsHigh + gap) + gap, QImage::Format_RGB32);
-    sheet.fill(QColor(225, 225, 225));
-    QPainter painter(&sheet);
-    for (int i = 0; i < static_cast<int>(cases.size()); ++i)
-        painter.drawImage(gap + i % columns * (pointsWide + gap), gap + i / columns * (pointsHigh + gap),
-                          imageOf(*cases[static_cast<std::size_t>(i)].graph, sheetResolution));
-    painter.end();
-    return sheet.save(out.filePath(QStringLiteral("contact_sheet.png")));
+    const auto draw = [&](Graphics& g) {
+        g.ForeColor(RGB(225, 225, 225));
+        g.FillRect(0, 0, g.Width(), g.Height());
+        int place = 0;
+        for (const GalleryCase& chart : cases) {
+            g.DrawPicture(pictureOf(*chart.graph), gap + place % columns * (pointsWide + gap),
+                          gap + place / columns * (pointsHigh + gap));
+            ++place;
+        }
+    };
+    return surfaces.writePicture(out / "contact_sheet.png", columns * (pointsWide + gap) + gap,
+                                 rows * (pointsHigh + gap) + gap, draw);
 }
 
 } // namespace
@@ -90,14 +75,14 @@ int main(int argc, char** argv) {
         std::fputs("usage: chart_gallery OUT\n", stderr);
         return 2;
     }
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QGuiApplication application(argc, argv);
-    const QtToolkit toolkit;
-    const QDir out(QFile::decodeName(argv[1]));
-    bool written = out.mkpath(QStringLiteral(".")) && writeSheet(out);
+    const path out = argv[1];
+    const FileSurfaces surfaces(argc, argv);
+    std::error_code error;
+    std::filesystem::create_directories(out, error); // what can't be made can't be written into
+    bool written = writeSheet(surfaces, out);
     for (const int resolution : resolutions)
-        written = written && writeImages(out, resolution) && writePages(out, resolution);
+        written = written && writePictures(surfaces, out, resolution) && writePages(surfaces, out, resolution);
     if (!written)
-        std::fprintf(stderr, "chart_gallery: cannot write into %s\n", argv[1]);
+        std::fprintf(stderr, "chart_gallery: cannot write into %s\n", out.c_str());
     return written ? 0 : 1;
 }
