@@ -37,9 +37,7 @@ bool moveByKey(Listbox& table, int row, int column, std::string_view key) {
         return false;
     if (target->reachable)
         table.EditCell(target->row, target->column);
-    TextField& cell = table.ActiveCell();
-    cell.SelStart(0);
-    cell.SelLength(Len(cell.Text()));
+    table.ActiveCell().SelectAll();
     return true;
 }
 

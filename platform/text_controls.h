@@ -27,6 +27,11 @@ public:
     int SelLength() const { return selLength_; }
     void SelLength(int value) { set(selLength_, value); }
 
+    void SelectAll() {
+        SelStart(0);
+        SelLength(Len(text_));
+    }
+
     /// The text and the selection as the user has just made them: as Text, but no news for the observer, who brings it.
     void userChanged(std::string_view text, int selStart, int selLength) {
         std::string line = ReplaceLineEndings(text, " ");

@@ -41,8 +41,7 @@ std::optional<CellPlace> cellBeside(const Listbox& list, CellPlace cell, const s
 
 void openWhole(Listbox& list, CellPlace cell) {
     list.EditCell(cell.row, cell.column);
-    list.ActiveCell().SelStart(0);
-    list.ActiveCell().SelLength(Len(list.ActiveCell().Text()));
+    list.ActiveCell().SelectAll();
 }
 
 } // namespace
