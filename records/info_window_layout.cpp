@@ -8,7 +8,7 @@ namespace {
 
 constexpr unsigned fixedPlace = lockLeft | lockTop;
 constexpr int detailLeft = 340;
-constexpr int rowHeight = 20;
+constexpr int rowHeight = 22;
 
 } // namespace
 

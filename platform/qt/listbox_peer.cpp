@@ -5,66 +5,17 @@
 #include <QHeaderView>
 #include <QMimeData>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
-#include <QStyledItemDelegate>
 #include <QUrl>
 
 #include "platform/qt/event_guard.h"
-#include "platform/qt/painter_graphics.h"
 
 namespace tallyvane {
-
-namespace {
-
-constexpr int fontPixels = 12;
-constexpr int headingHeight = 19;
-constexpr int scrollBarWidth = 15;
-constexpr int textMargin = 6;
-
-constexpr Color ground = RGB(255, 255, 255);
-constexpr Color text = RGB(16, 20, 26);
-constexpr Color headingGround = RGB(232, 236, 242);
-constexpr Color columnLine = RGB(186, 200, 220);
-constexpr Color selection = RGB(92, 152, 236);
-constexpr Color selectionLine = RGB(38, 92, 170);
-
-QPalette lightColors() {
-    QPalette colors(toQt(headingGround), toQt(headingGround));
-    colors.setColor(QPalette::Base, toQt(ground));
-    for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
-        colors.setColor(role, toQt(text));
-    colors.setColor(QPalette::Highlight, toQt(selection));
-    colors.setColor(QPalette::HighlightedText, toQt(text));
-    return colors;
-}
-
-Qt::Alignment toQt(int alignment) {
-    if (alignment == Listbox::AlignCenter)
-        return Qt::AlignHCenter;
-    return alignment == Listbox::AlignRight ? Qt::AlignRight : Qt::AlignLeft;
-}
-
-/// Has the list paint its cells.
-class CellPainter : public QStyledItemDelegate {
-public:
-    explicit CellPainter(ListboxPeer* peer) : QStyledItemDelegate(peer), peer_(peer) {}
-
-    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-        peer_->paintCell(*painter, option.rect, index.row(), index.column());
-    }
-
-private:
-    ListboxPeer* peer_;
-};
-
-} // namespace
 
 ListboxPeer::ListboxPeer(Listbox& list, QWidget* parent)
     : Peer(list, parent), model_(new ListboxModel(list, this)), editor_(new CellEditor(list, viewport())) {
     setModel(model_);
-    setItemDelegate(new CellPainter(this));
     setUpLook();
     setEditTriggers(NoEditTriggers);
     setSelectionBehavior(SelectRows);
@@ -81,26 +32,6 @@ ListboxPeer::ListboxPeer(Listbox& list, QWidget* parent)
     selectionChanged();
 }
 
-void ListboxPeer::setUpLook() {
-    setPalette(lightColors());
-    setShowGrid(false);
-    setCornerButtonEnabled(false);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    verticalScrollBar()->setFixedWidth(scrollBarWidth);
-    QFont font = this->font();
-    font.setPixelSize(fontPixels);
-    setFont(font);
-    verticalHeader()->hide();
-    verticalHeader()->setMinimumSectionSize(1);
-    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    horizontalHeader()->setFixedHeight(headingHeight);
-    horizontalHeader()->setMinimumSectionSize(1);
-    horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setFont(font);
-    editor_->setFont(font);
-}
-
 void ListboxPeer::detach() {
     editor_->detach();
     Peer::detach();
@@ -111,12 +42,14 @@ void ListboxPeer::sync() {
     const bool several = control_->SelectionType() == Listbox::SelectionTypes::multiple;
     setSelectionMode(several ? ExtendedSelection : SingleSelection);
     verticalHeader()->setDefaultSectionSize(control_->DefaultRowHeight());
+    fitLetters();
     horizontalHeader()->setVisible(control_->HasHeading());
     setFrameShape(control_->Border() ? StyledPanel : NoFrame);
     model_->tellColumnsChanged();
     const std::vector<int>& widths = model_->widths();
     for (std::size_t column = 0; column < widths.size(); ++column)
         horizontalHeader()->resizeSection(static_cast<int>(column), widths[column]);
+    fitLastColumn();
     viewport()->update();
     placeEditor();
 }
@@ -145,7 +78,7 @@ void ListboxPeer::rowsReplaced() {
         selectionModel()->setCurrentIndex(model_->index(nearest, column), QItemSelectionModel::NoUpdate);
         verticalScrollBar()->setValue(scrolled);
     }
-    selectionChanged();
+    bringSelection();
 }
 
 void ListboxPeer::cellChanged(int row, int column) {
@@ -155,6 +88,12 @@ void ListboxPeer::cellChanged(int row, int column) {
 }
 
 void ListboxPeer::selectionChanged() {
+    bringSelection();
+    if (control_->SelectedCount() == 1)
+        scrollTo(model_->index(control_->ListIndex(), std::max(0, currentIndex().column())));
+}
+
+void ListboxPeer::bringSelection() {
     const QScopedValueRollback bringing(bringingSelection_, true);
     QItemSelection rows;
     for (int row = 0; row < control_->ListCount(); ++row) {
@@ -178,7 +117,7 @@ void ListboxPeer::openCellChanged() {
     }
     selectionModel()->setCurrentIndex(cell, QItemSelectionModel::NoUpdate);
     scrollTo(cell);
-    editor_->setAlignment(toQt(control_->ColumnAlignment(cell.column())) | Qt::AlignVCenter);
+    editor_->setAlignment(alignmentOf(cell.column()));
     editor_->setAccessibleName(model_->data(cell, Qt::AccessibleTextRole).toString());
     editor_->controlChanged();
     placeEditor();
@@ -309,80 +248,15 @@ void ListboxPeer::updateGeometries() {
     horizontalScrollBar()->setRange(0, 0);
 }
 
+void ListboxPeer::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    fitLastColumn();
+}
+
 void ListboxPeer::scrollContentsBy(int dx, int dy) {
     QTableView::scrollContentsBy(dx, dy);
     if (control_ != nullptr)
         placeEditor();
-}
-
-// Painting
-
-void ListboxPeer::paintCell(QPainter& painter, const QRect& area, int row, int column) {
-    if (control_ == nullptr)
-        return;
-    const bool selected = control_->Selected(row);
-    {
-        PainterGraphics g(painter, area);
-        if (selected)
-            g.tintFills(tallyvane::toQt(selection));
-        deliver([&] {
-            if (control_->CellBackgroundPaint)
-                control_->CellBackgroundPaint(g, row, column);
-        });
-    }
-    painter.fillRect(area.right(), area.top(), 1, area.height(), tallyvane::toQt(columnLine));
-    if (selected)
-        painter.fillRect(area.left(), area.bottom(), area.width(), 1, tallyvane::toQt(selectionLine));
-    if (row < control_->ListCount())
-        drawText(painter, area, row, column);
-    if (hasFocus() && row < control_->ListCount() && currentIndex() == model_->index(row, column)) {
-        painter.setPen(tallyvane::toQt(selectionLine));
-        painter.drawRect(area.adjusted(0, 0, -1, -1));
-    }
-}
-
-void ListboxPeer::drawText(QPainter& painter, const QRect& area, int row, int column) {
-    const QRect inner = area.adjusted(textMargin, 0, -textMargin, 0);
-    bool drawn = false;
-    PainterGraphics g(painter, area);
-    g.ForeColor(text);
-    deliver([&] {
-        if (control_->CellTextPaint)
-            drawn = control_->CellTextPaint(g, row, column, inner.left() - area.left(), area.height());
-    });
-    if (drawn)
-        return;
-    painter.setPen(tallyvane::toQt(g.ForeColor()));
-    const TextStyle style = control_->styleOf(row, column);
-    QFont cellFont = font();
-    cellFont.setBold(style.bold);
-    cellFont.setItalic(style.italic);
-    cellFont.setUnderline(style.underline);
-    painter.setFont(cellFont);
-    QRect place = inner.translated(-area.topLeft());
-    if (const auto picture = control_->RowPicture(row); picture && column == 0) {
-        constexpr int pictureWidth = 16;
-        g.DrawPicture(*picture, place.left(), (area.height() - pictureWidth) / 2.0);
-        place.setLeft(place.left() + pictureWidth + textMargin);
-    }
-    const QString whole = tallyvane::toQt(Left(control_->Cell(row, column), mostCharacters));
-    const QString shown = QFontMetrics(cellFont).elidedText(whole, Qt::ElideRight, place.width());
-    painter.drawText(place, toQt(control_->ColumnAlignment(column)) | Qt::AlignVCenter, shown);
-}
-
-void ListboxPeer::paintEvent(QPaintEvent* event) {
-    QTableView::paintEvent(event);
-    if (control_ == nullptr)
-        return;
-    QPainter painter(viewport());
-    painter.setFont(font());
-    const int rowHeight = control_->DefaultRowHeight();
-    const int rows = control_->ListCount();
-    int row = rows;
-    int top = rows == 0 ? 0 : rowViewportPosition(rows - 1) + rowHeight;
-    for (; top < viewport()->height(); top += rowHeight, ++row)
-        for (int column = 0; column < model_->columnCount(); ++column)
-            paintCell(painter, {columnViewportPosition(column), top, columnWidth(column), rowHeight}, row, column);
 }
 
 } // namespace tallyvane

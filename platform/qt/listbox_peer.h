@@ -40,11 +40,16 @@ protected:
     /// Nothing: a digit typed while no cell is open must not take the selection elsewhere.
     void keyboardSearch(const QString& /*search*/) override {}
     void updateGeometries() override;
+    void resizeEvent(QResizeEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
 
 private:
     void setUpLook();
+    void fitLetters();
+    void fitLastColumn();
+    Qt::Alignment alignmentOf(int column) const;
+    void bringSelection();
     void click(const QModelIndex& cell, const QPoint& place);
     void commandClick(const QModelIndex& cell);
     bool takesDrop(QDropEvent& event) const;

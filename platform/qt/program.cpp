@@ -14,6 +14,7 @@
 #include "platform/qt/convert.h"
 #include "platform/qt/event_guard.h"
 #include "platform/qt/instance_channel.h"
+#include "platform/qt/letter_scale.h"
 #include "platform/qt/pictures.h"
 #include "platform/qt/qt_toolkit.h"
 #include "platform/qt/unix_signals.h"
@@ -68,8 +69,9 @@ void saveAtExit() {
 } // namespace
 
 struct QtProgram::Parts {
-    Parts(int& argc, char** argv) : application(argc, argv) {}
+    Parts(int& argc, char** argv) : letterScale(argc, argv), application(argc, argv) { letterScale.settle(); }
 
+    LetterScale letterScale;
     QApplication application;
     QtToolkit toolkit;
     InstanceChannel channel;

@@ -47,6 +47,15 @@ close_by "Headings Editor" Escape
 until_true grep -qx Dawn "$folder/7VXHeadings"
 [[ $(wc -l <"$folder/7VXHeadings") == 13 ]] || fail "thirteen headings: $(cat "$folder/7VXHeadings")"
 
+# The defaults brought back, and shown: by the keyboard from the first field.
+toolbar 119
+side_window "Headings Editor"
+xdotool key shift+Tab shift+Tab shift+Tab space
+xdotool key Return
+until_true gone "Headings Editor"
+in_front
+until_true grep -qx Breakfast "$folder/7VXHeadings"
+
 # Logs: two lines of food, closed by the close button.
 toolbar 581
 side_window Logs
@@ -78,6 +87,20 @@ in_front
 toolbar 44
 until_true gone Files
 cmp "$folder/Tallyvane/QVXFileData" "$home/before" || fail "the list of resources changed"
+
+# An entry renamed by a click with Ctrl.
+toolbar 44
+side_window Files
+click_in_side 120 20
+xdotool keydown ctrl
+click_in_side 120 57
+xdotool keyup ctrl
+sleep 0.3
+xdotool key ctrl+a
+xdotool type Manual
+xdotool key Return
+close_by Files alt+F4
+until_true grep -qx 'Manual@@@www.example.org' "$folder/Tallyvane/QVXFileData"
 
 # The end of the program closes what is still open, and saves it.
 toolbar 581

@@ -123,6 +123,23 @@ TEST_F(SideControlsTest, DropsAreCopies) {
     EXPECT_FALSE(table_->acceptDrops() && app_->window1()->ListBox1.DropObject) << "the table of days takes none";
 }
 
+TEST_F(SideControlsTest, ALongListShowsTheRowThatIsSelectedAndItsWholeWidth) {
+    start();
+    app_->window1()->showTeamAndMedications();
+    list_ = frameTitled(QStringLiteral("Information"))->findChild<ListboxPeer*>();
+    Listbox& contacts = app_->infoWindow()->ListBox1;
+    EXPECT_EQ(list_->columnWidth(0), list_->viewport()->width());
+    for (int contact = 0; contact < 100; ++contact)
+        contacts.AddRow("someone");
+    QCoreApplication::processEvents();
+    EXPECT_LT(list_->viewport()->width(), contacts.WidthActual(0)) << "there is a scroll bar";
+    EXPECT_EQ(list_->columnWidth(0), list_->viewport()->width()) << "which covers nothing";
+    const int last = contacts.LastIndex();
+    contacts.ListIndex(last);
+    EXPECT_TRUE(list_->viewport()->rect().contains(list_->visualRect(list_->model()->index(last, 0)).center()));
+    EXPECT_GT(list_->fontInfo().pixelSize(), table_->fontInfo().pixelSize()) << "higher rows, larger letters";
+}
+
 } // namespace
 
 } // namespace tallyvane

@@ -1,0 +1,75 @@
+#include "platform/qt/letter_scale.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QFontInfo>
+#include <QScreen>
+
+#include <algorithm>
+#include <unistd.h>
+
+namespace tallyvane {
+
+namespace {
+
+constexpr double largestPoints = 12; // of the letters that all windows have room for
+constexpr QSize mainWindow(760, 660); // with its menus, toolbar and frame
+
+constexpr const char* scaleName = "QT_SCALE_FACTOR";
+/// What the scale was before the process started anew; also the sign that it did.
+constexpr const char* scaleBeforeName = "TALLYVANE_SCALE_BEFORE";
+
+void limitLetters() {
+    QFont font = QApplication::font();
+    font.setPointSizeF(largestPoints);
+    QApplication::setFont(font);
+}
+
+/// Programs that are started from here, a browser say, get the environment as the user has set it.
+void restoreEnvironment() {
+    const QByteArray before = qgetenv(scaleBeforeName);
+    qunsetenv(scaleBeforeName);
+    if (before.isEmpty())
+        qunsetenv(scaleName);
+    else
+        qputenv(scaleName, before);
+}
+
+} // namespace
+
+double LetterScale::of(double points, QSize room) {
+    const double wanted = points / largestPoints;
+    const double fitting = std::min(static_cast<double>(room.width()) / mainWindow.width(),
+                                    static_cast<double>(room.height()) / mainWindow.height());
+    return std::max(1.0, std::min(wanted, fitting));
+}
+
+void LetterScale::settle() {
+    const bool isStartedAnew = qEnvironmentVariableIsSet(scaleBeforeName);
+    if (isStartedAnew)
+        restoreEnvironment();
+    const double points = QFontInfo(QApplication::font()).pointSizeF();
+    if (points <= largestPoints)
+        return;
+    const double scale = of(points, QGuiApplication::primaryScreen()->availableSize());
+    if (!isStartedAnew && scale > 1)
+        startAnew(scale);
+    limitLetters();
+}
+
+void LetterScale::startAnew(double scale) {
+    const QByteArray before = qgetenv(scaleName);
+    bool isNumber = false;
+    const double outer = before.toDouble(&isNumber);
+    qputenv(scaleBeforeName, before);
+    qputenv(scaleName, QByteArray::number(isNumber ? outer * scale : scale));
+
+    std::vector<char*> arguments;
+    for (std::string& argument : arguments_)
+        arguments.push_back(argument.data());
+    arguments.push_back(nullptr);
+    ::execv(QFile::encodeName(QCoreApplication::applicationFilePath()).constData(), arguments.data());
+    restoreEnvironment(); // it can't be started anew: the letters are limited, and nothing grows
+}
+
+} // namespace tallyvane

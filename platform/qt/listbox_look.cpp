@@ -1,0 +1,167 @@
+/// How a list looks: its colours, letters and widths, and the painting of its cells.
+#include <QHeaderView>
+#include <QPainter>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+
+#include "platform/qt/event_guard.h"
+#include "platform/qt/listbox_peer.h"
+#include "platform/qt/painter_graphics.h"
+
+namespace tallyvane {
+
+namespace {
+
+constexpr int headingHeight = 19;
+constexpr int scrollBarWidth = 15;
+constexpr int textMargin = 6;
+
+constexpr Color ground = RGB(255, 255, 255);
+constexpr Color text = RGB(16, 20, 26);
+constexpr Color headingGround = RGB(232, 236, 242);
+constexpr Color columnLine = RGB(186, 200, 220);
+constexpr Color selection = RGB(92, 152, 236);
+constexpr Color selectionLine = RGB(38, 92, 170);
+
+QPalette lightColors() {
+    QPalette colors(toQt(headingGround), toQt(headingGround));
+    colors.setColor(QPalette::Base, toQt(ground));
+    for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+        colors.setColor(role, toQt(text));
+    colors.setColor(QPalette::Highlight, toQt(selection));
+    colors.setColor(QPalette::HighlightedText, toQt(text));
+    return colors;
+}
+
+/// Has the list paint its cells.
+class CellPainter : public QStyledItemDelegate {
+public:
+    explicit CellPainter(ListboxPeer* peer) : QStyledItemDelegate(peer), peer_(peer) {}
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        peer_->paintCell(*painter, option.rect, index.row(), index.column());
+    }
+
+private:
+    ListboxPeer* peer_;
+};
+
+} // namespace
+
+void ListboxPeer::setUpLook() {
+    setItemDelegate(new CellPainter(this));
+    setPalette(lightColors());
+    setShowGrid(false);
+    setCornerButtonEnabled(false);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    verticalScrollBar()->setFixedWidth(scrollBarWidth);
+    verticalHeader()->hide();
+    verticalHeader()->setMinimumSectionSize(1);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setFixedHeight(headingHeight);
+    horizontalHeader()->setMinimumSectionSize(1);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setHighlightSections(false);
+}
+
+/// Letters as high as the rows have room for.
+void ListboxPeer::fitLetters() {
+    const int pixels = 2 * control_->DefaultRowHeight() / 3 + 2;
+    QFont letters = font();
+    if (letters.pixelSize() == pixels)
+        return;
+    letters.setPixelSize(pixels);
+    setFont(letters);
+    horizontalHeader()->setFont(letters);
+    editor_->setFont(letters);
+}
+
+/// Columns that share the list's width leave the scroll bar its room.
+void ListboxPeer::fitLastColumn() {
+    const int last = model_->columnCount() - 1;
+    if (control_ == nullptr || last < 0 || !control_->ColumnWidths().ends_with('%'))
+        return;
+    const int room = viewport()->width() - horizontalHeader()->sectionPosition(last);
+    horizontalHeader()->resizeSection(last, std::min(control_->WidthActual(last), room));
+}
+
+Qt::Alignment ListboxPeer::alignmentOf(int column) const {
+    switch (control_->ColumnAlignment(column)) {
+    case Listbox::AlignCenter:
+        return Qt::AlignHCenter | Qt::AlignVCenter;
+    case Listbox::AlignRight:
+        return Qt::AlignRight | Qt::AlignVCenter;
+    default:
+        return Qt::AlignLeft | Qt::AlignVCenter;
+    }
+}
+
+void ListboxPeer::paintCell(QPainter& painter, const QRect& area, int row, int column) {
+    if (control_ == nullptr)
+        return;
+    const bool selected = control_->Selected(row);
+    {
+        PainterGraphics g(painter, area);
+        if (selected)
+            g.tintFills(tallyvane::toQt(selection));
+        deliver([&] {
+            if (control_->CellBackgroundPaint)
+                control_->CellBackgroundPaint(g, row, column);
+        });
+    }
+    painter.fillRect(area.right(), area.top(), 1, area.height(), tallyvane::toQt(columnLine));
+    if (selected)
+        painter.fillRect(area.left(), area.bottom(), area.width(), 1, tallyvane::toQt(selectionLine));
+    if (row < control_->ListCount())
+        drawText(painter, area, row, column);
+    if (hasFocus() && row < control_->ListCount() && currentIndex() == model_->index(row, column)) {
+        painter.setPen(tallyvane::toQt(selectionLine));
+        painter.drawRect(area.adjusted(0, 0, -1, -1));
+    }
+}
+
+void ListboxPeer::drawText(QPainter& painter, const QRect& area, int row, int column) {
+    const QRect inner = area.adjusted(textMargin, 0, -textMargin, 0);
+    bool drawn = false;
+    PainterGraphics g(painter, area);
+    g.ForeColor(text);
+    deliver([&] {
+        if (control_->CellTextPaint)
+            drawn = control_->CellTextPaint(g, row, column, inner.left() - area.left(), area.height());
+    });
+    if (drawn)
+        return;
+    painter.setPen(tallyvane::toQt(g.ForeColor()));
+    const TextStyle style = control_->styleOf(row, column);
+    QFont cellFont = font();
+    cellFont.setBold(style.bold);
+    cellFont.setItalic(style.italic);
+    cellFont.setUnderline(style.underline);
+    painter.setFont(cellFont);
+    QRect place = inner.translated(-area.topLeft());
+    if (const auto picture = column == 0 ? control_->RowPicture(row) : std::nullopt) {
+        constexpr int pictureWidth = 16;
+        g.DrawPicture(*picture, place.left(), (area.height() - pictureWidth) / 2.0);
+        place.setLeft(place.left() + pictureWidth + textMargin);
+    }
+    const QString whole = tallyvane::toQt(Left(control_->Cell(row, column), mostCharacters));
+    const QString shown = QFontMetrics(cellFont).elidedText(whole, Qt::ElideRight, place.width());
+    painter.drawText(place, static_cast<int>(alignmentOf(column)), shown);
+}
+
+void ListboxPeer::paintEvent(QPaintEvent* event) {
+    QTableView::paintEvent(event);
+    if (control_ == nullptr)
+        return;
+    QPainter painter(viewport());
+    painter.setFont(font());
+    const int rowHeight = control_->DefaultRowHeight();
+    const int rows = control_->ListCount();
+    int row = rows;
+    int top = rows == 0 ? 0 : rowViewportPosition(rows - 1) + rowHeight;
+    for (; top < viewport()->height(); top += rowHeight, ++row)
+        for (int column = 0; column < model_->columnCount(); ++column)
+            paintCell(painter, {columnViewportPosition(column), top, columnWidth(column), rowHeight}, row, column);
+}
+
+} // namespace tallyvane
