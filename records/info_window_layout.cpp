@@ -7,13 +7,13 @@ namespace tallyvane {
 namespace {
 
 constexpr unsigned fixedPlace = lockLeft | lockTop;
-constexpr int detailLeft = 340;
+constexpr int detailLeft = 380;
 constexpr int rowHeight = 22;
 
 } // namespace
 
 InfoWindow::InfoWindow() {
-    shape(Kind::fixed, 660, 480);
+    shape(Kind::fixed, 700, 480);
     Title("Information");
     layOut();
     build();
@@ -22,24 +22,24 @@ InfoWindow::InfoWindow() {
 
 void InfoWindow::layOut() {
     place({
-        {&TabPanel1, {14, 14, 632, 414}},
-        {&ListBox1, {30, 58, 220, 318}, fixedPlace, &TabPanel1, 0},
+        {&TabPanel1, {14, 14, 672, 414}},
+        {&ListBox1, {30, 58, 260, 318}, fixedPlace, &TabPanel1, 0},
         {&BevelButton1, {30, 384, 28, 28}, fixedPlace, &TabPanel1, 0},
         {&BevelButton2, {64, 384, 28, 28}, fixedPlace, &TabPanel1, 0},
-        {&StaticText1, {254, 58, 82, 28}, fixedPlace, &TabPanel1, 0},
+        {&StaticText1, {294, 58, 82, 28}, fixedPlace, &TabPanel1, 0},
         {&EditField2, {detailLeft, 58, 292, 28}, fixedPlace, &TabPanel1, 0},
-        {&StaticText2, {254, 96, 82, 28}, fixedPlace, &TabPanel1, 0},
+        {&StaticText2, {294, 96, 82, 28}, fixedPlace, &TabPanel1, 0},
         {&EditField3, {detailLeft, 96, 292, 28}, fixedPlace, &TabPanel1, 0},
-        {&StaticText3, {254, 134, 82, 28}, fixedPlace, &TabPanel1, 0},
+        {&StaticText3, {294, 134, 82, 28}, fixedPlace, &TabPanel1, 0},
         {&EditField4, {detailLeft, 134, 260, 28}, fixedPlace, &TabPanel1, 0},
-        {&Canvas2, {608, 136, 24, 24}, fixedPlace, &TabPanel1, 0},
-        {&StaticText4, {254, 172, 82, 28}, fixedPlace, &TabPanel1, 0},
+        {&Canvas2, {648, 136, 24, 24}, fixedPlace, &TabPanel1, 0},
+        {&StaticText4, {294, 172, 82, 28}, fixedPlace, &TabPanel1, 0},
         {&EditField5, {detailLeft, 172, 292, 204}, fixedPlace, &TabPanel1, 0},
-        {&ListBox2, {30, 58, 600, 318}, fixedPlace, &TabPanel1, 1},
+        {&ListBox2, {30, 58, 640, 318}, fixedPlace, &TabPanel1, 1},
         {&AutoButton3, {30, 386, 24, 24}, fixedPlace, &TabPanel1, 1},
         {&AutoButton4, {62, 386, 24, 24}, fixedPlace, &TabPanel1, 1},
-        {&Canvas1, {598, 382, 32, 32}, fixedPlace, &TabPanel1, 1},
-        {&PushButton1, {540, 438, 106, 30}},
+        {&Canvas1, {638, 382, 32, 32}, fixedPlace, &TabPanel1, 1},
+        {&PushButton1, {580, 438, 106, 30}},
     });
 }
 

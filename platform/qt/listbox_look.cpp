@@ -13,6 +13,7 @@ namespace tallyvane {
 namespace {
 
 constexpr int headingHeight = 19;
+constexpr int headingLetters = 12;
 constexpr int scrollBarWidth = 15;
 constexpr int textMargin = 6;
 
@@ -62,17 +63,19 @@ void ListboxPeer::setUpLook() {
     horizontalHeader()->setMinimumSectionSize(1);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setHighlightSections(false);
+    QFont headings = font();
+    headings.setPixelSize(headingLetters);
+    horizontalHeader()->setFont(headings);
 }
 
-/// Letters as high as the rows have room for.
+/// Letters that fill a row of 15 points, and leave some air in a higher one.
 void ListboxPeer::fitLetters() {
-    const int pixels = 2 * control_->DefaultRowHeight() / 3 + 2;
+    const int pixels = 2 * control_->DefaultRowHeight() / 5 + 6;
     QFont letters = font();
     if (letters.pixelSize() == pixels)
         return;
     letters.setPixelSize(pixels);
     setFont(letters);
-    horizontalHeader()->setFont(letters);
     editor_->setFont(letters);
 }
 
