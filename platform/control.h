@@ -49,7 +49,7 @@ public:
             observer_->takeFocus();
     }
 
-    /// In points of the screen, as its window's table says at creation.
+    /// In points of the screen, as its window's table and the window's present size have it.
     int Width() const { return width_; }
     int Height() const { return height_; }
     void size(int width, int height) {

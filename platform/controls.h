@@ -28,6 +28,9 @@ public:
     /// In points of the screen; 0: the desktop's own size.
     int TextSize() const { return textSize_; }
     void TextSize(int value) { set(textSize_, value); }
+    /// "System" is the desktop's own font.
+    FontName TextFont() const { return textFont_; }
+    void TextFont(FontName value) { set(textFont_, value); }
     bool Bold() const { return bold_; }
     void Bold(bool value) { set(bold_, value); }
     /// Whether a text that is too wide goes on in further lines.
@@ -39,6 +42,7 @@ private:
     TextAlign align_ = TextAlign::left;
     std::optional<Color> textColor_;
     int textSize_ = 0;
+    FontName textFont_;
     bool bold_ = false;
     bool multiline_ = false;
 };
@@ -69,6 +73,30 @@ public:
 private:
     std::optional<Picture> backdrop_;
     bool acceptFocus_ = false;
+};
+
+/// A filled rectangle with a black border.
+class Rectangle : public Control {
+public:
+    Color FillColor() const { return fillColor_; }
+    void FillColor(Color value) { set(fillColor_, value); }
+    /// In points; 0 for none.
+    int BorderWidth() const { return borderWidth_; }
+    void BorderWidth(int value) { set(borderWidth_, value); }
+
+private:
+    Color fillColor_ = RGB(255, 255, 255);
+    int borderWidth_ = 1;
+};
+
+/// A frame with a caption around controls that belong together. They stand after it in the window's table.
+class GroupBox : public Control {
+public:
+    const std::string& Caption() const { return caption_; }
+    void Caption(std::string value) { set(caption_, std::move(value)); }
+
+private:
+    std::string caption_;
 };
 
 class PushButton : public Control {
@@ -107,6 +135,9 @@ class CheckBox : public Control {
 public:
     const std::string& Caption() const { return caption_; }
     void Caption(std::string value) { set(caption_, std::move(value)); }
+    /// In points of the screen; 0: the desktop's own size. Smaller where the caption has no room otherwise.
+    int TextSize() const { return textSize_; }
+    void TextSize(int value) { set(textSize_, value); }
     bool Value() const { return value_; }
     void Value(bool value) { set(value_, value); }
     /// The user has changed it: the value, then Action.
@@ -121,6 +152,7 @@ public:
 
 private:
     std::string caption_;
+    int textSize_ = 0;
     bool value_ = false;
 };
 

@@ -14,9 +14,20 @@ PrinterSetup::PrinterSetup() {
         paper_ = toolkit->makePaper();
 }
 
+int PrinterSetup::HorizontalResolution() const {
+    int resolution = paper_ ? paper_->resolution() : pointsAnInch;
+    for (const int most : {MaxHorizontalResolution, MaxVerticalResolution})
+        if (most >= 0)
+            resolution = std::min(resolution, most);
+    return resolution;
+}
+
 std::unique_ptr<Graphics> OpenPrinterDialog(const PrinterSetup* setup) {
     Toolkit* toolkit = Toolkit::inForce();
-    return toolkit == nullptr ? nullptr : toolkit->openPrinterDialog(setup == nullptr ? nullptr : setup->paper());
+    if (toolkit == nullptr)
+        return nullptr;
+    return setup == nullptr ? toolkit->openPrinterDialog(nullptr, PrinterSetup::pointsAnInch)
+                            : toolkit->openPrinterDialog(setup->paper(), setup->HorizontalResolution());
 }
 
 void StyledTextPrinter::DrawBlock(double x, double y, double height) {

@@ -1,4 +1,5 @@
-/// Printing. A page is a surface of points, the printable area of the paper, with its origin in the top left corner.
+/// Printing. A page is a surface, the printable area of the paper, with its origin in the top left corner. It counts in
+/// points, or in the dots of a finer resolution that the set-up allows.
 #pragma once
 
 #include <memory>
@@ -20,6 +21,8 @@ public:
     // Size of the printable area, in points
     virtual double width() const = 0;
     virtual double height() const = 0;
+    /// Dots to an inch of the finest surface.
+    virtual int resolution() const = 0;
     /// Shows the page set-up dialog. False when the user cancelled.
     virtual bool ask() = 0;
 };
@@ -27,6 +30,8 @@ public:
 /// A page set-up.
 class PrinterSetup {
 public:
+    static constexpr int pointsAnInch = 72;
+
     PrinterSetup();
 
     /// Of the printable area, in points; 0 where nothing can be printed.
@@ -35,14 +40,20 @@ public:
     /// False when the user cancelled.
     [[nodiscard]] bool PageSetupDialog() { return paper_ && paper_->ask(); }
 
+    /// What the pages' resolution may be at most, in dots to an inch; -1 for as fine as the printer has it.
+    int MaxHorizontalResolution = pointsAnInch;
+    int MaxVerticalResolution = pointsAnInch;
+    /// What it is, across and down alike.
+    int HorizontalResolution() const;
+
     const Paper* paper() const { return paper_.get(); }
 
 private:
     std::unique_ptr<Paper> paper_;
 };
 
-/// Shows the print dialog; without a set-up the paper is the printer's own. Nil when the user cancelled. What is drawn
-/// goes to paper when the surface goes out of being.
+/// Shows the print dialog; without a set-up the paper is the printer's own, and counts in points. Nil when the user
+/// cancelled. What is drawn goes to paper when the surface goes out of being.
 [[nodiscard]] std::unique_ptr<Graphics> OpenPrinterDialog(const PrinterSetup* setup = nullptr);
 
 /// Lays a text out on one page after the other, in the desktop's own font at 12 points. Lines are broken between words;

@@ -48,19 +48,24 @@ const std::vector<Window*>& Window::openWindows() { return registry(); }
 
 Window::~Window() { std::erase(registry(), this); }
 
-void Window::shape(Kind kind, int width, int height, int minHeight, int maxHeight) {
+void Window::shape(Kind kind, int width, int height, const Limits& limits) {
     kind_ = kind;
+    createdWidth_ = width;
     createdHeight_ = height;
-    minHeight_ = minHeight;
-    maxHeight_ = maxHeight;
+    limits_ = limits;
     bounds_ = {0, 0, width, height};
 }
 
 void Window::place(std::initializer_list<Placement> placements) {
     placements_ = placements;
-    for (const Placement& placement : placements_)
-        std::visit([&](Control* control) { control->size(placement.frame.width, placement.frame.height); },
-                   placement.control);
+    sizeControls();
+}
+
+void Window::sizeControls() {
+    for (const Placement& placement : placements_) {
+        const Rect frame = frameOf(placement);
+        std::visit([&](Control* control) { control->size(frame.width, frame.height); }, placement.control);
+    }
 }
 
 void Window::carry(MenuBar* menuBar, Toolbar* toolbar) {
@@ -79,16 +84,18 @@ void Window::Visible(bool value) {
 }
 
 void Window::bounds(Rect value) {
-    value.width = bounds_.width;
-    value.height = std::clamp(value.height, minHeight_, maxHeight_);
+    value.width = std::clamp(value.width, limits_.minWidth, limits_.maxWidth);
+    value.height = std::clamp(value.height, limits_.minHeight, limits_.maxHeight);
     if (value == bounds_)
         return;
     bounds_ = value;
+    sizeControls();
     changed();
 }
 
 void Window::userChangedBounds(const Rect& bounds) {
     const Rect before = std::exchange(bounds_, bounds);
+    sizeControls();
     if (before.left != bounds.left || before.top != bounds.top)
         Event_Moved();
     if (before.width != bounds.width || before.height != bounds.height)
@@ -101,14 +108,12 @@ void Window::changed() {
 }
 
 Rect Window::frameOf(const Placement& placement) const {
+    const auto locked = [&](unsigned edge) { return (placement.locks & edge) != 0; };
     Rect frame = placement.frame;
-    const int grown = bounds_.height - createdHeight_;
-    if ((placement.locks & lockBottom) == 0)
-        return frame;
-    if ((placement.locks & lockTop) != 0)
-        frame.height += grown;
-    else
-        frame.top += grown;
+    if (locked(lockRight))
+        (locked(lockLeft) ? frame.width : frame.left) += bounds_.width - createdWidth_;
+    if (locked(lockBottom))
+        (locked(lockTop) ? frame.height : frame.top) += bounds_.height - createdHeight_;
     return frame;
 }
 

@@ -26,14 +26,14 @@ public:
     virtual void bringToFront() = 0;
 };
 
-/// Which edges of a control keep their distance from the same edge of the window. Only a window's height changes so
-/// far, so that left and right say no more than that.
+/// Which edges of a control keep their distance from the same edge of the window.
 enum Lock : unsigned { lockLeft = 1, lockTop = 2, lockRight = 4, lockBottom = 8 };
 
 /// A line of a window's table of controls: what, where, and how it follows the window's size.
 struct Placement {
-    using AnyControl = std::variant<StaticText*, Canvas*, PushButton*, BevelButton*, CheckBox*, TextField*, TextArea*,
-                                    TabPanel*, CalendarControl*, ProgressWheel*, Listbox*, Timer*>;
+    using AnyControl =
+        std::variant<StaticText*, Canvas*, Rectangle*, GroupBox*, PushButton*, BevelButton*, CheckBox*, TextField*,
+                     TextArea*, TabPanel*, CalendarControl*, ProgressWheel*, Listbox*, Timer*>;
 
     AnyControl control;
     /// In the window as it is created. Timers have none.
@@ -76,8 +76,10 @@ public:
     void Top(int value) { bounds({Left(), value, Width(), Height()}); }
     void Width(int value) { bounds({Left(), Top(), value, Height()}); }
     void Height(int value) { bounds({Left(), Top(), Width(), value}); }
-    int MinHeight() const { return minHeight_; }
-    int MaxHeight() const { return maxHeight_; }
+    int MinWidth() const { return limits_.minWidth; }
+    int MaxWidth() const { return limits_.maxWidth; }
+    int MinHeight() const { return limits_.minHeight; }
+    int MaxHeight() const { return limits_.maxHeight; }
 
     /// Brings the window into being, unseen: the open events of its controls, its own, then its peer. An exception of
     /// an event leaves it unopened.
@@ -116,8 +118,20 @@ public:
     static const std::vector<Window*>& openWindows();
 
 protected:
-    /// Size at creation. The width never changes; the height stays between the limits.
-    void shape(Kind kind, int width, int height, int minHeight, int maxHeight);
+    /// What a window's size stays between.
+    struct Limits {
+        int minWidth;
+        int maxWidth;
+        int minHeight;
+        int maxHeight;
+    };
+
+    /// Size at creation, and its limits.
+    void shape(Kind kind, int width, int height, const Limits& limits);
+    /// The width never changes.
+    void shape(Kind kind, int width, int height, int minHeight, int maxHeight) {
+        shape(kind, width, height, {width, width, minHeight, maxHeight});
+    }
     void shape(Kind kind, int width, int height) { shape(kind, width, height, height, height); }
     void place(std::initializer_list<Placement> placements);
     void carry(MenuBar* menuBar, Toolbar* toolbar);
@@ -125,6 +139,7 @@ protected:
 
 private:
     void bounds(Rect value);
+    void sizeControls();
     void changed();
     void raiseControlsOpen();
 
@@ -134,9 +149,9 @@ private:
     bool open_ = false;
     bool closing_ = false;
     Rect bounds_;
+    int createdWidth_ = 0;
     int createdHeight_ = 0;
-    int minHeight_ = 0;
-    int maxHeight_ = 0;
+    Limits limits_{};
     std::vector<Placement> placements_;
     MenuBar* menuBar_ = nullptr;
     Toolbar* toolbar_ = nullptr;

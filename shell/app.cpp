@@ -15,14 +15,13 @@ Window1* StartUpManager::primaryWindow = nullptr;
 
 namespace {
 
-/// Shows the one window of its kind; one that was closed is made anew, and `join` ties it to the others.
+/// Shows the one window of its kind; one that was closed is made anew.
 template <class W>
 void showSingle(
-    std::unique_ptr<W>& window, const std::function<void(W&)>& join = [](W&) {}) {
-    if (!window || !window->isOpen()) {
-        window = std::make_unique<W>();
-        join(*window);
-    }
+    std::unique_ptr<W>& window,
+    const std::function<std::unique_ptr<W>()>& make = [] { return std::make_unique<W>(); }) {
+    if (!window || !window->isOpen())
+        window = make();
     window->Show();
 }
 
@@ -110,11 +109,16 @@ void App::joinWindows(Window1& window) {
             files_->Close();
     };
     window.showTeamAndMedications = [this] { showSingle(info_); };
+    window.showGraph = [this, &table = window.ListBox1] {
+        showSingle<GrafThingWindow>(graph_, [&table] { return std::make_unique<GrafThingWindow>(table); });
+    };
 }
 
 void App::showHeadingsEditor() {
-    showSingle<EditHeadings>(headings_, [this](EditHeadings& editor) {
-        editor.showHeadings = [this](const Headings& headings) { window1_->showHeadings(headings); };
+    showSingle<EditHeadings>(headings_, [this] {
+        auto editor = std::make_unique<EditHeadings>();
+        editor->showHeadings = [this](const Headings& headings) { window1_->showHeadings(headings); };
+        return editor;
     });
 }
 
@@ -193,11 +197,13 @@ void App::FileQuit_Action() {
 void App::FileAboutBrindlemarks_Action() { showSingle(about_); }
 
 void App::FilePreferences_Action() {
-    showSingle<PrefsWindow>(prefs_, [this](PrefsWindow& prefs) {
-        prefs.startIndicatorTimer = [this] {
+    showSingle<PrefsWindow>(prefs_, [this] {
+        auto prefs = std::make_unique<PrefsWindow>();
+        prefs->startIndicatorTimer = [this] {
             if (window1_)
                 window1_->Timer1.Mode(Timer::ModeSingle);
         };
+        return prefs;
     });
 }
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "diary/window1.h"
+#include "graphwindow/graf_thing_window.h"
 #include "platform/folder_item.h"
 #include "platform/menus.h"
 #include "platform/system_files.h"
@@ -63,6 +64,7 @@ public:
     logsWindow* logs() { return logs_.get(); }
     InfoWindow* infoWindow() { return info_.get(); }
     fileWindow* files() { return files_.get(); }
+    GrafThingWindow* graph() { return graph_.get(); }
     MenuBar menuBar;
 
 private:
@@ -85,6 +87,7 @@ private:
     std::unique_ptr<logsWindow> logs_;
     std::unique_ptr<InfoWindow> info_;
     std::unique_ptr<fileWindow> files_;
+    std::unique_ptr<GrafThingWindow> graph_;
 };
 
 } // namespace tallyvane

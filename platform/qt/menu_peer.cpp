@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QWindow>
 
 #include "platform/qt/convert.h"
 #include "platform/qt/event_guard.h"
@@ -88,6 +89,7 @@ MenuPeer::MenuPeer(MenuBar& bar, std::function<Window*()> front, QWidget* parent
         if (now != nullptr && !isMenu(now))
             focus_ = now;
     });
+    connect(qApp, &QGuiApplication::focusWindowChanged, this, &MenuPeer::refresh); // their shortcuts work unseen
     refresh();
 }
 

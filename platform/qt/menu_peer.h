@@ -18,15 +18,14 @@ public:
     /// `front` gives the window of ours that is in front, or nil.
     MenuPeer(MenuBar& bar, std::function<Window*()> front, QWidget* parent);
 
-    /// Enables and disables the items by what the window in front answers.
-    void refresh();
-
 private:
     struct Entry {
         QAction* action;
         const MenuItem* item;
     };
 
+    /// Enables and disables the items by what the window in front answers.
+    void refresh();
     void add(QMenu& menu, const MenuItem& item);
     void choose(const MenuItem& item);
 

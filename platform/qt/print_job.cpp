@@ -6,11 +6,8 @@ namespace tallyvane {
 
 namespace {
 
-constexpr double pointsAnInch = 72;
-
-QRect printableArea(const QPrinter& printer) {
-    const QRectF area = printer.pageLayout().paintRect(QPageLayout::Point);
-    return {0, 0, static_cast<int>(area.width()), static_cast<int>(area.height())};
+QRect printableArea(const QPrinter& printer, int resolution) {
+    return {QPoint(0, 0), printer.pageLayout().paintRectPixels(resolution).size()};
 }
 
 } // namespace
@@ -32,16 +29,18 @@ bool QtPaper::ask() {
     return true;
 }
 
-PrinterAndPainter::PrinterAndPainter(std::unique_ptr<QPrinter> ready) : printer(std::move(ready)) {
+PrinterAndPainter::PrinterAndPainter(std::unique_ptr<QPrinter> ready, int resolution) : printer(std::move(ready)) {
+    const auto dots = static_cast<double>(resolution);
     if (painter.begin(printer.get()))
-        painter.scale(printer->logicalDpiX() / pointsAnInch, printer->logicalDpiY() / pointsAnInch);
+        painter.scale(printer->logicalDpiX() / dots, printer->logicalDpiY() / dots);
 }
 
-PrintJob::PrintJob(std::unique_ptr<QPrinter> ready)
-    : PrinterAndPainter(std::move(ready)), PainterGraphics(painter, *printer, printableArea(*printer)) {}
+PrintJob::PrintJob(std::unique_ptr<QPrinter> ready, int resolution)
+    : PrinterAndPainter(std::move(ready), resolution),
+      PainterGraphics(painter, *printer, printableArea(*printer, resolution)) {}
 
-std::unique_ptr<PrintJob> PrintJob::begin(std::unique_ptr<QPrinter> printer) {
-    std::unique_ptr<PrintJob> job(new PrintJob(std::move(printer)));
+std::unique_ptr<PrintJob> PrintJob::begin(std::unique_ptr<QPrinter> printer, int resolution) {
+    std::unique_ptr<PrintJob> job(new PrintJob(std::move(printer), resolution));
     return job->painter.isActive() ? std::move(job) : nullptr;
 }
 

@@ -20,6 +20,9 @@ public:
 
     double width() const override { return layout_.paintRect(QPageLayout::Point).width(); }
     double height() const override { return layout_.paintRect(QPageLayout::Point).height(); }
+    /// What every printer has. The pages themselves are as fine as the printer; only distances that are told in dots
+    /// would get lost on a finer count.
+    int resolution() const override { return 300; }
     bool ask() override;
 
     const QPageLayout& layout() const { return layout_; }
@@ -28,9 +31,9 @@ private:
     QPageLayout layout_;
 };
 
-/// A printer with its painter, which counts in points.
+/// A printer with its painter, which counts in dots of the resolution: that many to an inch.
 struct PrinterAndPainter {
-    explicit PrinterAndPainter(std::unique_ptr<QPrinter> ready);
+    PrinterAndPainter(std::unique_ptr<QPrinter> ready, int resolution);
 
     std::unique_ptr<QPrinter> printer;
     QPainter painter;
@@ -40,12 +43,12 @@ struct PrinterAndPainter {
 class PrintJob : private PrinterAndPainter, public PainterGraphics {
 public:
     /// Nil when the printer takes nothing, such as a file that can't be written.
-    static std::unique_ptr<PrintJob> begin(std::unique_ptr<QPrinter> printer);
+    static std::unique_ptr<PrintJob> begin(std::unique_ptr<QPrinter> printer, int resolution);
 
     void NextPage() override { printer->newPage(); }
 
 private:
-    explicit PrintJob(std::unique_ptr<QPrinter> ready);
+    PrintJob(std::unique_ptr<QPrinter> ready, int resolution);
 };
 
 } // namespace tallyvane

@@ -91,14 +91,14 @@ std::string QtToolkit::askForFile(const OpenDialog& dialog) {
 
 std::unique_ptr<Paper> QtToolkit::makePaper() { return std::make_unique<QtPaper>(); }
 
-std::unique_ptr<Graphics> QtToolkit::openPrinterDialog(const Paper* paper) {
+std::unique_ptr<Graphics> QtToolkit::openPrinterDialog(const Paper* paper, int resolution) {
     std::unique_ptr<QPrinter> printer = makePrinter();
     if (const auto* chosen = dynamic_cast<const QtPaper*>(paper))
         printer->setPageLayout(chosen->layout());
     QPrintDialog dialog(printer.get()); // of no window, which might go while the dialog is open
     if (dialog.exec() != QDialog::Accepted)
         return nullptr;
-    return PrintJob::begin(std::move(printer));
+    return PrintJob::begin(std::move(printer), resolution);
 }
 
 void QtToolkit::openUrl(const std::string& address) { QDesktopServices::openUrl(QUrl(toQt(address))); }

@@ -43,6 +43,8 @@ void StaticTextPeer::sync() {
     setAlignment(toQt(control_->Align()) | Qt::AlignVCenter);
     setWordWrap(control_->Multiline());
     QFont font = parentWidget()->font();
+    if (const std::string& family = control_->TextFont(); family != "System")
+        font.setFamily(tallyvane::toQt(family));
     if (control_->TextSize() > 0)
         font.setPixelSize(control_->TextSize());
     font.setBold(control_->Bold());
@@ -107,6 +109,25 @@ void CanvasPeer::keyPressEvent(QKeyEvent* event) {
     });
 }
 
+// Rectangle
+
+RectanglePeer::RectanglePeer(Rectangle& rectangle, QWidget* parent) : Peer(rectangle, parent) { controlChanged(); }
+
+void RectanglePeer::paintEvent(QPaintEvent* /*event*/) {
+    if (control_ == nullptr)
+        return;
+    QPainter painter(this);
+    const int border = control_->BorderWidth();
+    painter.fillRect(rect(), Qt::black);
+    painter.fillRect(rect().adjusted(border, border, -border, -border), tallyvane::toQt(control_->FillColor()));
+}
+
+// GroupBox
+
+GroupBoxPeer::GroupBoxPeer(GroupBox& box, QWidget* parent) : Peer(box, parent) { controlChanged(); }
+
+void GroupBoxPeer::sync() { setTitle(tallyvane::toQt(control_->Caption())); }
+
 // PushButton
 
 PushButtonPeer::PushButtonPeer(PushButton& button, QWidget* parent) : Peer(button, parent) {
@@ -161,6 +182,20 @@ CheckBoxPeer::CheckBoxPeer(CheckBox& box, QWidget* parent) : Peer(box, parent) {
 void CheckBoxPeer::sync() {
     setText(tallyvane::toQt(control_->Caption()));
     setChecked(control_->Value());
+    fitLetters();
+}
+
+/// Captions that the user has written can be wide: their letters get smaller until all can be read.
+void CheckBoxPeer::fitLetters() {
+    constexpr int smallest = 9; // pixels
+    QFont letters = parentWidget()->font();
+    if (control_->TextSize() > 0)
+        letters.setPixelSize(control_->TextSize());
+    setFont(letters);
+    for (int pixels = fontInfo().pixelSize(); pixels > smallest && sizeHint().width() > control_->Width();) {
+        letters.setPixelSize(--pixels);
+        setFont(letters);
+    }
 }
 
 // TabPanel

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QCheckBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QTabWidget>
@@ -37,6 +38,22 @@ private:
     bool pressed_ = false; // the canvas wants to hear how the press goes on
 };
 
+class RectanglePeer : public Peer<QWidget, Rectangle> {
+public:
+    RectanglePeer(Rectangle& rectangle, QWidget* parent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+class GroupBoxPeer : public Peer<QGroupBox, GroupBox> {
+public:
+    GroupBoxPeer(GroupBox& box, QWidget* parent);
+
+protected:
+    void sync() override;
+};
+
 class PushButtonPeer : public Peer<QPushButton, PushButton> {
 public:
     PushButtonPeer(PushButton& button, QWidget* parent);
@@ -59,6 +76,9 @@ public:
 
 protected:
     void sync() override;
+
+private:
+    void fitLetters();
 };
 
 /// Shows the frame and the tabs; what stands on the pages are neighbours of this widget, laid over it.

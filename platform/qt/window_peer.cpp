@@ -6,6 +6,7 @@
 #include "platform/qt/calendar_peer.h"
 #include "platform/qt/event_guard.h"
 #include "platform/qt/listbox_peer.h"
+#include "platform/qt/menu_peer.h"
 #include "platform/qt/pictures.h"
 #include "platform/qt/text_peers.h"
 #include "platform/qt/toolbar_peer.h"
@@ -20,6 +21,8 @@ struct MakePeer {
 
     WidgetPeer* operator()(StaticText* text) const { return new StaticTextPeer(*text, parent); }
     WidgetPeer* operator()(Canvas* canvas) const { return new CanvasPeer(*canvas, parent); }
+    WidgetPeer* operator()(Rectangle* rectangle) const { return new RectanglePeer(*rectangle, parent); }
+    WidgetPeer* operator()(GroupBox* box) const { return new GroupBoxPeer(*box, parent); }
     WidgetPeer* operator()(PushButton* button) const { return new PushButtonPeer(*button, parent); }
     WidgetPeer* operator()(BevelButton* button) const { return new BevelButtonPeer(*button, parent); }
     WidgetPeer* operator()(CheckBox* box) const { return new CheckBoxPeer(*box, parent); }
@@ -53,12 +56,12 @@ Qt::WindowFlags flagsOf(Window::Kind kind) {
 
 // ContentArea
 
-ContentArea::ContentArea(Window& window, QWidget* parent) : QWidget(parent), window_(&window) {
+ContentArea::ContentArea(Window& window, std::function<void()> resized, QWidget* parent)
+    : QWidget(parent), window_(&window), resized_(std::move(resized)) {
     for (const Placement& placement : window.placements())
         make(placement);
-    const int most = std::min(window.MaxHeight(), QWIDGETSIZE_MAX);
-    setMinimumSize(window.Width(), window.MinHeight());
-    setMaximumSize(window.Width(), most);
+    setMinimumSize(window.MinWidth(), window.MinHeight());
+    setMaximumSize(window.MaxWidth(), window.MaxHeight());
     layOut();
 }
 
@@ -94,20 +97,20 @@ QSize ContentArea::sizeHint() const {
 
 void ContentArea::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
+    resized_();
     layOut();
 }
 
 // WindowFrame
 
 WindowFrame::WindowFrame(Window& window, QWidget* owner, std::function<Window*()> front)
-    : QMainWindow(owner, flagsOf(window.kind())), window_(&window), content_(new ContentArea(window, this)) {
+    : QMainWindow(owner, flagsOf(window.kind())), window_(&window), content_(new ContentArea(
+                                                                        window, [this] { tellBounds(); }, this)) {
     setContextMenuPolicy(Qt::NoContextMenu); // Qt's own would hide the toolbar
     if (window.kind() == Window::Kind::dialog)
         setWindowModality(Qt::WindowModal);
-    if (MenuBar* bar = window.menuBar()) {
-        menus_ = new MenuPeer(*bar, std::move(front), this);
-        setMenuBar(menus_);
-    }
+    if (MenuBar* bar = window.menuBar())
+        setMenuBar(new MenuPeer(*bar, std::move(front), this));
     if (Toolbar* toolbar = window.toolbar()) {
         auto* peer = new ToolbarPeer(*toolbar, this);
         toolbar_ = peer;
@@ -125,7 +128,8 @@ void WindowFrame::shapeFrame() {
         setFixedSize(sizeHint());
         return;
     }
-    setFixedWidth(window_->Width());
+    if (window_->MinWidth() == window_->MaxWidth())
+        setFixedWidth(window_->Width());
     resize(sizeHint());
 }
 
@@ -148,9 +152,9 @@ void WindowFrame::sync() {
 }
 
 void WindowFrame::syncGeometry() {
-    const int grown = window_->Height() - content_->height();
-    if (isVisible() && grown != 0)
-        resize(width(), height() + grown);
+    const QSize grown = QSize(window_->Width(), window_->Height()) - content_->size();
+    if (isVisible() && !grown.isNull())
+        resize(size() + grown);
     else if (!isVisible())
         resize(sizeHint());
     const QPoint place(window_->Left(), window_->Top());
@@ -161,7 +165,7 @@ void WindowFrame::syncGeometry() {
 void WindowFrame::tellBounds() {
     if (window_ == nullptr || syncing_ || !isVisible() || isMinimized())
         return;
-    const Rect bounds{pos().x(), pos().y(), window_->Width(), content_->height()};
+    const Rect bounds{pos().x(), pos().y(), content_->width(), content_->height()};
     deliver([&] { window_->userChangedBounds(bounds); });
 }
 
@@ -174,17 +178,6 @@ void WindowFrame::closeEvent(QCloseEvent* event) {
 void WindowFrame::moveEvent(QMoveEvent* event) {
     QMainWindow::moveEvent(event);
     tellBounds();
-}
-
-void WindowFrame::resizeEvent(QResizeEvent* event) {
-    QMainWindow::resizeEvent(event);
-    tellBounds();
-}
-
-void WindowFrame::changeEvent(QEvent* event) {
-    QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange && menus_ != nullptr && window_ != nullptr)
-        menus_->refresh();
 }
 
 // QtWindowPeer

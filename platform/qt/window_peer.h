@@ -6,7 +6,6 @@
 #include <memory>
 #include <vector>
 
-#include "platform/qt/menu_peer.h"
 #include "platform/qt/peer.h"
 #include "platform/qt/simple_peers.h"
 #include "platform/window.h"
@@ -16,7 +15,8 @@ namespace tallyvane {
 /// The area of a window where its controls stand, laid out by the window's table.
 class ContentArea : public QWidget {
 public:
-    ContentArea(Window& window, QWidget* parent);
+    /// Calls `resized` before it lays its controls out anew.
+    ContentArea(Window& window, std::function<void()> resized, QWidget* parent);
 
     void detach();
     void layOut();
@@ -34,6 +34,7 @@ private:
     };
 
     Window* window_;
+    std::function<void()> resized_;
     std::vector<Child> children_;
     std::vector<std::unique_ptr<TimerPeer>> timers_;
 };
@@ -52,8 +53,6 @@ public:
 protected:
     void closeEvent(QCloseEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
 private:
     void shapeFrame();
@@ -62,7 +61,6 @@ private:
 
     Window* window_;
     ContentArea* content_;
-    MenuPeer* menus_ = nullptr;
     WidgetPeer* toolbar_ = nullptr;
     bool syncing_ = false;
 };

@@ -32,7 +32,7 @@ TEST(PrintJob, AnythingPrintedIsTextInThePdf) {
     const QTemporaryDir folder;
     const QString file = folder.filePath(QStringLiteral("journal.pdf"));
     {
-        const std::unique_ptr<PrintJob> job = PrintJob::begin(printerTo(file));
+        const std::unique_ptr<PrintJob> job = PrintJob::begin(printerTo(file), 72);
         ASSERT_NE(job, nullptr);
         EXPECT_EQ(job->Width(), 612 - 36) << "the printable area in points";
         EXPECT_EQ(job->Height(), 792 - 36);
@@ -53,7 +53,7 @@ TEST(PrintJob, AnythingPrintedIsTextInThePdf) {
 }
 
 TEST(PrintJob, APrinterThatTakesNothingGivesNoPages) {
-    EXPECT_EQ(PrintJob::begin(printerTo(QStringLiteral("/proc/no such folder/journal.pdf"))), nullptr);
+    EXPECT_EQ(PrintJob::begin(printerTo(QStringLiteral("/proc/no such folder/journal.pdf")), 72), nullptr);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QTest>
 

@@ -14,12 +14,14 @@ namespace {
 // Letter paper with quarter-inch margins
 constexpr double letterWidth = 576;
 constexpr double letterHeight = 756;
+constexpr double pointsAnInch = 72;
 
 class RecordedPaper : public Paper {
 public:
     explicit RecordedPaper(const bool& accepted) : accepted_(accepted) {}
     double width() const override { return letterWidth; }
     double height() const override { return letterHeight; }
+    int resolution() const override { return 300; }
     bool ask() override { return accepted_; }
 
 private:
@@ -29,8 +31,9 @@ private:
 /// Pages that hand over what was drawn on them when they are done.
 class RecordedPages : public GraphicsRecorder {
 public:
-    explicit RecordedPages(std::vector<Call>& printed)
-        : GraphicsRecorder(letterWidth, letterHeight), printed_(printed) {}
+    RecordedPages(std::vector<Call>& printed, int resolution)
+        : GraphicsRecorder(letterWidth * resolution / pointsAnInch, letterHeight * resolution / pointsAnInch),
+          printed_(printed) {}
     ~RecordedPages() override { printed_ = calls(); }
 
 private:
@@ -41,8 +44,8 @@ private:
 
 std::unique_ptr<Paper> RecordingToolkit::makePaper() { return std::make_unique<RecordedPaper>(pageSetupReady); }
 
-std::unique_ptr<Graphics> RecordingToolkit::openPrinterDialog(const Paper* /*paper*/) {
-    return printerReady ? std::make_unique<RecordedPages>(printed) : nullptr;
+std::unique_ptr<Graphics> RecordingToolkit::openPrinterDialog(const Paper* /*paper*/, int resolution) {
+    return printerReady ? std::make_unique<RecordedPages>(printed, resolution) : nullptr;
 }
 
 void TestDesk::SetUp() {

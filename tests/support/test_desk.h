@@ -35,7 +35,7 @@ public:
         return answer;
     }
     std::unique_ptr<Paper> makePaper() override;
-    std::unique_ptr<Graphics> openPrinterDialog(const Paper* paper) override;
+    std::unique_ptr<Graphics> openPrinterDialog(const Paper* paper, int resolution) override;
     void openUrl(const std::string& address) override { addresses.push_back(address); }
     void openFile(const std::string& path) override { files.push_back(path); }
     void quit(int code) override { quits.push_back(code); }

@@ -1,0 +1,136 @@
+#include "graphwindow/graf_thing_window.h"
+
+#include "platform/printing.h"
+#include "settings/globals.h"
+#include "settings/headings.h"
+
+namespace tallyvane {
+
+namespace {
+
+/// Holds the sign up that a page with a legend is being printed.
+class Printing {
+public:
+    Printing() { Globals::gPrintingOn = true; }
+    Printing(const Printing&) = delete;
+    Printing& operator=(const Printing&) = delete;
+    ~Printing() { Globals::gPrintingOn = false; }
+};
+
+} // namespace
+
+void GrafThingWindow::Event_Open() {
+    setLineDefault();
+    getheadings();
+}
+
+void GrafThingWindow::setLineDefault() {
+    const SelectedDays days(days_);
+    finished_.reset();
+    if (graphWeight) {
+        grafThing1 = DayGraph::ofWeights(days);
+        Canvas1.Refresh();
+        return;
+    }
+    DayGraph::Shown shown{};
+    for (std::size_t i = 0; i < shown.size(); ++i)
+        shown[i] = boxes()[i]->Value();
+    grafThing1 = DayGraph::ofPeriods(days, shown);
+}
+
+void GrafThingWindow::getheadings() {
+    const std::optional<Headings> headings = readHeadings();
+    if (!headings)
+        return;
+    constexpr std::size_t periodsAMeal = 2;
+    constexpr std::size_t meals = 3;
+    const auto captioned = boxes();
+    CheckBox13.Caption("Daily Averages");
+    for (std::size_t i = 0; i < meals * periodsAMeal; ++i)
+        captioned[i + 1]->Caption((*headings)[headingGroups + i] + " " + (*headings)[i / periodsAMeal]);
+    CheckBox6.Caption((*headings)[headingGroups + meals * periodsAMeal]);
+}
+
+void GrafThingWindow::CheckBox_Action() {
+    graphWeight = false;
+    setLineDefault();
+    Canvas1.Refresh();
+}
+
+void GrafThingWindow::Canvas3_Action() {
+    const auto all = boxes();
+    for (auto box = all.rbegin(); box != all.rend(); ++box)
+        (*box)->Value(false);
+    graphWeight = true;
+    setLineDefault();
+}
+
+void GrafThingWindow::Canvas1_Paint(Graphics& g) {
+    const int width = Canvas1.Width();
+    const int height = Canvas1.Height();
+    if (!grafThing1)
+        return;
+    if (!finished_ || finished_->Width() != width || finished_->Height() != height) {
+        finished_.emplace(width, height, 32);
+        drawOnPaper(finished_->Graphics());
+    }
+    g.DrawPicture(*finished_, 0, 0);
+}
+
+/// Axes and titles are black, so that the graph brings a light ground along, whatever the desktop's theme.
+void GrafThingWindow::drawOnPaper(Graphics& g) const {
+    g.ForeColor(RGB(255, 255, 255));
+    g.FillRect(0, 0, g.Width(), g.Height());
+    grafThing1->Draw(g);
+}
+
+// Printing
+
+void GrafThingWindow::Canvas2_Action() {
+    PrinterSetup setup;
+    if (!setup.PageSetupDialog())
+        return;
+    const std::unique_ptr<Graphics> g = OpenPrinterDialog(&setup);
+    if (!g)
+        return;
+    {
+        const Printing printing;
+        grafThing1->Draw(*g);
+    }
+    if (!graphWeight)
+        drawLegend(*g);
+}
+
+void GrafThingWindow::drawLegend(Graphics& g) {
+    constexpr std::array<int, 2> columnLefts{70, 200};
+    constexpr int firstBaseline = 480;
+    constexpr int lineHeight = 20;
+    constexpr std::size_t linesAColumn = 4;
+    g.TextSize(11);
+    g.TextFont("Verdana");
+    for (std::size_t i = 0; i < DayGraph::periods.size(); ++i) {
+        g.ForeColor(DayGraph::periods[i].color);
+        g.Bold(i == 0);
+        const std::string dash = i == 0 ? "-- " : "--  ";
+        g.DrawString(dash + boxes()[i]->Caption(), columnLefts[i / linesAColumn],
+                     firstBaseline + lineHeight * static_cast<int>(i % linesAColumn));
+    }
+}
+
+void GrafThingWindow::filePrint_Action() {
+    constexpr int asFineAsThePrinter = -1;
+    constexpr int screenResolution = 72;
+    PrinterSetup setup;
+    setup.MaxHorizontalResolution = asFineAsThePrinter;
+    setup.MaxVerticalResolution = asFineAsThePrinter;
+    if (!setup.PageSetupDialog())
+        return;
+    const std::unique_ptr<Graphics> g = OpenPrinterDialog(&setup);
+    if (!g)
+        return;
+    grafThing1->Resolution(setup.HorizontalResolution());
+    grafThing1->Draw(*g);
+    grafThing1->Resolution(screenResolution);
+}
+
+} // namespace tallyvane

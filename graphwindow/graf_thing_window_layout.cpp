@@ -1,0 +1,89 @@
+#include "graphwindow/graf_thing_window.h"
+
+namespace tallyvane {
+
+namespace {
+
+constexpr unsigned lockAll = lockLeft | lockTop | lockRight | lockBottom;
+constexpr unsigned lockCorner = lockTop | lockRight;
+
+constexpr int width = 716;
+constexpr int height = 431;
+constexpr int most = 32000;
+
+/// A box of the test periods, and the swatch beside it; 0 is the topmost.
+constexpr std::array<int, 8> boxTops{47, 69, 91, 114, 136, 159, 181, 204};
+constexpr Rect boxFrame(std::size_t i) { return {561, boxTops[i], 131, 20}; }
+constexpr Rect swatchFrame(std::size_t i) { return {543, boxTops[i] + 5, 11, 10}; }
+
+} // namespace
+
+GrafThingWindow::GrafThingWindow(const Listbox& days) : days_(days) {
+    shape(Kind::document, width, height, {width, most, height, most});
+    Title("Graph");
+    layOut();
+    build();
+    wire();
+}
+
+std::array<CheckBox*, 8> GrafThingWindow::boxes() {
+    return {&CheckBox13, &CheckBox12, &CheckBox11, &CheckBox10, &CheckBox9, &CheckBox8, &CheckBox7, &CheckBox6};
+}
+
+std::array<Rectangle*, 8> GrafThingWindow::swatches() {
+    return {&Rectangle1, &Rectangle2, &Rectangle3, &Rectangle4, &Rectangle5, &Rectangle6, &Rectangle7, &Rectangle8};
+}
+
+void GrafThingWindow::layOut() {
+    place({
+        {&Canvas1, {20, 14, 499, 397}, lockAll},         {&GroupBox3, {531, 22, 165, 212}, lockCorner},
+        {&Rectangle1, swatchFrame(0), lockCorner},       {&CheckBox13, boxFrame(0), lockCorner},
+        {&Rectangle2, swatchFrame(1), lockCorner},       {&CheckBox12, boxFrame(1), lockCorner},
+        {&Rectangle3, swatchFrame(2), lockCorner},       {&CheckBox11, boxFrame(2), lockCorner},
+        {&Rectangle4, swatchFrame(3), lockCorner},       {&CheckBox10, boxFrame(3), lockCorner},
+        {&Rectangle5, swatchFrame(4), lockCorner},       {&CheckBox9, boxFrame(4), lockCorner},
+        {&Rectangle6, swatchFrame(5), lockCorner},       {&CheckBox8, boxFrame(5), lockCorner},
+        {&Rectangle7, swatchFrame(6), lockCorner},       {&CheckBox7, boxFrame(6), lockCorner},
+        {&Rectangle8, swatchFrame(7), lockCorner},       {&CheckBox6, boxFrame(7), lockCorner},
+        {&StaticText7, {536, 242, 160, 28}, lockCorner}, {&Canvas3, {599, 282, 30, 32}, lockCorner},
+        {&StaticText8, {563, 316, 100, 20}, lockCorner}, {&Canvas2, {598, 338, 32, 32}, lockCorner},
+    });
+}
+
+void GrafThingWindow::build() {
+    Canvas1.AccessibleName("Graph of the selected days");
+    GroupBox3.Caption("Test Periods");
+    constexpr std::array<const char*, 8> captions{"Daily Averages", "Before Breakfast", "After Breakfast",
+                                                  "Before Lunch",   "After Lunch",      "Before Supper",
+                                                  "After Supper",   "Bedtime"};
+    for (std::size_t i = 0; i < captions.size(); ++i) {
+        boxes()[i]->Caption(captions[i]);
+        boxes()[i]->TextSize(12);
+        swatches()[i]->FillColor(DayGraph::periods[i].color);
+    }
+    CheckBox13.Value(true);
+    StaticText7.Text("Check Test Periods above to display in graph.");
+    StaticText7.Multiline(true);
+    StaticText7.TextFont("Lucida Grande");
+    StaticText7.TextSize(10);
+    Canvas3.Backdrop(Picture("bathroomscale3.png"));
+    Canvas3.HelpTag("Graph weight");
+    StaticText8.Text("Weight");
+    StaticText8.Align(TextAlign::center);
+    StaticText8.TextSize(11);
+    Canvas2.Backdrop(Picture("printItem3.png"));
+    Canvas2.HelpTag("Print graph");
+    for (AutoButton* button : {&Canvas2, &Canvas3})
+        button->AccessibleName(button->HelpTag());
+}
+
+void GrafThingWindow::wire() {
+    Canvas1.Paint = [this](Graphics& g) { Canvas1_Paint(g); };
+    for (CheckBox* box : boxes())
+        box->Action = [this] { CheckBox_Action(); };
+    Canvas3.Action = [this] { Canvas3_Action(); };
+    Canvas2.Action = [this] { Canvas2_Action(); };
+    menuHandlers["FilePrint"] = [this] { filePrint_Action(); };
+}
+
+} // namespace tallyvane
