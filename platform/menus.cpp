@@ -41,10 +41,4 @@ void MenuBar::choose(std::string_view name, Window* front) {
         (*handler)();
 }
 
-void Toolbar::enable(std::string_view name, bool enabled) {
-    for (ToolItem& item : items_)
-        if (item.Name == name)
-            set(item.Enabled, enabled);
-}
-
 } // namespace tallyvane

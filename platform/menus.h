@@ -79,7 +79,6 @@ struct ToolItem {
     std::string HelpTag;
     /// File of the picture, 32 by 32 points.
     std::string Icon;
-    bool Enabled = true;
 
     bool isSpace() const { return Icon.empty(); }
 };
@@ -89,8 +88,6 @@ public:
     explicit Toolbar(std::vector<ToolItem> items) : items_(std::move(items)) {}
 
     const std::vector<ToolItem>& items() const { return items_; }
-    /// Enables or disables the button of that name.
-    void enable(std::string_view name, bool enabled);
 
     std::function<void(const ToolItem& item)> Action;
 

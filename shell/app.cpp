@@ -93,7 +93,6 @@ void App::bringUpMainWindow() {
     }
     auto window = std::make_unique<Window1>(toolbar_, menuBar);
     joinWindows(*window);
-    enableToolbar(*window);
     window->Open();
     window->Visible(false);
     window->Timer1.Mode(Timer::ModeSingle);
@@ -120,15 +119,6 @@ void App::showHeadingsEditor() {
         editor->showHeadings = [this](const Headings& headings) { window1_->showHeadings(headings); };
         return editor;
     });
-}
-
-/// A button whose window there is none of is off rather than dead.
-void App::enableToolbar(const Window1& window) {
-    toolbar_.enable("ResourcesBtn", window.showResources != nullptr);
-    toolbar_.enable("HeadingsBtn", window.showHeadingsEditor != nullptr);
-    toolbar_.enable("LogsBtn", window.showLogs != nullptr);
-    toolbar_.enable("TeamMedBtn", window.showTeamAndMedications != nullptr);
-    toolbar_.enable("GraphBtn", window.showGraph != nullptr);
 }
 
 void App::tellMissingDataFolder() {

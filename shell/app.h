@@ -73,7 +73,6 @@ private:
     void tellMissingDataFolder();
     void giveWay();
     void joinWindows(Window1& window);
-    void enableToolbar(const Window1& window);
     void showHeadingsEditor();
 
     Toolbar1 toolbar_;

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QRect>
 
+#include <cmath>
 #include <optional>
 
 #include "platform/graphics.h"
@@ -22,7 +23,8 @@ public:
     double Width() const override { return area_.width(); }
     double Height() const override { return area_.height(); }
     double TextAscent() const override { return metrics().ascent(); }
-    double TextHeight() const override { return metrics().height(); }
+    /// In whole units: whoever cuts fractions off leaves the letters their room.
+    double TextHeight() const override { return std::ceil(metrics().height()); }
     double StringWidth(std::string_view text) const override;
     void DrawLine(double x1, double y1, double x2, double y2) override;
     void DrawRect(double x, double y, double width, double height) override;

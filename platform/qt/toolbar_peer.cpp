@@ -15,7 +15,7 @@ ToolbarPeer::ToolbarPeer(Toolbar& toolbar, QWidget* parent) : Peer(toolbar, pare
         if (item.isSpace()) {
             auto* space = new QWidget(this);
             space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-            actions_.push_back(addWidget(space));
+            addWidget(space);
             continue;
         }
         QAction* action = addAction(loadPicture(item.Icon).icon, toQt(item.Caption));
@@ -25,14 +25,8 @@ ToolbarPeer::ToolbarPeer(Toolbar& toolbar, QWidget* parent) : Peer(toolbar, pare
                 deliver([&] { control_->Action(item); });
         });
         widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
-        actions_.push_back(action);
     }
     controlChanged();
-}
-
-void ToolbarPeer::sync() {
-    for (std::size_t i = 0; i < actions_.size(); ++i)
-        actions_[i]->setEnabled(control_->items()[i].Enabled);
 }
 
 } // namespace tallyvane

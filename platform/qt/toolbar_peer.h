@@ -2,8 +2,6 @@
 
 #include <QToolBar>
 
-#include <vector>
-
 #include "platform/menus.h"
 #include "platform/qt/peer.h"
 
@@ -13,12 +11,6 @@ namespace tallyvane {
 class ToolbarPeer : public Peer<QToolBar, Toolbar> {
 public:
     ToolbarPeer(Toolbar& toolbar, QWidget* parent);
-
-protected:
-    void sync() override;
-
-private:
-    std::vector<QAction*> actions_; // one for each item
 };
 
 } // namespace tallyvane
