@@ -23,7 +23,7 @@ constexpr const char* childMark = "--child";
 
 /// The child: starts as main() does, and writes a byte when the window has its data.
 int beProgram(int& argc, char** argv) {
-    QtProgram program(argc, argv);
+    QtProgram program(argc, argv, {0, 0, 746, 518});
     App app;
     program.run([&] {
         app.Event_Open();

@@ -70,6 +70,12 @@ public:
     void ColumnAlignment(int column, int alignment) { set(columns_[index(column)].alignment, alignment); }
     int DefaultRowHeight() const { return rowHeight_; }
     void DefaultRowHeight(int points) { set(rowHeight_, points); }
+    /// Of the cells, in points of the screen; also in print.
+    int TextSize() const { return textSize_; }
+    void TextSize(int points) { set(textSize_, points); }
+    /// "System" is the desktop's own font.
+    FontName TextFont() const { return textFont_; }
+    void TextFont(FontName name) { set(textFont_, name); }
     SelectionTypes SelectionType() const { return selectionType_; }
     void SelectionType(SelectionTypes value) { set(selectionType_, value); }
 
@@ -212,6 +218,8 @@ private:
     bool acceptsFiles_ = false;
     bool acceptsTexts_ = false;
     int rowHeight_ = 15;
+    int textSize_ = 12;
+    FontName textFont_;
     SelectionTypes selectionType_ = SelectionTypes::single;
     std::vector<Row> rows_;
     std::uint64_t lastRevision_ = 0;

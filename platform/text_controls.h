@@ -22,6 +22,7 @@ public:
         if (differs && TextChange)
             TextChange();
     }
+    // The selection. Only the open cell of a list shows one that is set here.
     int SelStart() const { return selStart_; }
     void SelStart(int value) { set(selStart_, value); }
     int SelLength() const { return selLength_; }

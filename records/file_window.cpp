@@ -28,8 +28,16 @@ std::string storableName(std::string name) {
     return name;
 }
 
-/// A target without the "#" at its end, which leads nowhere and would become part of the separator that follows.
-std::string_view storableTarget(std::string_view target) { return target.substr(0, target.find_last_not_of('#') + 1); }
+/// A target in which no separator can be found: inside, its characters are encoded as addresses allow it. A "#" at its
+/// end leads nowhere, and would become part of the separator that follows.
+std::string storableTarget(std::string_view target) {
+    target = target.substr(0, target.find_last_not_of('#') + 1);
+    return ReplaceAll(ReplaceAll(target, DataFiles::entrySeparator, "%23%23%23"), DataFiles::subfieldSeparator,
+                      "%40%40%40");
+}
+
+/// What is dropped may hold line ends; the list and its file have lines of one.
+std::string inOneLine(std::string_view text) { return Trim(ReplaceLineEndings(text, " ")); }
 
 } // namespace
 
@@ -51,6 +59,7 @@ fileWindow::fileWindow() {
     ListBox1.AcceptFileDrop("all");
     ListBox1.AcceptTextDrop();
     ListBox1.DefaultRowHeight(22);
+    ListBox1.TextSize(14);
     ListBox1.AccessibleName("Resources");
     BevelButton1.Caption("+");
     BevelButton1.HelpTag("Add a file");
@@ -134,7 +143,7 @@ bool fileWindow::saveFileList() {
 // Adding and removing
 
 void fileWindow::addFile(const FolderItem& file) {
-    ListBox1.AddRow(file.DisplayName());
+    ListBox1.AddRow(inOneLine(file.DisplayName()));
     ListBox1.Cell(ListBox1.LastIndex(), targetColumn, file.GetSaveInfo());
     saveFileList();
 }
@@ -160,7 +169,7 @@ void fileWindow::ListBox1_DropObject(const DragItem& item) {
     else if (!item.text)
         Beep();
     else if (isLink(*item.text))
-        addLink(Trim(*item.text));
+        addLink(inOneLine(*item.text));
 }
 
 void fileWindow::BevelButton2_Action() {

@@ -60,6 +60,7 @@ void InfoWindow::build() {
     }
     for (Listbox* list : {&ListBox1, &ListBox2}) {
         list->DefaultRowHeight(rowHeight);
+        list->TextSize(14);
         list->Border(true);
     }
 

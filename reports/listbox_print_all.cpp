@@ -9,21 +9,20 @@ namespace tallyvane {
 namespace {
 
 constexpr int cellMargin = 3;
-constexpr double textSize = 12; // of the lists on the screen
 
-void setFont(Graphics& g) {
-    g.TextFont("System");
-    g.TextSize(textSize);
+void setFont(Graphics& g, const Listbox& list) {
+    g.TextFont(list.TextFont());
+    g.TextSize(list.TextSize());
+}
+
+int heightOf(const Graphics& g, const std::string& text, int width) {
+    return std::max(static_cast<int>(StringHeight(g, text, width)), static_cast<int>(g.TextHeight()));
 }
 
 } // namespace
 
 int ListboxPrintAll::widthOf(int column, float scale) const {
     return static_cast<int>(static_cast<float>(source->WidthActual(column)) * scale);
-}
-
-int ListboxPrintAll::heightOf(const Graphics& g, const std::string& text, int width) const {
-    return std::max(static_cast<int>(StringHeight(g, text, width)), static_cast<int>(g.TextHeight()));
 }
 
 void ListboxPrintAll::print(const Listbox& list, bool fitToPage) {
@@ -68,7 +67,7 @@ void ListboxPrintAll::drawColumnLines(Graphics& g, const std::vector<int>& colum
 
 int ListboxPrintAll::printHeaders(int firstColumn, Graphics& g, float scale, std::vector<int>& columnLefts) const {
     columnLefts.clear();
-    setFont(g);
+    setFont(g, *source);
     g.Bold(false);
     g.Italic(false);
     g.Underline(false);
@@ -76,7 +75,7 @@ int ListboxPrintAll::printHeaders(int firstColumn, Graphics& g, float scale, std
     int height = 0;
     for (int column = firstColumn; column < source->ColumnCount(); ++column) {
         const int width = widthOf(column, scale);
-        if (source->HasHeading()) {
+        if (source->HasHeading() && width > 0) {
             const std::string& text = source->Heading(column);
             height = std::max(height, heightOf(g, text, width));
             const double textWidth = g.StringWidth(text);
@@ -95,8 +94,10 @@ int ListboxPrintAll::printHeaders(int firstColumn, Graphics& g, float scale, std
 }
 
 void ListboxPrintAll::printCell(int row, int column, Graphics& g, int x, int y, int width, int& height) const {
+    if (width <= 0) // not shown
+        return;
     const std::string& text = source->Cell(row, column);
-    setFont(g);
+    setFont(g, *source);
     g.Bold(source->CellBold(row, column));
     g.Italic(source->CellItalic(row, column));
     g.Underline(source->CellUnderline(row, column));

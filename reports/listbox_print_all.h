@@ -23,11 +23,10 @@ private:
     /// Draws the headings of the columns from `firstColumn`, puts the left edge of each column in `columnLefts`, and
     /// gives the height of it all. A list without headings has edges and no height.
     int printHeaders(int firstColumn, Graphics& g, float scale, std::vector<int>& columnLefts) const;
-    /// Draws a cell, and gives the height that it needs in `height`.
+    /// Draws a cell, and gives the height that it needs in `height`; of a column without width nothing and no height.
     void printCell(int row, int column, Graphics& g, int x, int y, int width, int& height) const;
     void drawColumnLines(Graphics& g, const std::vector<int>& columnLefts) const;
     int widthOf(int column, float scale) const;
-    int heightOf(const Graphics& g, const std::string& text, int width) const;
 
     const Listbox* source = nullptr; // the list that is being printed
 };

@@ -43,9 +43,10 @@ EditHeadings::EditHeadings() {
         {&TextField11, columnField(7)},
         {&TextField12, columnField(8)},
         {&TextField13, columnField(9)},
-        {&PushButton3, {fieldLeft, 176, 230, 30}},
-        {&PushButton2, {windowWidth - 232, 176, 100, 30}},
+        // By the keyboard the harmless button comes first behind the last field.
         {&PushButton1, {windowWidth - 122, 176, 106, 30}},
+        {&PushButton2, {windowWidth - 232, 176, 100, 30}},
+        {&PushButton3, {fieldLeft, 176, 230, 30}},
     });
     StaticText1.Text("Enter your custom headings in the boxes below then click the Apply button.");
     Canvas1.Paint = paintBar;

@@ -7,8 +7,9 @@
 
 namespace tallyvane {
 
-/// Breakfast, lunch, supper and weight over the groups, then the columns 1 to 9.
+/// Names over groups of columns: breakfast, lunch, supper and weight.
 inline constexpr std::size_t headingGroups = 4;
+/// Those of the groups, then those of the columns 1 to 9.
 using Headings = std::array<std::string, 13>;
 
 const Headings& defaultHeadings();

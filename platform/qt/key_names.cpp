@@ -42,7 +42,10 @@ std::string nameOf(const QKeyEvent& key) {
 }
 
 bool isShortcut(const QKeyEvent& key) {
-    if ((key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0)
+    if ((key.modifiers() & (Qt::ControlModifier | Qt::MetaModifier)) != 0)
+        return true;
+    // With Alt it may be a menu's; once it is pressed on a field, nobody has wanted it, and it types its letter.
+    if ((key.modifiers() & Qt::AltModifier) != 0 && (key.type() == QEvent::ShortcutOverride || key.text().isEmpty()))
         return true;
     return (key.modifiers() & Qt::ShiftModifier) != 0 && key.text().isEmpty() && key.key() != Qt::Key_Backtab;
 }

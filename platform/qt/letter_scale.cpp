@@ -13,7 +13,6 @@ namespace tallyvane {
 namespace {
 
 constexpr double largestPoints = 12; // of the letters that all windows have room for
-constexpr QSize mainWindow(760, 660); // with its menus, toolbar and frame
 
 constexpr const char* scaleName = "QT_SCALE_FACTOR";
 /// What the scale was before the process started anew; also the sign that it did.
@@ -37,10 +36,10 @@ void restoreEnvironment() {
 
 } // namespace
 
-double LetterScale::of(double points, QSize room) {
+double LetterScale::of(double points, QSize largestWindow, QSize room) {
     const double wanted = points / largestPoints;
-    const double fitting = std::min(static_cast<double>(room.width()) / mainWindow.width(),
-                                    static_cast<double>(room.height()) / mainWindow.height());
+    const double fitting = std::min(static_cast<double>(room.width()) / largestWindow.width(),
+                                    static_cast<double>(room.height()) / largestWindow.height());
     return std::max(1.0, std::min(wanted, fitting));
 }
 
@@ -51,7 +50,7 @@ void LetterScale::settle() {
     const double points = QFontInfo(QApplication::font()).pointSizeF();
     if (points <= largestPoints)
         return;
-    const double scale = of(points, QGuiApplication::primaryScreen()->availableSize());
+    const double scale = of(points, largestWindow_, QGuiApplication::primaryScreen()->availableSize());
     if (!isStartedAnew && scale > 1)
         startAnew(scale);
     limitLetters();

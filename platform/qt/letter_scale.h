@@ -14,12 +14,13 @@ namespace tallyvane {
 /// finds large letters starts itself anew, in its own place, with the scale that they ask for.
 class LetterScale {
 public:
-    /// How much the windows grow for letters of so many points on a screen with so much room; 1 for not at all. The
-    /// main window still fits: beyond that the letters stay smaller than the desktop asks for.
-    static double of(double points, QSize room);
+    /// How much the windows grow for letters of so many points; 1 for not at all. The largest window still fits into
+    /// the room of the screen: beyond that the letters stay smaller than the desktop asks for.
+    static double of(double points, QSize largestWindow, QSize room);
 
     /// Before the application, which takes arguments of its own out of the list.
-    LetterScale(int argc, char** argv) : arguments_(argv, argv + argc) {}
+    LetterScale(int argc, char** argv, QSize largestWindow)
+        : arguments_(argv, argv + argc), largestWindow_(largestWindow) {}
 
     /// Once, with the application there and no window yet. Does not return where the process starts anew.
     void settle();
@@ -28,6 +29,7 @@ private:
     void startAnew(double scale);
 
     std::vector<std::string> arguments_;
+    QSize largestWindow_;
 };
 
 } // namespace tallyvane

@@ -1,4 +1,5 @@
 /// How a list looks: its colours, letters and widths, and the painting of its cells.
+#include <QApplication>
 #include <QHeaderView>
 #include <QPainter>
 #include <QScrollBar>
@@ -68,13 +69,13 @@ void ListboxPeer::setUpLook() {
     horizontalHeader()->setFont(headings);
 }
 
-/// Letters that fill a row of 15 points, and leave some air in a higher one.
-void ListboxPeer::fitLetters() {
-    const int pixels = 2 * control_->DefaultRowHeight() / 5 + 6;
-    QFont letters = font();
-    if (letters.pixelSize() == pixels)
+void ListboxPeer::setLetters() {
+    QFont letters = QApplication::font();
+    if (const std::string& family = control_->TextFont(); family != "System")
+        letters.setFamily(tallyvane::toQt(family));
+    letters.setPixelSize(control_->TextSize());
+    if (letters == font())
         return;
-    letters.setPixelSize(pixels);
     setFont(letters);
     editor_->setFont(letters);
 }

@@ -42,7 +42,7 @@ void ListboxPeer::sync() {
     const bool several = control_->SelectionType() == Listbox::SelectionTypes::multiple;
     setSelectionMode(several ? ExtendedSelection : SingleSelection);
     verticalHeader()->setDefaultSectionSize(control_->DefaultRowHeight());
-    fitLetters();
+    setLetters();
     horizontalHeader()->setVisible(control_->HasHeading());
     setFrameShape(control_->Border() ? StyledPanel : NoFrame);
     model_->tellColumnsChanged();

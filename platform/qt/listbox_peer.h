@@ -46,7 +46,7 @@ protected:
 
 private:
     void setUpLook();
-    void fitLetters();
+    void setLetters();
     void fitLastColumn();
     Qt::Alignment alignmentOf(int column) const;
     void bringSelection();

@@ -69,7 +69,10 @@ void saveAtExit() {
 } // namespace
 
 struct QtProgram::Parts {
-    Parts(int& argc, char** argv) : letterScale(argc, argv), application(argc, argv) { letterScale.settle(); }
+    Parts(int& argc, char** argv, const Rect& largestWindow)
+        : letterScale(argc, argv, {largestWindow.width, largestWindow.height}), application(argc, argv) {
+        letterScale.settle();
+    }
 
     LetterScale letterScale;
     QApplication application;
@@ -78,7 +81,8 @@ struct QtProgram::Parts {
     std::unique_ptr<UnixSignals> unixSignals;
 };
 
-QtProgram::QtProgram(int& argc, char** argv) : parts_(std::make_unique<Parts>(argc, argv)) {
+QtProgram::QtProgram(int& argc, char** argv, const Rect& largestWindow)
+    : parts_(std::make_unique<Parts>(argc, argv, largestWindow)) {
     QApplication& application = parts_->application;
     QApplication::setApplicationName(QStringLiteral("Tallyvane"));
     QApplication::setDesktopFileName(QStringLiteral("tallyvane"));

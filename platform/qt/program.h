@@ -3,13 +3,16 @@
 #include <functional>
 #include <memory>
 
+#include "platform/geometry.h"
+
 namespace tallyvane {
 
 /// The program's process on Qt: event loop, folders and date form of the desktop, signals, and the line to a second
 /// start. No Qt shows in this header, so that whoever joins the rooms needs none.
 class QtProgram {
 public:
-    QtProgram(int& argc, char** argv);
+    /// The size of the largest window, in points: on a desktop of large letters the windows grow as far as it fits.
+    QtProgram(int& argc, char** argv, const Rect& largestWindow);
     QtProgram(const QtProgram&) = delete;
     QtProgram& operator=(const QtProgram&) = delete;
     ~QtProgram();

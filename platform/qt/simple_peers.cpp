@@ -98,7 +98,7 @@ void CanvasPeer::mouseReleaseEvent(QMouseEvent* event) {
 void CanvasPeer::keyPressEvent(QKeyEvent* event) {
     const bool presses =
         event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (control_ == nullptr || !control_->AcceptFocus() || !presses) {
+    if (control_ == nullptr || !control_->AcceptFocus() || !presses || event->isAutoRepeat()) {
         QWidget::keyPressEvent(event);
         return;
     }

@@ -51,18 +51,37 @@ void TextFieldPeer::tellText() {
         return;
     const int cursor = charactersIn(text(), cursorPosition());
     deliver([&] { control_->userChanged(fromQt(text()), cursor, 0); });
-    if (control_ != nullptr && text().contains(QLatin1Char('\n')))
+    if (control_ != nullptr && fromQt(text()) != control_->Text()) { // its line ends are blanks now
+        const int place = cursorPosition();
         sync();
+        setCursorPosition(place);
+    }
+}
+
+bool TextFieldPeer::consumes(const std::string& key) {
+    bool consumed = false;
+    if (control_ != nullptr && control_->KeyDown)
+        deliver([&] { consumed = control_->KeyDown(key); });
+    return consumed;
 }
 
 void TextFieldPeer::keyPressEvent(QKeyEvent* event) {
     const std::string key = nameOf(*event);
-    bool consumed = false;
-    if (control_ != nullptr && control_->KeyDown && !key.empty() && !isShortcut(*event) &&
-        !isForTheWindow(event->key()))
-        deliver([&] { consumed = control_->KeyDown(key); });
-    if (!consumed)
+    const bool isForTheField = !key.empty() && !isShortcut(*event) && !isForTheWindow(event->key());
+    if (!isForTheField || !consumes(key))
         QLineEdit::keyPressEvent(event);
+}
+
+/// Letters that come by dead keys or an input method are keys like others.
+void TextFieldPeer::inputMethodEvent(QInputMethodEvent* event) {
+    QString kept;
+    for (const char32_t letter : event->commitString().toUcs4()) {
+        const QString typed = QString::fromUcs4(&letter, 1);
+        if (!consumes(fromQt(typed)))
+            kept += typed;
+    }
+    event->setCommitString(kept, event->replacementStart(), event->replacementLength());
+    QLineEdit::inputMethodEvent(event);
 }
 
 // TextArea

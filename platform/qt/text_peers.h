@@ -18,8 +18,10 @@ public:
 protected:
     void sync() override;
     void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
 
 private:
+    bool consumes(const std::string& key);
     void tellText();
 };
 

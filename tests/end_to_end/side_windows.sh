@@ -50,8 +50,7 @@ until_true grep -qx Dawn "$folder/7VXHeadings"
 # The defaults brought back, and shown: by the keyboard from the first field.
 toolbar 119
 side_window "Headings Editor"
-xdotool key shift+Tab shift+Tab shift+Tab space
-xdotool key Return
+xdotool key shift+Tab space
 until_true gone "Headings Editor"
 in_front
 until_true grep -qx Breakfast "$folder/7VXHeadings"
@@ -119,12 +118,10 @@ for file in "Brindlemarks Preferences" 7VXHeadings QVXContacts QVXMedications Ta
 done
 start
 in_front
-for place in 119 581 646; do
-    toolbar "$place"
-    sleep 0.8
-    xdotool key alt+F4
-    sleep 0.4
-    in_front
+for look in '119 Headings Editor' '581 Logs' '646 Information'; do
+    toolbar "${look%% *}"
+    side_window "${look#* }"
+    close_by "${look#* }" alt+F4
 done
 xdotool key alt+F4
 ends_well

@@ -39,11 +39,21 @@ TEST_F(SideControlsTest, AFieldRefusesKeysAndTakesAPasteInOneLine) {
     EXPECT_EQ(prefs.EditField1.Text(), "180");
     EXPECT_EQ(Globals::gOver, 180);
     EXPECT_EQ(field->cursorPosition(), 3) << "the key was refused";
+    QTest::keyClick(field, Qt::Key_X, Qt::AltModifier);
+    QInputMethodEvent composed;
+    composed.setCommitString(QStringLiteral("\u00e9"));
+    QCoreApplication::sendEvent(field, &composed);
+    EXPECT_EQ(field->text(), QStringLiteral("180")) << "letters that come another way";
     field->selectAll();
     QGuiApplication::clipboard()->setText(QStringLiteral("7.5\nx"));
     field->paste();
     EXPECT_EQ(prefs.EditField1.Text(), "7.5 x");
     EXPECT_EQ(field->text(), QStringLiteral("7.5 x"));
+    field->setCursorPosition(1);
+    QGuiApplication::clipboard()->setText(QStringLiteral("\n2"));
+    field->paste();
+    EXPECT_EQ(field->text(), QStringLiteral("7 2.5 x"));
+    EXPECT_EQ(field->cursorPosition(), 3) << "typing goes on behind what was pasted";
 }
 
 TEST_F(SideControlsTest, APictureButtonByMouseAndByKeys) {

@@ -133,10 +133,12 @@ TEST_F(FileWindowTest, NamesAndTargetsThatTouchTheSeparatorsComeBack) {
     files_.ListBox1.DropObject({odd, std::nullopt});
     files_.ListBox1.DropObject({std::nullopt, " www.example.org/#\n"});
     files_.ListBox1.DropObject({odd, std::nullopt});
+    files_.ListBox1.DropObject({std::nullopt, "www.a\nb###c@@@d"});
     files_.Close();
     fileWindow again;
     again.Show();
-    ASSERT_EQ(again.ListBox1.ListCount(), 3);
+    ASSERT_EQ(again.ListBox1.ListCount(), 4);
+    EXPECT_EQ(again.ListBox1.Cell(3, 1), "www.a b%23%23%23c%40%40%40d");
     EXPECT_EQ(again.ListBox1.Cell(0, 0), "a@@b##c@ ");
     EXPECT_EQ(again.ListBox1.Cell(0, 1), odd.GetSaveInfo());
     EXPECT_EQ(again.ListBox1.Cell(1, 1), "www.example.org/");

@@ -72,6 +72,16 @@ TEST_F(PrintAllTest, WideTextsWrapAndMakeTheirRowHigher) {
                      "text 63 50 '6789'", "text 103 38 'x'", "text 18 64 'last'"}));
 }
 
+TEST_F(PrintAllTest, WhatTheScreenDoesNotShowIsNotPrinted) {
+    list_.ColumnWidths("60%,40%");
+    list_.TextSize(20);
+    addRow({"Metformin", "500", "a long remark that nobody sees"});
+    const Lines all = printed();
+    EXPECT_EQ(only("text", all), (Lines{"text 122 15 'Medication'", "text 430 15 'Dosage'", "text 3 38 'Metformin'",
+                                        "text 348 38 '500'"}));
+    EXPECT_EQ(only("fill", all), (Lines{"fill 0 23 345 20", "fill 345 23 230 20"})) << "one line high";
+}
+
 TEST_F(PrintAllTest, PagesBeginWithTheHeadings) {
     for (int row = 0; row < 120; ++row)
         addRow({"row " + std::to_string(row)});

@@ -66,6 +66,22 @@ TEST_F(HeadingsEditorTest, WithoutAFileTheDefaultsStandAndAreWritten) {
     EXPECT_TRUE(shown_.empty());
 }
 
+TEST_F(HeadingsEditorTest, EachFieldHasItsLineOfTheFile) {
+    const std::string file = "a\nb\nc\nd\ne\nf\ng\nh\ni\nj\nk\nl\nm\n";
+    makeApplicationFolder();
+    write(applicationFile("7VXHeadings"), file);
+    editor_.Show();
+    EXPECT_EQ(editor_.TextField1.Text() + editor_.TextField4.Text() + editor_.TextField5.Text() +
+                  editor_.TextField10.Text() + editor_.TextField13.Text(),
+              "adejm");
+    editor_.TextField2.Text("B");
+    editor_.TextField7.Text("G");
+    editor_.PushButton1.Action();
+    EXPECT_EQ(read(applicationFile("7VXHeadings")), "a\nB\nc\nd\ne\nf\nG\nh\ni\nj\nk\nl\nm\n");
+    ASSERT_EQ(shown_.size(), 1U);
+    EXPECT_EQ(shown_[0][6], "G");
+}
+
 class PrefsWindowTest : public TestDesk {
 protected:
     void SetUp() override {
@@ -84,6 +100,8 @@ protected:
 
 TEST_F(PrefsWindowTest, FieldsShowTheLimitsAndChangeThemByTheKey) {
     EXPECT_EQ(prefs_.EditField1.Text(), "13") << "the text of the number, not what the field was built with";
+    EXPECT_EQ(prefs_.EditField2.Text() + prefs_.EditField3.Text() + prefs_.EditField4.Text(), "953");
+    EXPECT_TRUE(prefs_.CheckBox1.Value());
     struct Row {
         TextField& field;
         double& limit;
