@@ -40,14 +40,8 @@ void save(const Listbox& table) {
     std::optional<TextOutputStream> stream = DataFiles::createText(file());
     if (!stream)
         return;
-    for (int row = 0; row < table.ListCount(); ++row) {
-        for (int column = 0; column < savedColumns; ++column) {
-            if (column > 0)
-                stream->Write(DataFiles::fieldSeparator);
-            stream->Write(table.Cell(row, column));
-        }
-        stream->WriteLine("");
-    }
+    for (int row = 0; row < table.ListCount(); ++row)
+        stream->WriteFields(table.cells(row).first(savedColumns), DataFiles::fieldSeparator);
     stream->Close();
 }
 

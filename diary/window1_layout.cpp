@@ -33,7 +33,7 @@ constexpr Rect labelOver(int first, int width) { return {columnLeft(first), 4, w
 } // namespace
 
 Window1::Window1(Toolbar& toolbar, MenuBar& menuBar) : ListBox1(DayTable::columnCount), Toolbar11(toolbar) {
-    shape(Kind::document, windowWidth, 518, 490, 32000);
+    shape(Kind::document, windowWidth, 518, 490, anySize);
     Title("Tallyvane");
     carry(&menuBar, &toolbar);
     layOut();

@@ -10,22 +10,23 @@
 
 namespace tallyvane::DayGraph {
 
-/// A column of the day table and the colour of its line.
+/// A column of the day table, the colour of its line, and its name when the user has given it no other.
 struct Period {
     int column;
     Color color;
+    const char* caption;
 };
 
 /// The averages of the days, then the seven readings.
 inline constexpr std::array<Period, 8> periods{{
-    {DayTable::averageColumn, RGB(255, 0, 0)},
-    {1, RGB(0, 128, 0)},
-    {2, RGB(128, 0, 255)},
-    {3, RGB(255, 128, 0)},
-    {4, RGB(0, 128, 255)},
-    {5, RGB(255, 0, 255)},
-    {6, RGB(0, 64, 128)},
-    {7, RGB(0, 128, 128)},
+    {DayTable::averageColumn, RGB(255, 0, 0), "Daily Averages"},
+    {1, RGB(0, 128, 0), "Before Breakfast"},
+    {2, RGB(128, 0, 255), "After Breakfast"},
+    {3, RGB(255, 128, 0), "Before Lunch"},
+    {4, RGB(0, 128, 255), "After Lunch"},
+    {5, RGB(255, 0, 255), "Before Supper"},
+    {6, RGB(0, 64, 128), "After Supper"},
+    {7, RGB(0, 128, 128), "Bedtime"},
 }};
 
 /// Which of the periods are to be seen.

@@ -1,23 +1,11 @@
 #include "graphwindow/graf_thing_window.h"
 
 #include "platform/printing.h"
+#include "platform/while_true.h"
 #include "settings/globals.h"
 #include "settings/headings.h"
 
 namespace tallyvane {
-
-namespace {
-
-/// Holds the sign up that a page with a legend is being printed.
-class Printing {
-public:
-    Printing() { Globals::gPrintingOn = true; }
-    Printing(const Printing&) = delete;
-    Printing& operator=(const Printing&) = delete;
-    ~Printing() { Globals::gPrintingOn = false; }
-};
-
-} // namespace
 
 void GrafThingWindow::Event_Open() {
     setLineDefault();
@@ -45,7 +33,7 @@ void GrafThingWindow::getheadings() {
     constexpr std::size_t periodsAMeal = 2;
     constexpr std::size_t meals = 3;
     const auto captioned = boxes();
-    CheckBox13.Caption("Daily Averages");
+    CheckBox13.Caption(DayGraph::periods.front().caption);
     for (std::size_t i = 0; i < meals * periodsAMeal; ++i)
         captioned[i + 1]->Caption((*headings)[headingGroups + i] + " " + (*headings)[i / periodsAMeal]);
     CheckBox6.Caption((*headings)[headingGroups + meals * periodsAMeal]);
@@ -72,13 +60,13 @@ void GrafThingWindow::Canvas1_Paint(Graphics& g) {
         return;
     if (!finished_ || finished_->Width() != width || finished_->Height() != height) {
         finished_.emplace(width, height, 32);
-        drawOnPaper(finished_->Graphics());
+        drawOnWhite(finished_->Graphics());
     }
     g.DrawPicture(*finished_, 0, 0);
 }
 
 /// Axes and titles are black, so that the graph brings a light ground along, whatever the desktop's theme.
-void GrafThingWindow::drawOnPaper(Graphics& g) const {
+void GrafThingWindow::drawOnWhite(Graphics& g) const {
     g.ForeColor(RGB(255, 255, 255));
     g.FillRect(0, 0, g.Width(), g.Height());
     grafThing1->Draw(g);
@@ -94,7 +82,7 @@ void GrafThingWindow::Canvas2_Action() {
     if (!g)
         return;
     {
-        const Printing printing;
+        const WhileTrue printing(Globals::gPrintingOn);
         grafThing1->Draw(*g);
     }
     if (!graphWeight)

@@ -50,7 +50,7 @@ private:
     void layOut();
     void build();
     void wire();
-    void drawOnPaper(Graphics& g) const;
+    void drawOnWhite(Graphics& g) const;
     void drawLegend(Graphics& g);
     std::array<CheckBox*, DayGraph::periods.size()> boxes();
     std::array<Rectangle*, DayGraph::periods.size()> swatches();

@@ -9,17 +9,17 @@ constexpr unsigned lockCorner = lockTop | lockRight;
 
 constexpr int width = 716;
 constexpr int height = 431;
-constexpr int most = 32000;
+
+constexpr std::array<int, 8> boxTops{47, 69, 91, 114, 136, 159, 181, 204};
 
 /// A box of the test periods, and the swatch beside it; 0 is the topmost.
-constexpr std::array<int, 8> boxTops{47, 69, 91, 114, 136, 159, 181, 204};
 constexpr Rect boxFrame(std::size_t i) { return {561, boxTops[i], 131, 20}; }
 constexpr Rect swatchFrame(std::size_t i) { return {543, boxTops[i] + 5, 11, 10}; }
 
 } // namespace
 
 GrafThingWindow::GrafThingWindow(const Listbox& days) : days_(days) {
-    shape(Kind::document, width, height, {width, most, height, most});
+    shape(Kind::document, width, height, {width, anySize, height, anySize});
     Title("Graph");
     layOut();
     build();
@@ -53,11 +53,8 @@ void GrafThingWindow::layOut() {
 void GrafThingWindow::build() {
     Canvas1.AccessibleName("Graph of the selected days");
     GroupBox3.Caption("Test Periods");
-    constexpr std::array<const char*, 8> captions{"Daily Averages", "Before Breakfast", "After Breakfast",
-                                                  "Before Lunch",   "After Lunch",      "Before Supper",
-                                                  "After Supper",   "Bedtime"};
-    for (std::size_t i = 0; i < captions.size(); ++i) {
-        boxes()[i]->Caption(captions[i]);
+    for (std::size_t i = 0; i < DayGraph::periods.size(); ++i) {
+        boxes()[i]->Caption(DayGraph::periods[i].caption);
         boxes()[i]->TextSize(12);
         swatches()[i]->FillColor(DayGraph::periods[i].color);
     }

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "charting/extent.h"
 #include "charting/gt_series.h"
 #include "platform/listbox.h"
 

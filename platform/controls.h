@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <vector>
@@ -154,6 +155,55 @@ private:
     std::string caption_;
     int textSize_ = 0;
     bool value_ = false;
+};
+
+/// One of several choices, of which one at most is on.
+class RadioButton : public Control {
+public:
+    /// From here on these buttons exclude one another.
+    static void join(std::initializer_list<RadioButton*> buttons) {
+        for (RadioButton* button : buttons)
+            button->choices_ = buttons;
+    }
+
+    const std::string& Caption() const { return caption_; }
+    void Caption(std::string value) { set(caption_, std::move(value)); }
+    bool Value() const { return value_; }
+    /// Switched on, it switches the others off.
+    void Value(bool value) {
+        if (value)
+            for (RadioButton* other : choices_)
+                if (other != this)
+                    other->Value(false);
+        set(value_, value);
+    }
+    /// The user has chosen it: the values, then Action.
+    void userChose() {
+        Value(true);
+        if (Action)
+            Action();
+    }
+
+    std::function<void()> Action;
+
+private:
+    std::string caption_;
+    bool value_ = false;
+    std::vector<RadioButton*> choices_; // with this one
+};
+
+/// A bar that fills as something goes on.
+class ProgressBar : public Control {
+public:
+    int Value() const { return value_; }
+    void Value(int value) { set(value_, value); }
+    /// The value that fills it.
+    int Maximum() const { return maximum_; }
+    void Maximum(int value) { set(maximum_, value); }
+
+private:
+    int value_ = 0;
+    int maximum_ = 100;
 };
 
 /// A frame with tabs, fixed once it is shown. The controls of a page stand in the window's table with the page's

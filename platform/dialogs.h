@@ -21,6 +21,9 @@ struct SaveAsDialog {
 /// Asks for a file that exists.
 struct OpenDialog {
     std::string Title;
+    /// The endings of the names that are offered first, with "," between them ("txt,csv"); "all" and "text" stand for
+    /// all files, since a text can have any name.
+    std::string Filter = "all";
 
     /// Nil when the user cancelled.
     [[nodiscard]] std::optional<FolderItem> ShowModal() const;

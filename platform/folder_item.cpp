@@ -39,7 +39,9 @@ std::optional<TextInputStream> FolderItem::OpenAsTextFile() const {
     return TextInputStream(std::move(*content));
 }
 
-std::string FolderItem::DisplayName() const { return path_.substr(path_.rfind('/') + 1); }
+bool FolderItem::Name(std::string_view name) const {
+    return SystemFiles::rename(path_, path_.substr(0, path_.rfind('/') + 1) + std::string(name));
+}
 
 std::string FolderItem::GetSaveInfo() const {
     constexpr std::string_view plain = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789/-._~";

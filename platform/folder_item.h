@@ -20,7 +20,12 @@ public:
     bool Directory() const;
     const std::string& AbsolutePath() const { return path_; }
     /// The last part of the path.
-    std::string DisplayName() const;
+    std::string Name() const { return path_.substr(path_.rfind('/') + 1); }
+    /// Gives what stands there another name in the same folder; this place stays what it is. False, and nothing done,
+    /// when that can't be or something of that name is there.
+    [[nodiscard]] bool Name(std::string_view name) const;
+    /// The name as the user sees it.
+    std::string DisplayName() const { return Name(); }
 
     /// A text from which the file can be found again: a "file:" address without "@", "#", "www" or line ends, so that
     /// it is taken neither for a link nor for a separator.

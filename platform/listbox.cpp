@@ -39,6 +39,17 @@ void Listbox::AddRow(std::string_view text) {
         list_->rowAdded(lastIndex_);
 }
 
+void Listbox::AddRows(std::vector<std::vector<std::string>> rows) {
+    rows_.reserve(rows_.size() + rows.size());
+    for (std::vector<std::string>& cells : rows) {
+        cells.resize(columns_.size());
+        rows_.push_back({std::move(cells), ++lastRevision_, false, nullptr});
+    }
+    lastIndex_ = rows.empty() ? lastIndex_ : ListCount() - 1;
+    if (list_ != nullptr)
+        list_->rowsReplaced();
+}
+
 void Listbox::RemoveRow(int row) {
     if (!contains(row, 0))
         return;

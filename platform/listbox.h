@@ -5,6 +5,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -85,10 +86,14 @@ public:
     /// The row that was added last; -1 before that, and once it was removed.
     int LastIndex() const { return lastIndex_; }
     const std::string& Cell(int row, int column) const;
+    /// The texts of a row that exists, for those who want them all; valid until the row changes.
+    std::span<const std::string> cells(int row) const { return rows_[index(row)].cells; }
     /// A write from code raises no event.
     void Cell(int row, int column, std::string_view text);
     /// Appends a row whose column 0 holds the text; its other cells are empty.
     void AddRow(std::string_view text);
+    /// Appends rows at one go, each with its texts from column 0; texts past the last column are dropped.
+    void AddRows(std::vector<std::vector<std::string>> rows);
     void RemoveRow(int row);
     void DeleteAllRows();
     // How a cell's text is set off, also in print

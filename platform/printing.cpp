@@ -22,12 +22,12 @@ int PrinterSetup::HorizontalResolution() const {
     return resolution;
 }
 
-std::unique_ptr<Graphics> OpenPrinterDialog(const PrinterSetup* setup) {
+std::unique_ptr<Graphics> OpenPrinterDialog(const PrinterSetup* setup, PrintTarget target) {
     Toolkit* toolkit = Toolkit::inForce();
     if (toolkit == nullptr)
         return nullptr;
-    return setup == nullptr ? toolkit->openPrinterDialog(nullptr, PrinterSetup::pointsAnInch)
-                            : toolkit->openPrinterDialog(setup->paper(), setup->HorizontalResolution());
+    return setup == nullptr ? toolkit->openPrinterDialog(nullptr, PrinterSetup::pointsAnInch, target)
+                            : toolkit->openPrinterDialog(setup->paper(), setup->HorizontalResolution(), target);
 }
 
 void StyledTextPrinter::DrawBlock(double x, double y, double height) {

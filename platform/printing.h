@@ -52,9 +52,13 @@ private:
     std::unique_ptr<Paper> paper_;
 };
 
+/// What the print dialog offers first; the user can choose another.
+enum class PrintTarget { printer, pdf };
+
 /// Shows the print dialog; without a set-up the paper is the printer's own, and counts in points. Nil when the user
 /// cancelled. What is drawn goes to paper when the surface goes out of being.
-[[nodiscard]] std::unique_ptr<Graphics> OpenPrinterDialog(const PrinterSetup* setup = nullptr);
+[[nodiscard]] std::unique_ptr<Graphics> OpenPrinterDialog(const PrinterSetup* setup = nullptr,
+                                                          PrintTarget target = PrintTarget::printer);
 
 /// Lays a text out on one page after the other, in the desktop's own font at 12 points. Lines are broken between words;
 /// a word that is wider than the page is broken where it must be.

@@ -27,6 +27,9 @@ Kind kindOf(const std::string& path);
 /// Takes a plain file away. False when there was none or it could not go.
 [[nodiscard]] bool remove(const std::string& path);
 
+/// Gives a file another path on the same disk. False when it can't have it, or when something stands there.
+[[nodiscard]] bool rename(const std::string& from, const std::string& to);
+
 /// The whole content of a file; nothing for what is no plain file, can't be read or is larger than a gigabyte.
 [[nodiscard]] std::optional<std::string> read(const std::string& path);
 

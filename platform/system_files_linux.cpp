@@ -1,6 +1,7 @@
 #include "platform/system_files.h"
 
 #include <cerrno>
+#include <cstdio>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -150,6 +151,11 @@ Kind kindOf(const std::string& path) {
 bool makeFolder(const std::string& path) { return !hasNul(path) && ::mkdir(path.c_str(), ownerOnlyFolder) == 0; }
 
 bool remove(const std::string& path) { return kindOf(path) == Kind::file && ::unlink(path.c_str()) == 0; }
+
+bool rename(const std::string& from, const std::string& to) {
+    return !hasNul(from) && !hasNul(to) &&
+           ::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0;
+}
 
 std::optional<std::string> read(const std::string& path) {
     const int file = openPlain(path, O_RDONLY);

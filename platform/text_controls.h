@@ -82,6 +82,9 @@ public:
         else
             Text(text_ + std::string(value));
     }
+    /// The user can only read and copy. Fixed once it is shown.
+    bool ReadOnly() const { return readOnly_; }
+    void ReadOnly(bool value) { set(readOnly_, value); }
     /// Words that no dictionary knows are marked, if there is a dictionary. Fixed once it is shown.
     bool SpellChecking() const { return spellChecking_; }
     void SpellChecking(bool value) { set(spellChecking_, value); }
@@ -108,6 +111,7 @@ private:
     }
 
     std::string text_;
+    bool readOnly_ = false;
     bool spellChecking_ = false;
     TextAreaObserver* area_ = nullptr;
 };

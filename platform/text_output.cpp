@@ -7,13 +7,19 @@
 
 namespace tallyvane {
 
-void printText(const std::string& text) {
+void printText(const std::string& text, const std::string& title) {
     constexpr double left = 50;
-    constexpr double top = 50;
+    constexpr double titleBaseline = 50;
     constexpr double mostHeight = 648;
+    const double top = title.empty() ? 50 : 60;
     const std::unique_ptr<Graphics> g = OpenPrinterDialog();
     if (!g)
         return;
+    if (!title.empty()) {
+        g->Bold(true);
+        g->DrawString(title, left, titleBaseline);
+        g->Bold(false);
+    }
     const double blockHeight = std::min(mostHeight, g->Height() - top); // paper can be lower
     StyledTextPrinter printer(*g, text, 540);
     printer.Width(475);

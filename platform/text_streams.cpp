@@ -34,6 +34,15 @@ void TextOutputStream::WriteLine(std::string_view text) {
     Write(EndOfLine);
 }
 
+void TextOutputStream::WriteFields(std::span<const std::string> texts, std::string_view separator) {
+    for (const std::string& text : texts) {
+        if (&text != &texts.front())
+            Write(separator);
+        Write(text);
+    }
+    Write(EndOfLine);
+}
+
 void TextOutputStream::Close() {
     const auto file = std::exchange(file_, nullptr);
     if (file)

@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -21,6 +22,7 @@ public:
     std::string_view ReadLine();
     /// All that is left, as it stands.
     std::string_view ReadAll();
+    std::size_t bytesLeft() const { return text_.size() - place_; }
     /// Nothing is left to read. (Plain EOF is a macro of the C library.)
     bool EndOfFile() const { return place_ == text_.size(); }
 
@@ -37,6 +39,8 @@ public:
 
     void Write(std::string_view text) { text_ += text; }
     void WriteLine(std::string_view text);
+    /// Writes texts as one line, with the separator between them.
+    void WriteFields(std::span<const std::string> texts, std::string_view separator);
     /// Replaces the file. Throws IOException, with the old content in place, when it can't. The stream ends here.
     void Close();
 

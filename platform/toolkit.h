@@ -36,7 +36,7 @@ public:
     virtual std::unique_ptr<Paper> makePaper() = 0;
     /// The pages to print on, that many dots to an inch, after the print dialog; nil when that was cancelled. `paper`
     /// can be nil.
-    virtual std::unique_ptr<Graphics> openPrinterDialog(const Paper* paper, int resolution) = 0;
+    virtual std::unique_ptr<Graphics> openPrinterDialog(const Paper* paper, int resolution, PrintTarget target) = 0;
     /// Hands an address to the desktop's default program for it.
     virtual void openUrl(const std::string& address) = 0;
     /// The same for a file that exists.

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "platform/toolkit.h"
+#include "platform/while_true.h"
 
 namespace tallyvane {
 
@@ -28,18 +29,6 @@ struct RaiseOpen {
         if (event)
             event();
     }
-};
-
-/// Holds a flag up for as long as it lives, however its block ends.
-class WhileTrue {
-public:
-    explicit WhileTrue(bool& flag) : flag_(flag) { flag_ = true; }
-    WhileTrue(const WhileTrue&) = delete;
-    WhileTrue& operator=(const WhileTrue&) = delete;
-    ~WhileTrue() { flag_ = false; }
-
-private:
-    bool& flag_;
 };
 
 } // namespace

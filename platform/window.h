@@ -31,9 +31,9 @@ enum Lock : unsigned { lockLeft = 1, lockTop = 2, lockRight = 4, lockBottom = 8 
 
 /// A line of a window's table of controls: what, where, and how it follows the window's size.
 struct Placement {
-    using AnyControl =
-        std::variant<StaticText*, Canvas*, Rectangle*, GroupBox*, PushButton*, BevelButton*, CheckBox*, TextField*,
-                     TextArea*, TabPanel*, CalendarControl*, ProgressWheel*, Listbox*, Timer*>;
+    using AnyControl = std::variant<StaticText*, Canvas*, Rectangle*, GroupBox*, PushButton*, BevelButton*, CheckBox*,
+                                    RadioButton*, ProgressBar*, TextField*, TextArea*, TabPanel*, CalendarControl*,
+                                    ProgressWheel*, Listbox*, Timer*>;
 
     AnyControl control;
     /// In the window as it is created. Timers have none.
@@ -118,6 +118,9 @@ public:
     static const std::vector<Window*>& openWindows();
 
 protected:
+    /// No limit for a screen.
+    static constexpr int anySize = 32000;
+
     /// What a window's size stays between.
     struct Limits {
         int minWidth;

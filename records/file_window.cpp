@@ -42,7 +42,7 @@ std::string inOneLine(std::string_view text) { return Trim(ReplaceLineEndings(te
 } // namespace
 
 fileWindow::fileWindow() {
-    shape(Kind::document, 330, 420, 260, 32000);
+    shape(Kind::document, 330, 420, 260, anySize);
     Title("Files");
     place({
         {&StaticText1, {16, 12, 220, 28}},

@@ -15,7 +15,7 @@ constexpr Rect fieldFrame{30, 108, 560, 330};
 } // namespace
 
 logsWindow::logsWindow() {
-    shape(Kind::document, 620, 510, 330, 32000);
+    shape(Kind::document, 620, 510, 330, anySize);
     Title("Logs");
     place({
         {&AutoButton1, {18, 14, 32, 32}},

@@ -19,6 +19,7 @@ std::string gMedication;
 bool gFileWindowOpen = false;
 bool gFilesOpen = false;
 bool gPrintingOn = false;
+std::unique_ptr<PrinterSetup> ps;
 
 } // namespace Globals
 

@@ -1,10 +1,12 @@
 /// The settings and running texts that all rooms read directly.
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 
 #include "platform/folder_item.h"
+#include "platform/printing.h"
 
 namespace tallyvane {
 
@@ -37,6 +39,8 @@ extern bool gFileWindowOpen;
 extern bool gFilesOpen;
 /// A graph is being printed on a page that has its legend below the graph.
 extern bool gPrintingOn;
+/// The page set-up of the reports; nil until one is made. It lasts to the end of the program.
+extern std::unique_ptr<PrinterSetup> ps;
 
 } // namespace Globals
 

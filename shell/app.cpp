@@ -3,7 +3,9 @@
 #include <utility>
 
 #include "charting/gt_graph.h"
+#include "exchange/archive.h"
 #include "platform/toolkit.h"
+#include "reports/diary_report.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
 #include "settings/prefs_module.h"
@@ -34,6 +36,7 @@ App::App() : menuBar(MenuBar1()) {
         {"FileQuit", [this] { FileQuit_Action(); }},
         {"FileAboutBrindlemarks", [this] { FileAboutBrindlemarks_Action(); }},
         {"FilePreferences", [this] { FilePreferences_Action(); }},
+        {"FileExportData", [this] { FileExportData_Action(); }},
         {"HelpUsersGuide", [this] { HelpUsersGuide_Action(); }},
         {"HelpSupportForum", [this] { HelpSupportForum_Action(); }},
     };
@@ -93,6 +96,7 @@ void App::bringUpMainWindow() {
     }
     auto window = std::make_unique<Window1>(toolbar_, menuBar);
     joinWindows(*window);
+    joinMenus(*window);
     window->Open();
     window->Visible(false);
     window->Timer1.Mode(Timer::ModeSingle);
@@ -110,6 +114,20 @@ void App::joinWindows(Window1& window) {
     window.showTeamAndMedications = [this] { showSingle(info_); };
     window.showGraph = [this, &table = window.ListBox1] {
         showSingle<GrafThingWindow>(graph_, [&table] { return std::make_unique<GrafThingWindow>(table); });
+    };
+}
+
+/// The items that hold only while the main window is in front.
+void App::joinMenus(Window1& window) {
+    const Listbox& days = window.ListBox1;
+    window.menuHandlers = {
+        {"FileImportData", [this] { FileImportData_Action(); }},
+        {"FileArchiveSelectedDays", [&days] { FileArchiveSelectedDays_Action(days); }},
+        {"FileOpenArchivedDays", [this] { FileOpenArchivedDays_Action(archive_); }},
+        {"FileSaveAsPDF", [&window] { DiaryReport(window).FileSaveAsPDF_Action(); }},
+        {"FilePrintSetup", [] { FilePrintSetup_Action(); }},
+        {"FilePrint", [&window] { DiaryReport(window).FilePrint_Action(); }},
+        {"FilePrintSelected", [&window] { DiaryReport(window).FilePrintSelected_Action(); }},
     };
 }
 
@@ -195,6 +213,15 @@ void App::FilePreferences_Action() {
         };
         return prefs;
     });
+}
+
+void App::FileExportData_Action() {
+    if (window1_)
+        showSingle<exportWindow>(export_, [this] { return std::make_unique<exportWindow>(window1_->ListBox1); });
+}
+
+void App::FileImportData_Action() {
+    showSingle<importWindow>(import_, [this] { return std::make_unique<importWindow>(window1_->ListBox1); });
 }
 
 void App::HelpUsersGuide_Action() { ShowURL(TALLYVANE_GUIDE_URL); }

@@ -5,6 +5,9 @@
 #include <vector>
 
 #include "diary/window1.h"
+#include "exchange/archive_window.h"
+#include "exchange/export_window.h"
+#include "exchange/import_window.h"
 #include "graphwindow/graf_thing_window.h"
 #include "platform/folder_item.h"
 #include "platform/menus.h"
@@ -48,6 +51,8 @@ public:
     void HelpSupportForum_Action();
     void FileAboutBrindlemarks_Action();
     void FilePreferences_Action();
+    void FileExportData_Action();
+    void FileImportData_Action();
     void FileQuit_Action();
 
     /// Runs an event to its end, or to the catch-all. Every event of the program comes this way.
@@ -65,6 +70,9 @@ public:
     InfoWindow* infoWindow() { return info_.get(); }
     fileWindow* files() { return files_.get(); }
     GrafThingWindow* graph() { return graph_.get(); }
+    exportWindow* exporting() { return export_.get(); }
+    importWindow* importing() { return import_.get(); }
+    archiveWindow* archive() { return archive_.get(); }
     MenuBar menuBar;
 
 private:
@@ -73,6 +81,7 @@ private:
     void tellMissingDataFolder();
     void giveWay();
     void joinWindows(Window1& window);
+    void joinMenus(Window1& window);
     void showHeadingsEditor();
 
     Toolbar1 toolbar_;
@@ -87,6 +96,9 @@ private:
     std::unique_ptr<InfoWindow> info_;
     std::unique_ptr<fileWindow> files_;
     std::unique_ptr<GrafThingWindow> graph_;
+    std::unique_ptr<exportWindow> export_;
+    std::unique_ptr<importWindow> import_;
+    std::unique_ptr<archiveWindow> archive_;
 };
 
 } // namespace tallyvane

@@ -36,6 +36,16 @@ std::string chosenPath(QFileDialog& dialog) {
     return QFile::encodeName(dialog.selectedFiles().first()).toStdString();
 }
 
+QStringList nameFilters(const std::string& endings) {
+    const QString all = QStringLiteral("All files (*)");
+    if (endings == "all" || endings == "text")
+        return {all};
+    QStringList patterns;
+    for (FieldWalk walk(endings, ","); !walk.atEnd();)
+        patterns += QStringLiteral("*.") + toQt(walk.next());
+    return {patterns.join(QLatin1Char(' ')), all};
+}
+
 Window* windowInFront() {
     const auto* frame = dynamic_cast<WindowFrame*>(QApplication::activeWindow());
     return frame == nullptr ? nullptr : frame->window();
@@ -86,15 +96,20 @@ std::string QtToolkit::askWhereToSave(const SaveAsDialog& dialog) {
 std::string QtToolkit::askForFile(const OpenDialog& dialog) {
     QFileDialog chooser(nullptr, toQt(dialog.Title), QDir::homePath());
     chooser.setFileMode(QFileDialog::ExistingFile);
+    chooser.setNameFilters(nameFilters(dialog.Filter));
     return chosenPath(chooser);
 }
 
 std::unique_ptr<Paper> QtToolkit::makePaper() { return std::make_unique<QtPaper>(); }
 
-std::unique_ptr<Graphics> QtToolkit::openPrinterDialog(const Paper* paper, int resolution) {
+std::unique_ptr<Graphics> QtToolkit::openPrinterDialog(const Paper* paper, int resolution, PrintTarget target) {
     std::unique_ptr<QPrinter> printer = makePrinter();
     if (const auto* chosen = dynamic_cast<const QtPaper*>(paper))
         printer->setPageLayout(chosen->layout());
+    if (target == PrintTarget::pdf) {
+        printer->setOutputFormat(QPrinter::PdfFormat);
+        printer->setOutputFileName(QDir::home().filePath(QStringLiteral("Tallyvane Report.pdf")));
+    }
     QPrintDialog dialog(printer.get()); // of no window, which might go while the dialog is open
     if (dialog.exec() != QDialog::Accepted)
         return nullptr;

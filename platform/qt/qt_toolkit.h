@@ -18,7 +18,7 @@ public:
     std::string askWhereToSave(const SaveAsDialog& dialog) override;
     std::string askForFile(const OpenDialog& dialog) override;
     std::unique_ptr<Paper> makePaper() override;
-    std::unique_ptr<Graphics> openPrinterDialog(const Paper* paper, int resolution) override;
+    std::unique_ptr<Graphics> openPrinterDialog(const Paper* paper, int resolution, PrintTarget target) override;
     void openUrl(const std::string& address) override;
     void openFile(const std::string& path) override;
     void quit(int code) override;

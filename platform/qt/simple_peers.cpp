@@ -29,6 +29,11 @@ Qt::Alignment toQt(TextAlign align) {
     return Qt::AlignLeft;
 }
 
+/// A caption is shown as it stands: to Qt a single "&" would mark the letter after it.
+QString asItStands(const std::string& caption) {
+    return tallyvane::toQt(ReplaceAll(Left(caption, mostCharacters), "&", "&&"));
+}
+
 } // namespace
 
 // StaticText
@@ -126,7 +131,7 @@ void RectanglePeer::paintEvent(QPaintEvent* /*event*/) {
 
 GroupBoxPeer::GroupBoxPeer(GroupBox& box, QWidget* parent) : Peer(box, parent) { controlChanged(); }
 
-void GroupBoxPeer::sync() { setTitle(tallyvane::toQt(control_->Caption())); }
+void GroupBoxPeer::sync() { setTitle(asItStands(control_->Caption())); }
 
 // PushButton
 
@@ -152,7 +157,7 @@ PushButtonPeer::PushButtonPeer(PushButton& button, QWidget* parent) : Peer(butto
 }
 
 void PushButtonPeer::sync() {
-    setText(tallyvane::toQt(control_->Caption()));
+    setText(asItStands(control_->Caption()));
     setDefault(control_->Default());
 }
 
@@ -180,22 +185,55 @@ CheckBoxPeer::CheckBoxPeer(CheckBox& box, QWidget* parent) : Peer(box, parent) {
 }
 
 void CheckBoxPeer::sync() {
-    setText(tallyvane::toQt(control_->Caption()));
+    setText(asItStands(control_->Caption()));
     setChecked(control_->Value());
     fitLetters();
 }
 
-/// Captions that the user has written can be wide: their letters get smaller until all can be read.
+/// Captions that the user has written can be wide: their letters get smaller. What is too wide even then shows whole
+/// in the tool tip.
 void CheckBoxPeer::fitLetters() {
     constexpr int smallest = 9; // pixels
+    if (text() == fitted_)
+        return;
+    fitted_ = text();
     QFont letters = parentWidget()->font();
     if (control_->TextSize() > 0)
         letters.setPixelSize(control_->TextSize());
     setFont(letters);
-    for (int pixels = fontInfo().pixelSize(); pixels > smallest && sizeHint().width() > control_->Width();) {
+    for (int pixels = fontInfo().pixelSize(); pixels > smallest && isTooWide();) {
         letters.setPixelSize(--pixels);
         setFont(letters);
     }
+    if (isTooWide() && toolTip().isEmpty())
+        setToolTip(tallyvane::toQt(control_->Caption()));
+}
+
+bool CheckBoxPeer::isTooWide() const { return sizeHint().width() > control_->Width(); }
+
+// RadioButton
+
+RadioButtonPeer::RadioButtonPeer(RadioButton& button, QWidget* parent) : Peer(button, parent) {
+    setAutoExclusive(false); // the buttons themselves see to that
+    controlChanged();
+    connect(this, &QRadioButton::clicked, this, [this] {
+        if (control_ != nullptr)
+            deliver([&] { control_->userChose(); });
+    });
+}
+
+void RadioButtonPeer::sync() {
+    setText(asItStands(control_->Caption()));
+    setChecked(control_->Value());
+}
+
+// ProgressBar
+
+ProgressBarPeer::ProgressBarPeer(ProgressBar& bar, QWidget* parent) : Peer(bar, parent) { controlChanged(); }
+
+void ProgressBarPeer::sync() {
+    setRange(0, control_->Maximum());
+    setValue(control_->Value());
 }
 
 // TabPanel

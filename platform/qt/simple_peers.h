@@ -4,7 +4,9 @@
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QProgressBar>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTabWidget>
 #include <QTimer>
 #include <QToolButton>
@@ -79,9 +81,28 @@ protected:
 
 private:
     void fitLetters();
+    bool isTooWide() const;
+
+    QString fitted_; // the text that the letters fit
 };
 
 /// Shows the frame and the tabs; what stands on the pages are neighbours of this widget, laid over it.
+class RadioButtonPeer : public Peer<QRadioButton, RadioButton> {
+public:
+    RadioButtonPeer(RadioButton& button, QWidget* parent);
+
+protected:
+    void sync() override;
+};
+
+class ProgressBarPeer : public Peer<QProgressBar, ProgressBar> {
+public:
+    ProgressBarPeer(ProgressBar& bar, QWidget* parent);
+
+protected:
+    void sync() override;
+};
+
 class TabPanelPeer : public Peer<QTabWidget, TabPanel> {
 public:
     TabPanelPeer(TabPanel& panel, QWidget* parent);

@@ -89,6 +89,7 @@ void TextFieldPeer::inputMethodEvent(QInputMethodEvent* event) {
 TextAreaPeer::TextAreaPeer(TextArea& area, QWidget* parent) : Peer(area, parent) {
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setTabChangesFocus(true);
+    setReadOnly(area.ReadOnly());
     if (area.SpellChecking() && Dictionary::ofDesktop().isThere())
         new SpellingMarker(document(), Dictionary::ofDesktop());
     controlChanged();

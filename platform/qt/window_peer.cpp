@@ -26,6 +26,8 @@ struct MakePeer {
     WidgetPeer* operator()(PushButton* button) const { return new PushButtonPeer(*button, parent); }
     WidgetPeer* operator()(BevelButton* button) const { return new BevelButtonPeer(*button, parent); }
     WidgetPeer* operator()(CheckBox* box) const { return new CheckBoxPeer(*box, parent); }
+    WidgetPeer* operator()(RadioButton* button) const { return new RadioButtonPeer(*button, parent); }
+    WidgetPeer* operator()(ProgressBar* bar) const { return new ProgressBarPeer(*bar, parent); }
     WidgetPeer* operator()(TextField* field) const { return new TextFieldPeer(*field, parent); }
     WidgetPeer* operator()(TextArea* area) const { return new TextAreaPeer(*area, parent); }
     WidgetPeer* operator()(TabPanel* panel) const { return new TabPanelPeer(*panel, parent); }

@@ -36,6 +36,10 @@ protected:
         TestDesk::SetUp();
         GTGraph::isPrintingOn = [] { return Globals::gPrintingOn; };
     }
+    void TearDown() override {
+        GTGraph::isPrintingOn = [] { return false; };
+        TestDesk::TearDown();
+    }
     /// Rows of "date, the readings and the average in the order of the columns, weight".
     void fill(const std::vector<std::vector<std::string>>& rows) {
         table_.DeleteAllRows();
@@ -74,6 +78,44 @@ TEST_F(GrafThingWindowTest, TwoPeriodsCountTheirReadingsAndTheOthersKeepTheirRow
         EXPECT_EQ(window_.grafThing1->Series(series)->YMin(), 0) << series;
         EXPECT_DOUBLE_EQ(window_.grafThing1->Series(series)->YMax(), 9 * 1.15) << series;
     }
+}
+
+TEST_F(GrafThingWindowTest, EachSeriesHasItsLook) {
+    fill(
+        {{"11/1/2026", "5", "5", "5", "5", "5", "5", "5", "5"}, {"11/2/2026", "6", "6", "6", "6", "6", "6", "6", "6"}});
+    selectAll();
+    for (CheckBox* box : {&window_.CheckBox12, &window_.CheckBox11, &window_.CheckBox10, &window_.CheckBox9,
+                          &window_.CheckBox8, &window_.CheckBox7, &window_.CheckBox6})
+        box->Value(true);
+    window_.Open();
+    struct Row {
+        const Rectangle& swatch;
+        Color color;
+        int pen;
+        bool daysNumbered;
+        bool daysTicked;
+        bool scale; // the labels and ticks of the readings' axis
+    };
+    const std::vector<Row> rows{
+        {window_.Rectangle1, 0xFF0000, 2, false, true, true},   {window_.Rectangle2, 0x008000, 1, true, true, false},
+        {window_.Rectangle3, 0x8000FF, 1, false, false, false}, {window_.Rectangle4, 0xFF8000, 1, false, false, false},
+        {window_.Rectangle5, 0x0080FF, 1, false, false, false}, {window_.Rectangle6, 0xFF00FF, 1, false, false, false},
+        {window_.Rectangle7, 0x004080, 1, false, false, false}, {window_.Rectangle8, 0x008080, 1, false, false, false}};
+    for (int i = 0; i < 8; ++i) {
+        const Row& want = rows[static_cast<std::size_t>(i)];
+        GTSeries& series = *window_.grafThing1->Series(i);
+        EXPECT_EQ(want.swatch.FillColor(), want.color) << i;
+        EXPECT_EQ(series.PenColor(), want.color) << i;
+        EXPECT_EQ(series.PenSize(), want.pen) << i;
+        EXPECT_EQ(series.PlotSymbol(), GTSeries::filledCircle) << i;
+        EXPECT_EQ(series.PlotSymbolSize(), 5) << i;
+        EXPECT_EQ(series.XAxis().tickLabelsVisible(), want.daysNumbered) << i;
+        EXPECT_EQ(series.XAxis().ticksVisible, want.daysTicked) << i;
+        EXPECT_EQ(series.XAxis().hasCustomTickIncrement(), i == 0) << i;
+        EXPECT_EQ(series.YAxis().tickLabelsVisible(), want.scale) << i;
+        EXPECT_EQ(series.YAxis().ticksVisible, want.scale) << i;
+    }
+    EXPECT_EQ(window_.grafThing1->textColor, 0x0000FFU);
 }
 
 TEST_F(GrafThingWindowTest, WeightsReachTwoBeyondThemselvesAndAboveTheReadings) {
@@ -161,6 +203,23 @@ TEST_F(GrafThingWindowTest, BoxesAndTheWeightButtonChangeTheMode) {
     press(window_.CheckBox11);
     EXPECT_EQ(points(1) + points(2), "");
     EXPECT_EQ(window_.grafThing1->Series(1)->YMax(), 0);
+}
+
+/// Counts how often a control wants to be painted.
+struct PaintCounter : ControlObserver {
+    void controlChanged() override { ++paints; }
+    void controlGone() override {}
+    int paints = 0;
+};
+
+TEST_F(GrafThingWindowTest, WhatIsBuiltIsPainted) {
+    PaintCounter counter;
+    window_.Canvas1.observe(&counter);
+    window_.Canvas3_Action();
+    EXPECT_EQ(counter.paints, 1);
+    press(window_.CheckBox9);
+    EXPECT_EQ(counter.paints, 2);
+    window_.Canvas1.observe(nullptr);
 }
 
 TEST_F(GrafThingWindowTest, CaptionsFollowTheHeadings) {
@@ -283,11 +342,14 @@ TEST_F(GrafThingWindowTest, ACancelledDialogPrintsNothing) {
     window_.Open();
     const std::vector<std::pair<const char*, bool*>> cancelled{{"page set-up", &toolkit_.pageSetupReady},
                                                                {"print dialog", &toolkit_.printerReady}};
+    std::size_t printDialogs = 0; // none after a page set-up that was cancelled
     for (const auto& [name, ready] : cancelled) {
         *ready = false;
         window_.Canvas2_Action();
         window_.filePrint_Action();
         EXPECT_TRUE(toolkit_.printed.empty()) << name;
+        EXPECT_EQ(toolkit_.printDialogs.size(), printDialogs) << name;
+        printDialogs += 2;
         EXPECT_FALSE(Globals::gPrintingOn) << name;
         EXPECT_EQ(window_.grafThing1->Resolution(), 72) << name;
         *ready = true;

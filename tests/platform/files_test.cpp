@@ -66,6 +66,17 @@ TEST_F(FilesTest, OnlyPlainFilesOpen) {
     EXPECT_FALSE(TextOutputStream::Create(*GetFolderItem("/nowhere/at/all")));
 }
 
+TEST_F(FilesTest, AFileTakesAnotherNameUnlessItIsTaken) {
+    write(folder_ / "file", "text");
+    write(folder_ / "taken", "text");
+    EXPECT_FALSE(place("file").Name("taken"));
+    EXPECT_FALSE(place("missing").Name("other"));
+    EXPECT_TRUE(place("file").Name("other"));
+    EXPECT_FALSE(place("file").Exists());
+    EXPECT_TRUE(place("other").OpenAsTextFile());
+    EXPECT_EQ(place("other").Name(), "other");
+}
+
 TEST_F(FilesTest, ChildrenAndTheirNames) {
     EXPECT_FALSE(place("missing").Child("file"));
     EXPECT_FALSE(SpecialFolder::ApplicationData->Child(""));

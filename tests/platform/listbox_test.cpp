@@ -57,6 +57,23 @@ TEST_F(ListboxTest, LastIndexFollowsTheRowAddedLast) {
     EXPECT_EQ(list_.LastIndex(), -1);
 }
 
+TEST_F(ListboxTest, RowsComeAtOneGo) {
+    fill({"a"});
+    const std::uint64_t before = list_.revision(0);
+    list_.AddRows({{"b", "1"}, {}, {"c",  "1",  "2",  "3",  "4",  "5",  "6",  "7",  "8",  "9",  "10",
+                                    "11", "12", "13", "14", "15", "16", "17", "18", "19", "20", "21"}});
+    EXPECT_EQ(list_.ListCount(), 4);
+    EXPECT_EQ(list_.LastIndex(), 3);
+    EXPECT_EQ(list_.Cell(1, 1), "1");
+    EXPECT_EQ(list_.Cell(2, 0), "");
+    list_.Cell(2, 1, "x");
+    EXPECT_EQ(list_.Cell(2, 1), "x");
+    EXPECT_NE(list_.revision(1), list_.revision(3));
+    EXPECT_EQ(list_.revision(0), before);
+    list_.AddRows({});
+    EXPECT_EQ(list_.LastIndex(), 3);
+}
+
 TEST_F(ListboxTest, EveryWriteGivesARowARevisionOfItsOwn) {
     fill({"a", "b"});
     const auto first = list_.revision(0);

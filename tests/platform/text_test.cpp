@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/text_decoding.h"
+
 namespace tallyvane {
 
 TEST(Text, FieldsAreCountedFromOneAndMissingOnesAreEmpty) {
@@ -83,6 +85,37 @@ TEST(Text, CharactersAndTrimming) {
     EXPECT_EQ(Chr(0x110000), "");
     EXPECT_EQ(Trim(" \t a b \r\n"), "a b");
     EXPECT_EQ(Trim(" \n"), "");
+}
+
+TEST(Text, MarksOfTheByteOrder) {
+    struct Row {
+        const char* name;
+        std::string file;
+        std::string want;
+    };
+    const std::vector<Row> rows{
+        {"none", "a\xFF", "a\xFF"},
+        {"UTF-8",
+         "\xEF\xBB\xBF"
+         "a",
+         "a"},
+        {"half a mark", "\xEF\xBB", "\xEF\xBB"},
+        {"little end first",
+         std::string("\xFF\xFE"
+                     "a\0\xAC\x20\x3D\xD8\0\xDE",
+                     10),
+         "a\u20ac\U0001F600"},
+        {"big end first", std::string("\xFE\xFF\0a\x20\xAC\xD8\x3D\xDE\0", 10), "a\u20ac\U0001F600"},
+        {"halves of characters", std::string("\xFE\xFF\xD8\x3D\0a\xDE\0\xD8\x3D", 10), "\uFFFDa\uFFFD\uFFFD"},
+        {"an odd byte",
+         std::string("\xFF\xFE"
+                     "a\0b",
+                     5),
+         "a"},
+        {"the mark alone", "\xFF\xFE", ""},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(withoutByteOrderMark(row.file), row.want) << row.name;
 }
 
 } // namespace tallyvane

@@ -58,7 +58,7 @@ TEST_F(FileWindowTest, FilesComeByDialogAndByDrop) {
     const FolderItem file = fileNamed("my notes.txt");
     files_.Show();
     files_.BevelButton1.Action();
-    EXPECT_EQ(toolkit_.dialogs.back(), "Select a file");
+    EXPECT_EQ(toolkit_.dialogs.back(), "Select a file|all");
     EXPECT_EQ(files_.ListBox1.ListCount(), 0) << "cancelled";
     toolkit_.answer = file.AbsolutePath();
     files_.UtilityButton1.Action();

@@ -13,6 +13,8 @@ namespace tallyvane {
 
 namespace {
 
+using Lines = std::vector<std::string>;
+
 class AppTest : public TestDesk {
 protected:
     std::vector<std::string> enabledItems(App& app, Window* front) {
@@ -199,20 +201,40 @@ TEST_F(AppTest, AFolderThatTakesNoFilesIsBorneInSilence) {
 TEST_F(AppTest, MenuItemsAnswerOrAreOff) {
     App app;
     app.Event_Open();
-    const std::vector<std::string> everywhere{"FileQuit", "FileAboutBrindlemarks", "FilePreferences", "HelpUsersGuide",
-                                              "HelpSupportForum"};
+    const Lines everywhere{"FileQuit",        "FileExportData", "FileAboutBrindlemarks",
+                           "FilePreferences", "HelpUsersGuide", "HelpSupportForum"};
+    const Lines mainWindow{"FileQuit",       "FileImportData",        "FileExportData",
+                           "FileSaveAsPDF",  "FileOpenArchivedDays",  "FilePrintSetup",
+                           "FilePrint",      "FileAboutBrindlemarks", "FilePreferences",
+                           "HelpUsersGuide", "HelpSupportForum"};
     EXPECT_EQ(enabledItems(app, nullptr), everywhere);
-    EXPECT_EQ(enabledItems(app, app.window1()), everywhere);
-
-    // The manual items follow the selection as soon as something answers them.
-    Window1& window1 = *app.window1();
-    for (const char* item :
-         {"FilePrintSelected", "FileArchiveSelectedDays", "FileSaveAsPDF", "FileOpenArchivedDays", "FileImportData"})
-        window1.menuHandlers[item] = [] {};
-    EXPECT_EQ(enabledItems(app, &window1).size(), everywhere.size() + 3);
-    window1.BevelButton1_Action();
-    EXPECT_EQ(enabledItems(app, &window1).size(), everywhere.size() + 5);
     EXPECT_EQ(enabledItems(app, app.splashWindow()), everywhere);
+    EXPECT_EQ(enabledItems(app, app.window1()), mainWindow);
+    app.window1()->BevelButton1_Action(); // selects the day that it adds
+    EXPECT_EQ(enabledItems(app, app.window1()).size(), mainWindow.size() + 2) << "those for selected days";
+}
+
+TEST_F(AppTest, MenuItemsReachTheirWindows) {
+    App app;
+    app.Event_Open();
+    Window1& window1 = *app.window1();
+    const auto choose = [&](const char* item) { app.menuBar.choose(item, &window1); };
+    window1.ListBox1.AddRow("11/1/2026");
+    window1.ListBox1.ListIndex(0);
+    choose("FileImportData");
+    EXPECT_TRUE(app.importing()->isOpen());
+    choose("FileExportData");
+    EXPECT_TRUE(app.exporting()->isOpen());
+    choose("FileArchiveSelectedDays");
+    choose("FileOpenArchivedDays");
+    EXPECT_EQ(toolkit_.dialogs, (Lines{"Save archive|Enter name|untitled", "Select an archive file|text"}));
+    for (const char* item : {"FilePrint", "FilePrintSelected", "FileSaveAsPDF"}) {
+        toolkit_.printed.clear();
+        choose(item);
+        EXPECT_FALSE(toolkit_.printed.empty()) << item;
+    }
+    choose("FilePrintSetup");
+    EXPECT_NE(Globals::ps, nullptr);
 }
 
 TEST_F(AppTest, TheWindowsAreJoined) {
@@ -243,6 +265,21 @@ TEST_F(AppTest, TheWindowsAreJoined) {
     EXPECT_EQ(app.logs()->FoodFld.Text(), "bread\nmilk");
     press("TeamMedBtn");
     EXPECT_EQ(app.infoWindow()->ListBox1.ListCount(), 3);
+    press("GraphBtn");
+    EXPECT_EQ(toolkit_.messages.back(), "Please select 2 or more days to graph.");
+    EXPECT_EQ(app.graph(), nullptr);
+    window1.ListBox1.AddRow("11/1/2026");
+    window1.ListBox1.AddRow("11/2/2026");
+    window1.ListBox1.select({true, true});
+    press("GraphBtn");
+    const GTGraph* graph = app.graph()->grafThing1.get();
+    press("GraphBtn");
+    EXPECT_EQ(app.graph()->grafThing1.get(), graph) << "the window that is there, as it is";
+    app.graph()->Canvas3_Action();
+    app.graph()->Close();
+    press("GraphBtn");
+    EXPECT_FALSE(app.graph()->graphWeight);
+    EXPECT_TRUE(app.graph()->CheckBox13.Value());
     press("ResourcesBtn");
     EXPECT_TRUE(app.files()->isOpen());
     press("ResourcesBtn");

@@ -42,9 +42,13 @@ private:
 
 } // namespace
 
-std::unique_ptr<Paper> RecordingToolkit::makePaper() { return std::make_unique<RecordedPaper>(pageSetupReady); }
+std::unique_ptr<Paper> RecordingToolkit::makePaper() {
+    return nextPaper ? nextPaper() : std::make_unique<RecordedPaper>(pageSetupReady);
+}
 
-std::unique_ptr<Graphics> RecordingToolkit::openPrinterDialog(const Paper* /*paper*/, int resolution) {
+std::unique_ptr<Graphics> RecordingToolkit::openPrinterDialog(const Paper* /*paper*/, int resolution,
+                                                              PrintTarget target) {
+    printDialogs.push_back(target);
     return printerReady ? std::make_unique<RecordedPages>(printed, resolution) : nullptr;
 }
 
@@ -65,6 +69,7 @@ void TestDesk::SetUp() {
     for (std::string* log : {&Globals::gExercise, &Globals::gFood, &Globals::gJournal, &Globals::gMedication})
         log->clear();
     Globals::gFileWindowOpen = Globals::gFilesOpen = Globals::gPrintingOn = false;
+    Globals::ps.reset();
     DateSource::setShortPattern("M/d/yyyy");
     DateSource::now = [] { return Date(2026, 11, 22, 12 * 3600); };
 }

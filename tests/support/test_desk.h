@@ -31,11 +31,11 @@ public:
         return answer;
     }
     std::string askForFile(const OpenDialog& dialog) override {
-        dialogs.push_back(dialog.Title);
+        dialogs.push_back(dialog.Title + "|" + dialog.Filter);
         return answer;
     }
     std::unique_ptr<Paper> makePaper() override;
-    std::unique_ptr<Graphics> openPrinterDialog(const Paper* paper, int resolution) override;
+    std::unique_ptr<Graphics> openPrinterDialog(const Paper* paper, int resolution, PrintTarget target) override;
     void openUrl(const std::string& address) override { addresses.push_back(address); }
     void openFile(const std::string& path) override { files.push_back(path); }
     void quit(int code) override { quits.push_back(code); }
@@ -49,6 +49,8 @@ public:
     bool pageSetupReady = true; // false: the user cancels the page set-up
     bool printerReady = true; // false: the user cancels the print dialog
     std::vector<GraphicsRecorder::Call> printed; // on all pages
+    std::function<std::unique_ptr<Paper>()> nextPaper; // in place of the usual letter paper
+    std::vector<PrintTarget> printDialogs; // that were shown
     int beeps = 0;
 };
 

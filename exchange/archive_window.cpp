@@ -1,0 +1,45 @@
+#include "exchange/archive_window.h"
+
+#include "platform/dialogs.h"
+#include "platform/text_output.h"
+
+namespace tallyvane {
+
+namespace {
+
+constexpr unsigned lockAll = lockLeft | lockTop | lockRight | lockBottom;
+constexpr unsigned lockCorner = lockRight | lockBottom;
+
+} // namespace
+
+archiveWindow::archiveWindow() {
+    shape(Kind::document, 700, 500, {400, anySize, 260, anySize});
+    Title("Tallyvane Archive");
+    place({
+        {&EditField1, {16, 16, 668, 424}, lockAll},
+        {&PushButton1, {462, 454, 106, 30}, lockCorner},
+        {&PushButton2, {578, 454, 106, 30}, lockCorner},
+    });
+    EditField1.ReadOnly(true);
+    EditField1.AccessibleName("Archived days");
+    PushButton1.Caption("Print");
+    PushButton2.Caption("OK");
+    PushButton1.Action = [this] { PushButton1_Action(); };
+    PushButton2.Action = [this] { Close(); };
+}
+
+void archiveWindow::PushButton1_Action() { printText(EditField1.Text(), Title()); }
+
+void FileOpenArchivedDays_Action(std::unique_ptr<archiveWindow>& window) {
+    const std::optional<FolderItem> file = OpenDialog{"Select an archive file", "text"}.ShowModal();
+    std::optional<TextInputStream> stream = file ? file->OpenAsTextFile() : std::nullopt;
+    if (!stream)
+        return;
+    if (!window || !window->isOpen())
+        window = std::make_unique<archiveWindow>();
+    window->Title(file->DisplayName());
+    window->EditField1.Text(stream->ReadAll());
+    window->Show();
+}
+
+} // namespace tallyvane

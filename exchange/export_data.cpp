@@ -1,0 +1,26 @@
+#include "exchange/export_data.h"
+
+#include "diary/day_table.h"
+#include "platform/text.h"
+
+namespace tallyvane {
+
+namespace {
+
+constexpr std::string_view ending = ".txt";
+
+} // namespace
+
+void ExportData(const Listbox& days, const std::string& delimiter, const std::optional<FolderItem>& target) {
+    std::optional<TextOutputStream> stream = target ? TextOutputStream::Create(*target) : std::nullopt;
+    if (!stream)
+        return;
+    for (int row = 0; row < days.ListCount(); ++row)
+        stream->WriteFields(days.cells(row).first(DayTable::visibleColumns), delimiter);
+    stream->Close();
+    const std::string name = target->Name();
+    if (!name.ends_with(ending))
+        static_cast<void>(target->Name(name + std::string(ending))); // else it keeps the name that the user chose
+}
+
+} // namespace tallyvane

@@ -1,0 +1,39 @@
+#include "exchange/export_window.h"
+
+#include "exchange/export_data.h"
+#include "platform/dialogs.h"
+#include "platform/text.h"
+
+namespace tallyvane {
+
+exportWindow::exportWindow(const Listbox& days) : days_(days) {
+    shape(Kind::fixed, 350, 190);
+    Title("Untitled");
+    place({
+        {&GroupBox1, {16, 12, 318, 116}},
+        {&RadioButton1, {32, 50, 290, 28}},
+        {&RadioButton2, {32, 84, 290, 28}},
+        {&PushButton1, {228, 144, 106, 30}},
+        {&PushButton2, {112, 144, 106, 30}},
+    });
+    GroupBox1.Caption("Export Format");
+    RadioButton1.Caption("CSV (Comma separated)");
+    RadioButton2.Caption("Tab separated");
+    RadioButton::join({&RadioButton1, &RadioButton2});
+    RadioButton1.Value(true);
+    PushButton1.Caption("OK");
+    PushButton1.Default(true);
+    PushButton2.Caption("Cancel");
+    PushButton2.Cancel(true);
+    PushButton1.Action = [this] { PushButton1_Action(); };
+    PushButton2.Action = [this] { Close(); };
+}
+
+void exportWindow::PushButton1_Action() {
+    const SaveAsDialog dialog{"Save your data", "Enter a filename", "Tallyvane Data"};
+    const std::optional<FolderItem> file = dialog.ShowModal();
+    ExportData(days_, RadioButton1.Value() ? "," : Chr(9), file);
+    Close();
+}
+
+} // namespace tallyvane

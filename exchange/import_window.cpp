@@ -1,0 +1,92 @@
+#include "exchange/import_window.h"
+
+#include "platform/dialogs.h"
+#include "platform/text.h"
+
+namespace tallyvane {
+
+importWindow::importWindow(Listbox& days) : days_(days) {
+    shape(Kind::fixed, 400, 220);
+    Title("Untitled");
+    place({
+        {&StaticText1, {16, 14, 368, 26}},
+        {&RadioButton1, {32, 50, 336, 28}},
+        {&RadioButton2, {32, 84, 336, 28}},
+        {&ProgressBar1, {16, 130, 368, 24}},
+        {&PushButton1, {278, 174, 106, 30}},
+        {&PushButton2, {162, 174, 106, 30}},
+        {&Timer1},
+    });
+    StaticText1.Text("Select the format of the data to be imported:");
+    RadioButton1.Caption("Comma separted (CSV) data");
+    RadioButton2.Caption("Tab delimited data");
+    RadioButton::join({&RadioButton1, &RadioButton2});
+    RadioButton1.Value(true);
+    ProgressBar1.AccessibleName("Progress of the import");
+    ProgressBar1.Visible(false);
+    PushButton1.Caption("OK");
+    PushButton1.Default(true);
+    PushButton2.Caption("Cancel");
+    PushButton2.Cancel(true);
+    Timer1.Period(1);
+    RadioButton1.Action = [this] { RadioButton1_Action(); };
+    RadioButton2.Action = [this] { RadioButton2_Action(); };
+    PushButton1.Action = [this] { PushButton1_Action(); };
+    PushButton2.Action = [this] { Close(); };
+    Timer1.Action = [this] { Timer1_Action(); };
+}
+
+void importWindow::Event_Open() { theDelim = "comma"; }
+
+/// An import that is going on ends without a trace in the table.
+void importWindow::Event_Close() {
+    Timer1.Mode(Timer::ModeOff);
+    reader_.reset();
+}
+
+void importWindow::RadioButton1_Action() {
+    if (RadioButton1.Value())
+        theDelim = "comma";
+}
+
+void importWindow::RadioButton2_Action() {
+    if (RadioButton2.Value())
+        theDelim = "tab";
+}
+
+void importWindow::PushButton1_Action() {
+    constexpr ImportReader::Milliseconds patience(500); // of the user, without seeing progress
+    theDelim = theDelim == "comma" ? "," : Chr(9);
+    const OpenDialog dialog{"Select glucose readings data file", "txt,csv"};
+    if (const std::optional<FolderItem> file = dialog.ShowModal())
+        reader_ = ImportReader::open(*file, theDelim);
+    if (reader_)
+        readOn(patience);
+    else
+        Close();
+}
+
+void importWindow::Timer1_Action() {
+    constexpr ImportReader::Milliseconds slice(50);
+    if (reader_)
+        readOn(slice);
+}
+
+void importWindow::readOn(ImportReader::Milliseconds time) {
+    if (!reader_->readFor(time)) {
+        showProgress();
+        Timer1.Mode(Timer::ModeSingle);
+        return;
+    }
+    days_.AddRows(reader_->takeRows());
+    Close();
+}
+
+void importWindow::showProgress() {
+    for (Control* choice : std::initializer_list<Control*>{&RadioButton1, &RadioButton2, &PushButton1})
+        choice->Enabled(false);
+    ProgressBar1.Visible(true);
+    ProgressBar1.Value(static_cast<int>(reader_->progress() * ProgressBar1.Maximum()));
+}
+
+} // namespace tallyvane

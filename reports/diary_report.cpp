@@ -1,0 +1,114 @@
+#include "reports/diary_report.h"
+
+#include <cmath>
+
+#include "platform/text.h"
+#include "platform/toolkit.h"
+#include "settings/globals.h"
+
+namespace tallyvane {
+
+namespace {
+
+/// Of a page that is filled with lines, in points.
+constexpr double portraitHeight = 650;
+constexpr double landscapeHeight = 450;
+
+} // namespace
+
+int countLines2(const std::string& text, double width, const Graphics& g) {
+    int lines = 0;
+    for (FieldWalk paragraphs(text, EndOfLine); !paragraphs.atEnd();) {
+        const std::string_view paragraph = paragraphs.next();
+        lines += paragraph.empty() ? 1 : static_cast<int>(std::ceil(g.StringWidth(paragraph) / width));
+    }
+    return lines;
+}
+
+void DiaryReport::PrintAll(PrintTarget target) {
+    if (!Globals::ps)
+        Globals::ps = std::make_unique<PrinterSetup>();
+    const std::unique_ptr<Graphics> g = OpenPrinterDialog(Globals::ps.get(), target);
+    if (!g)
+        return;
+    const bool isPortrait = Globals::ps->Height() > 600;
+    print(*g, "Tallyvane Report", isPortrait ? portraitHeight : landscapeHeight, Days::all);
+}
+
+void DiaryReport::FilePrint_Action() { PrintAll(); }
+
+bool DiaryReport::FilePrintSelected_Action() {
+    const std::unique_ptr<Graphics> g = OpenPrinterDialog(Globals::ps.get());
+    if (!g)
+        return true;
+    print(*g, "Marklog Report", portraitHeight, Days::selected);
+    return false;
+}
+
+void DiaryReport::FileSaveAsPDF_Action() {
+    MsgBox("In the dialog that follows select 'Save as PDF...' from the PDF button menu.");
+    PrintAll(PrintTarget::pdf);
+}
+
+void FilePrintSetup_Action() {
+    auto setup = std::make_unique<PrinterSetup>();
+    if (setup->PageSetupDialog())
+        Globals::ps = std::move(setup);
+}
+
+ReportPage::Cells DiaryReport::cellsOf(int row) const {
+    ReportPage::Cells cells;
+    for (std::size_t column = 0; column < cells.size(); ++column)
+        cells[column] = diary_.ListBox1.Cell(row, static_cast<int>(column));
+    return cells;
+}
+
+ReportPage::Cells DiaryReport::averages() const {
+    const Window1& d = diary_;
+    return {"Averages: ",         d.StaticText1.Text(),  d.StaticText2.Text(),
+            d.StaticText3.Text(), d.StaticText4.Text(),  d.StaticText5.Text(),
+            d.StaticText6.Text(), d.StaticText23.Text(), d.StaticText22.Text()};
+}
+
+void DiaryReport::print(Graphics& g, const std::string& title, double height, Days days) {
+    g.TextFont("Verdana");
+    g.TextSize(12);
+    ReportPage page(g, static_cast<int>(height / g.TextHeight()));
+    page.drawHead(title);
+    for (int row = 0; row < diary_.ListBox1.ListCount(); ++row) {
+        if (days == Days::selected && !diary_.ListBox1.Selected(row))
+            continue;
+        page.makeRoom(1);
+        page.drawDay(cellsOf(row));
+        if (Globals::gIncludeMeds || Globals::gIncludeExercise || Globals::gIncludeFood)
+            diary_.getDetails(row);
+        printDetails(page, g);
+        page.skipLine();
+        page.makeRoom(0);
+    }
+    page.skipLine();
+    page.drawAverages(averages());
+}
+
+void DiaryReport::printDetails(ReportPage& page, const Graphics& g) {
+    page.makeRoom(0);
+    if (Globals::gIncludeMeds) {
+        page.makeRoom(diary_.medLines);
+        if (!diary_.theMeds.empty())
+            page.drawDetail("Medication: ", diary_.theMeds, diary_.medLines - 1);
+    }
+    const auto printEstimated = [&](bool included, const std::string& label, const std::string& text) {
+        page.makeRoom(0);
+        if (!included)
+            return;
+        const int lines = countLines2(text, ReportPage::detailWidth, g);
+        page.makeRoom(lines);
+        if (!text.empty())
+            page.drawDetail(label, text, lines);
+    };
+    printEstimated(Globals::gIncludeExercise, "Exercise: ", diary_.theExercises);
+    printEstimated(Globals::gIncludeFood, "Food: ", diary_.theFoods);
+    page.makeRoom(0);
+}
+
+} // namespace tallyvane

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "platform/graphics.h"
+
+namespace tallyvane {
+
+/// The pages of a report, as a grid of lines of text. Places are in points from the page's top left corner.
+class ReportPage {
+public:
+    /// Date, seven readings and average.
+    static constexpr std::size_t columns = 9;
+    using Cells = std::array<std::string, columns>;
+
+    /// Width of the texts of a day, in points.
+    static constexpr double detailWidth = 450;
+
+    /// Pages of so many lines.
+    ReportPage(Graphics& g, int limit) : g_(g), limit_(limit) {}
+
+    /// Title and headings, at the top of the first page.
+    void drawHead(const std::string& title);
+    /// A day, on a shaded ground. One line.
+    void drawDay(const Cells& cells);
+    /// A text of a day with its label before it, wrapped, and counted as that many lines. It is never split: what is
+    /// too long for a page runs on past its bottom.
+    void drawDetail(const std::string& label, const std::string& text, int lines);
+    void drawAverages(const Cells& cells);
+
+    void skipLine() { ++line_; }
+    /// Goes on to a new page if so many lines more do not fit on this one.
+    void makeRoom(int lines);
+
+private:
+    double baseline() const;
+    void drawCells(const Cells& cells);
+
+    Graphics& g_;
+    int limit_;
+    int line_ = 0; // the next one to be written
+};
+
+} // namespace tallyvane
