@@ -24,6 +24,7 @@ archiveWindow::archiveWindow() {
     EditField1.AccessibleName("Archived days");
     PushButton1.Caption("Print");
     PushButton2.Caption("OK");
+    PushButton2.Cancel(true); // Escape closes a window that can only be read
     PushButton1.Action = [this] { PushButton1_Action(); };
     PushButton2.Action = [this] { Close(); };
 }

@@ -1,0 +1,86 @@
+#!/usr/bin/env bash
+# Real readings come in from a file, go out again as they were, are archived and read, and go on paper with the details
+# of a day: all by the keyboard, with the files and the text of the PDF compared.
+source "$(dirname "$0")/desk.sh"
+
+export HOME="$home" # where a report goes
+readings="$home/meter.csv" # with the dates of this desktop
+awk -F, -v OFS=, '{ split($1, d, "/"); $1 = sprintf("%d-%02d-%02d", d[3], d[1], d[2]); print }' \
+    "$(dirname "$0")/../data/patient-27.csv" >"$readings"
+mkdir -p "$home/data/Tallyvane/Details"
+printf 'true\n180\n140\n80\n60\ntrue\ntrue\ntrue\n' >"$home/data/Tallyvane/Brindlemarks Preferences"
+first_day=$(head -1 "$readings" | cut -d, -f1)
+printf 'Metformin@@@500 mg@@@at noon\nendofmeds\nbread$%%$milk\nswimming\n' >"$home/data/Tallyvane/Details/$first_day"
+
+has_keys() { [[ $(xdotool getwindowfocus getwindowname) == "$1" ]]; }
+
+# Chooses the item of the File menu that is so many below the first one that is enabled.
+choose() {
+    local key
+    in_front
+    xdotool key alt+f
+    for ((key = 0; key < $1; ++key)); do xdotool key Down; done
+    xdotool key Return
+}
+
+# Answers a dialog for a file, once it is there.
+answer() {
+    until_true has_keys "$1"
+    xdotool type "$2"
+    xdotool key Return
+}
+
+start
+
+# In: the window's "OK" stands for Return.
+choose 1
+until_true has_keys Untitled
+xdotool key Return
+answer 'Select glucose readings data file' "$readings"
+until_true active "$window"
+
+# Out again, as it came.
+choose 2
+until_true has_keys Untitled
+xdotool key Return
+until_true has_keys 'Save your data'
+xdotool key ctrl+a
+answer 'Save your data' "$home/out"
+until_true cmp "$readings" "$home/out.txt"
+
+# All days selected: their averages follow, and the archive has them all.
+click_from_bottom 200 465
+xdotool key Escape
+for page in 1 2 3 4 5 6 7 8; do xdotool key shift+Next; done
+choose 4
+until_true has_keys 'Save archive'
+xdotool key ctrl+a
+answer 'Save archive' "$home/archive"
+until_true test -s "$home/archive"
+[[ $(grep -c 'AV: [0-9]' "$home/archive") == $(wc -l <"$readings") ]] || fail "days in the archive: $(cat "$home/archive")"
+choose 5
+answer 'Select an archive file' "$home/archive"
+until_true has_keys archive
+xdotool key alt+F4
+
+# On paper: what stands in the table stands in the report, day by day.
+choose 3
+until_true inactive # the message has the name of the window that it covers
+xdotool key Return
+until_true has_keys Print
+xdotool key Return
+until_true grep -q '%%EOF' "$home/Tallyvane Report.pdf"
+pdftotext -layout "$home/Tallyvane Report.pdf" "$home/report.txt"
+tr -d '\f' <"$home/report.txt" | tr -s ' '  | sed 's/^ //; s/ $//' >"$home/lines.txt"
+cut -d, -f1-8 "$readings" | tr -s , ' ' | sed 's/ $//' | while read -r day; do
+    grep -qE "^$day [0-9.]+$" "$home/lines.txt" || fail "not in the report: $day"
+done
+for line in 'Tallyvane Report' 'Medication: Metformin 500 mg at noon' 'Exercise: swimming' 'Food: bread' milk; do
+    grep -qxF "$line" "$home/lines.txt" || fail "not in the report: $line"
+done
+grep -q '^Averages: ' "$home/lines.txt" || fail "no averages"
+
+in_front
+xdotool key ctrl+q
+ends_well
+echo "readings come in, go out, are archived and printed"
