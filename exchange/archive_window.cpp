@@ -1,6 +1,7 @@
 #include "exchange/archive_window.h"
 
 #include "platform/dialogs.h"
+#include "platform/text_decoding.h"
 #include "platform/text_output.h"
 
 namespace tallyvane {
@@ -39,7 +40,7 @@ void FileOpenArchivedDays_Action(std::unique_ptr<archiveWindow>& window) {
     if (!window || !window->isOpen())
         window = std::make_unique<archiveWindow>();
     window->Title(file->DisplayName());
-    window->EditField1.Text(stream->ReadAll());
+    window->EditField1.Text(withoutByteOrderMark(std::string(stream->ReadAll())));
     window->Show();
 }
 

@@ -4,7 +4,8 @@
 
 namespace tallyvane {
 
-/// Asks for the format of an export and for its file, and exports all days.
+/// Asks for the format of an export and for its file, exports all days and closes. When the disk fails it stays, so
+/// that another file can be chosen.
 class exportWindow : public Window {
 public:
     /// The days' table, which must outlive the window.

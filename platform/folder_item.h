@@ -59,6 +59,8 @@ private:
 namespace SpecialFolder {
 inline std::optional<FolderItem> ApplicationData;
 inline std::optional<FolderItem> UserHome;
+/// Of the user alone.
+inline std::optional<FolderItem> Temporary;
 } // namespace SpecialFolder
 
 } // namespace tallyvane

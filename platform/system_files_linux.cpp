@@ -153,8 +153,12 @@ bool makeFolder(const std::string& path) { return !hasNul(path) && ::mkdir(path.
 bool remove(const std::string& path) { return kindOf(path) == Kind::file && ::unlink(path.c_str()) == 0; }
 
 bool rename(const std::string& from, const std::string& to) {
-    return !hasNul(from) && !hasNul(to) &&
-           ::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0;
+    if (hasNul(from) || hasNul(to))
+        return false;
+    if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0)
+        return true;
+    const bool isUnknown = errno == EINVAL || errno == ENOSYS; // to some disks
+    return isUnknown && ::link(from.c_str(), to.c_str()) == 0 && ::unlink(from.c_str()) == 0;
 }
 
 std::optional<std::string> read(const std::string& path) {

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "platform/dialogs.h"
+#include "platform/http_socket.h"
 #include "platform/picture.h"
 #include "platform/printing.h"
 #include "platform/window.h"
@@ -37,6 +38,10 @@ public:
     /// The pages to print on, that many dots to an inch, after the print dialog; nil when that was cancelled. `paper`
     /// can be nil.
     virtual std::unique_ptr<Graphics> openPrinterDialog(const Paper* paper, int resolution, PrintTarget target) = 0;
+    /// Starts to fetch the page of an "http" address into a file. `done` is called once with the server's status when
+    /// the page has come whole, in time and in bounds, and never otherwise.
+    virtual std::unique_ptr<Download> download(const std::string& address, const std::string& path,
+                                               std::function<void(int status)> done) = 0;
     /// Hands an address to the desktop's default program for it.
     virtual void openUrl(const std::string& address) = 0;
     /// The same for a file that exists.

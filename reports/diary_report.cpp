@@ -10,9 +10,10 @@ namespace tallyvane {
 
 namespace {
 
-/// Of a page that is filled with lines, in points.
-constexpr double portraitHeight = 650;
-constexpr double landscapeHeight = 450;
+// Points. A page that is higher than this is filled with lines to the one height, any other to the other.
+constexpr double lowestTallPage = 600;
+constexpr double heightOnTallPage = 650;
+constexpr double heightOnLowPage = 450;
 
 } // namespace
 
@@ -31,8 +32,8 @@ void DiaryReport::PrintAll(PrintTarget target) {
     const std::unique_ptr<Graphics> g = OpenPrinterDialog(Globals::ps.get(), target);
     if (!g)
         return;
-    const bool isPortrait = Globals::ps->Height() > 600;
-    print(*g, "Tallyvane Report", isPortrait ? portraitHeight : landscapeHeight, Days::all);
+    const bool isTall = Globals::ps->Height() > lowestTallPage;
+    print(*g, "Tallyvane Report", isTall ? heightOnTallPage : heightOnLowPage, Days::all);
 }
 
 void DiaryReport::FilePrint_Action() { PrintAll(); }
@@ -41,7 +42,7 @@ bool DiaryReport::FilePrintSelected_Action() {
     const std::unique_ptr<Graphics> g = OpenPrinterDialog(Globals::ps.get());
     if (!g)
         return true;
-    print(*g, "Marklog Report", portraitHeight, Days::selected);
+    print(*g, "Marklog Report", heightOnTallPage, Days::selected);
     return false;
 }
 

@@ -25,6 +25,7 @@ public:
     void FilePrint_Action();
     /// Prints the selected days. True when the print dialog was cancelled.
     bool FilePrintSelected_Action();
+    /// Prints all days, into a PDF file if the user leaves the dialog as it comes.
     void FileSaveAsPDF_Action();
 
 private:

@@ -63,7 +63,11 @@ void App::Event_Open() {
     StartUpManager::primaryWindow = window1_.get();
     splash_ = std::make_unique<SplashWindow>();
     splash_->showPrimaryWindow = [] { StartUpManager::primaryWindow->Show(); };
-    splash_->handedOver = [this] { tellMissingDataFolder(); };
+    splash_->VersionCheckSocket1.offer = [this](std::function<void()> done) { offerNewVersion(std::move(done)); };
+    splash_->handedOver = [this] {
+        tellMissingDataFolder();
+        showOffer();
+    };
     splash_->Show();
 }
 
@@ -127,7 +131,7 @@ void App::joinMenus(Window1& window) {
         {"FileSaveAsPDF", [&window] { DiaryReport(window).FileSaveAsPDF_Action(); }},
         {"FilePrintSetup", [] { FilePrintSetup_Action(); }},
         {"FilePrint", [&window] { DiaryReport(window).FilePrint_Action(); }},
-        {"FilePrintSelected", [&window] { DiaryReport(window).FilePrintSelected_Action(); }},
+        {"FilePrintSelected", [&window] { static_cast<void>(DiaryReport(window).FilePrintSelected_Action()); }},
     };
 }
 
@@ -146,6 +150,21 @@ void App::tellMissingDataFolder() {
     MsgBox("The folder with your days is not there: \u201c" + missing +
            "\u201d. Until it is back, your days are kept in \u201c" + StartupGlobals::gDataFolder->AbsolutePath() +
            "\u201d.");
+}
+
+/// The offer belongs to the main window, and waits until that is there.
+void App::offerNewVersion(std::function<void()> done) {
+    offerDone_ = std::move(done);
+    if (!splash_->isOpen())
+        showOffer();
+}
+
+void App::showOffer() {
+    if (!offerDone_ || !window1_->isOpen())
+        return;
+    newVersion_ = std::make_unique<newVersionWindow>(*window1_, VersionCheck::theAppName);
+    newVersion_->closed = std::exchange(offerDone_, nullptr);
+    newVersion_->Show();
 }
 
 void App::comeToFront() {
@@ -221,7 +240,8 @@ void App::FileExportData_Action() {
 }
 
 void App::FileImportData_Action() {
-    showSingle<importWindow>(import_, [this] { return std::make_unique<importWindow>(window1_->ListBox1); });
+    if (window1_)
+        showSingle<importWindow>(import_, [this] { return std::make_unique<importWindow>(window1_->ListBox1); });
 }
 
 void App::HelpUsersGuide_Action() { ShowURL(TALLYVANE_GUIDE_URL); }

@@ -18,6 +18,7 @@
 #include "settings/edit_headings.h"
 #include "settings/prefs_window.h"
 #include "shell/about_window.h"
+#include "shell/new_version_window.h"
 #include "shell/splash_window.h"
 #include "shell/toolbar1.h"
 
@@ -64,6 +65,7 @@ public:
     Window1* window1() { return window1_.get(); }
     SplashWindow* splashWindow() { return splash_.get(); }
     AboutWindow* aboutWindow() { return about_.get(); }
+    newVersionWindow* newVersion() { return newVersion_.get(); }
     PrefsWindow* prefsWindow() { return prefs_.get(); }
     EditHeadings* editHeadings() { return headings_.get(); }
     logsWindow* logs() { return logs_.get(); }
@@ -79,6 +81,8 @@ private:
     bool claim(const std::optional<FolderItem>& folder);
     void bringUpMainWindow();
     void tellMissingDataFolder();
+    void offerNewVersion(std::function<void()> done);
+    void showOffer();
     void giveWay();
     void joinWindows(Window1& window);
     void joinMenus(Window1& window);
@@ -89,6 +93,8 @@ private:
     std::vector<std::unique_ptr<SystemFiles::FolderClaim>> claims_;
     std::unique_ptr<Window1> window1_;
     std::unique_ptr<SplashWindow> splash_;
+    std::function<void()> offerDone_; // of an offer that waits for the main window; nil for none
+    std::unique_ptr<newVersionWindow> newVersion_;
     std::unique_ptr<AboutWindow> about_;
     std::unique_ptr<PrefsWindow> prefs_;
     std::unique_ptr<EditHeadings> headings_;

@@ -24,11 +24,7 @@ SplashWindow::SplashWindow() {
 
 void SplashWindow::Event_Open() {
     AppNameLabel.Text("Tallyvane");
-    const bool checks = doVersionCheck != nullptr;
-    StaticText11.Visible(checks);
-    ProgressWheel1.Visible(checks);
-    if (checks)
-        doVersionCheck();
+    VersionCheck::doVersionCheck(VersionCheckSocket1, TALLYVANE_VERSION_URL);
 }
 
 void SplashWindow::Timer1_Action() {

@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "platform/window.h"
+#include "shell/version_check.h"
 
 namespace tallyvane {
 
@@ -16,10 +17,9 @@ public:
     StaticText StaticText1; // credit
     StaticText StaticText11; // what is going on
     ProgressWheel ProgressWheel1;
+    VersionCheckSocket VersionCheckSocket1;
     Timer Timer1;
 
-    /// Starts the version check in the background; without one the window does not speak of it.
-    std::function<void()> doVersionCheck;
     /// What the end of the second brings.
     std::function<void()> showPrimaryWindow;
     /// After that, with this window closed.

@@ -31,6 +31,8 @@ void settleFolders() {
     static_cast<void>(QDir().mkpath(data)); // without it the diary runs, and has nowhere to save
     SpecialFolder::ApplicationData = folderAt(data);
     SpecialFolder::UserHome = folderAt(QDir::homePath());
+    const QString temporary = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    SpecialFolder::Temporary = temporary.isEmpty() ? std::nullopt : folderAt(temporary);
 }
 
 void settleDateForm() {

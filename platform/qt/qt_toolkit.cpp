@@ -5,12 +5,14 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QNetworkAccessManager>
 #include <QPointer>
 #include <QPrintDialog>
 #include <QScreen>
 #include <QUrl>
 
 #include "platform/qt/convert.h"
+#include "platform/qt/http_download.h"
 #include "platform/qt/print_job.h"
 #include "platform/qt/qt_bitmap.h"
 #include "platform/qt/window_peer.h"
@@ -114,6 +116,13 @@ std::unique_ptr<Graphics> QtToolkit::openPrinterDialog(const Paper* paper, int r
     if (dialog.exec() != QDialog::Accepted)
         return nullptr;
     return PrintJob::begin(std::move(printer), resolution);
+}
+
+std::unique_ptr<Download> QtToolkit::download(const std::string& address, const std::string& path,
+                                              std::function<void(int status)> done) {
+    if (!network_)
+        network_ = std::make_unique<QNetworkAccessManager>();
+    return std::make_unique<HttpDownload>(*network_, address, path, std::move(done));
 }
 
 void QtToolkit::openUrl(const std::string& address) { QDesktopServices::openUrl(QUrl(toQt(address))); }

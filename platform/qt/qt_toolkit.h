@@ -2,6 +2,8 @@
 
 #include "platform/toolkit.h"
 
+class QNetworkAccessManager;
+
 namespace tallyvane {
 
 /// The toolkit on Qt. It is in force from its making to its end, which both lie inside the life of a QApplication.
@@ -19,6 +21,8 @@ public:
     std::string askForFile(const OpenDialog& dialog) override;
     std::unique_ptr<Paper> makePaper() override;
     std::unique_ptr<Graphics> openPrinterDialog(const Paper* paper, int resolution, PrintTarget target) override;
+    std::unique_ptr<Download> download(const std::string& address, const std::string& path,
+                                       std::function<void(int status)> done) override;
     void openUrl(const std::string& address) override;
     void openFile(const std::string& path) override;
     void quit(int code) override;
@@ -27,6 +31,7 @@ public:
     int quitCode() const { return quitCode_; }
 
 private:
+    std::unique_ptr<QNetworkAccessManager> network_; // nil until it is needed
     bool quitAsked_ = false;
     int quitCode_ = 0;
 };

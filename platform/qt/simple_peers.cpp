@@ -219,6 +219,8 @@ RadioButtonPeer::RadioButtonPeer(RadioButton& button, QWidget* parent) : Peer(bu
     connect(this, &QRadioButton::clicked, this, [this] {
         if (control_ != nullptr)
             deliver([&] { control_->userChose(); });
+        if (control_ != nullptr)
+            setChecked(control_->Value()); // a second click would switch it off
     });
 }
 

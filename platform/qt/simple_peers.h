@@ -86,7 +86,6 @@ private:
     QString fitted_; // the text that the letters fit
 };
 
-/// Shows the frame and the tabs; what stands on the pages are neighbours of this widget, laid over it.
 class RadioButtonPeer : public Peer<QRadioButton, RadioButton> {
 public:
     RadioButtonPeer(RadioButton& button, QWidget* parent);
@@ -103,6 +102,7 @@ protected:
     void sync() override;
 };
 
+/// Shows the frame and the tabs; what stands on the pages are neighbours of this widget, laid over it.
 class TabPanelPeer : public Peer<QTabWidget, TabPanel> {
 public:
     TabPanelPeer(TabPanel& panel, QWidget* parent);

@@ -80,7 +80,7 @@ TEST_F(ExchangeTest, AllDaysAreExportedUnchanged) {
         ExportData(table_, row.delimiter, item("days.txt"));
         EXPECT_EQ(read(path()), row.want);
     }
-    ExportData(table_, ",", std::nullopt);
+    EXPECT_NO_THROW(ExportData(table_, ",", std::nullopt));
 }
 
 TEST_F(ExchangeTest, AnExportGetsItsEndingUnlessThatNameIsTaken) {
@@ -289,6 +289,23 @@ TEST_F(ExchangeTest, AnyTextOpensAsAnArchiveAndIsPrintedUnderItsName) {
     EXPECT_FALSE(toolkit_.printed[1].style.bold);
     EXPECT_EQ(toolkit_.printed[1].numbers, (std::vector<double>{50, 69})) << "a block from 60 on";
     EXPECT_TRUE(window->isOpen());
+
+    std::string pages;
+    for (int line = 0; line < 100; ++line)
+        pages += "a day\n";
+    write(path("December"), pages);
+    toolkit_.answer = path("December").string();
+    const archiveWindow* before = window.get();
+    FileOpenArchivedDays_Action(window);
+    EXPECT_EQ(window.get(), before) << "the window that is open";
+    window->PushButton1_Action();
+    const auto& printed = toolkit_.printed;
+    EXPECT_EQ(std::count_if(printed.begin(), printed.end(), [](const auto& call) { return call.text == "December"; }),
+              1);
+    const auto second =
+        std::find_if(printed.begin(), printed.end(), [](const auto& call) { return call.operation == "NextPage"; });
+    ASSERT_NE(second, printed.end());
+    EXPECT_EQ((second + 1)->numbers, (std::vector<double>{50, 69}));
 }
 
 } // namespace

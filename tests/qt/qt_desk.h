@@ -13,6 +13,16 @@
 
 namespace tallyvane {
 
+/// Qt, cut off from the network unless a test asks for it.
+class QtToolkitOnDesk : public QtToolkit {
+public:
+    std::unique_ptr<Download> download(const std::string& address, const std::string& path,
+                                       std::function<void(int status)> done) override {
+        return isOnline ? QtToolkit::download(address, path, std::move(done)) : nullptr;
+    }
+    bool isOnline = false;
+};
+
 /// The whole program on Qt, with the diary in front.
 class QtDesk : public TestDesk {
 protected:
@@ -56,7 +66,7 @@ protected:
     QLineEdit* editor() { return table_->findChild<CellEditor*>(); }
     Listbox& list() { return app_->window1()->ListBox1; }
 
-    QtToolkit qt_; // in force instead of the recording one
+    QtToolkitOnDesk qt_; // in force instead of the recording one
     std::unique_ptr<App> app_;
     WindowFrame* frame_ = nullptr;
     ListboxPeer* table_ = nullptr;

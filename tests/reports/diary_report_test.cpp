@@ -230,6 +230,39 @@ TEST_F(DiaryReportTest, ADetailIsNeverSplit) {
     EXPECT_EQ(pages(), 3) << "the next day has a new page again";
 }
 
+TEST_F(DiaryReportTest, MedicationsStayTogether) {
+    struct Row {
+        int daysBefore; // two lines each, from line 2 on
+        const char* file;
+        Lines want; // below the day
+    };
+    const char* two = "a@@@b@@@c\nd@@@e@@@f\nendofmeds\n\n\n";
+    const std::vector<Row> rows{
+        {24,
+         two,
+         {"text 50 692 'Medication: '", "text 120 692 'a     b     c'", "text 120 704 'd     e     f'",
+          "text 50 740 'Averages: '"}},
+        {25,
+         two,
+         {"page", "text 50 80 'Medication: '", "text 120 80 'a     b     c'", "text 120 92 'd     e     f'",
+          "text 50 128 'Averages: '"}},
+        {24, "endofmeds\n\n\n", {"text 50 716 'Averages: '"}},
+    };
+    std::filesystem::create_directories(applicationFile("Details"));
+    Globals::gIncludeMeds = true;
+    for (const Row& row : rows) {
+        writeDetails(row.file);
+        table_.DeleteAllRows();
+        addDays(row.daysBefore);
+        addRow({"11/2/2026"});
+        report_.PrintAll();
+        const Lines all = body();
+        const auto day =
+            std::find_if(all.begin(), all.end(), [](const std::string& line) { return line.ends_with("'11/2/2026'"); });
+        EXPECT_EQ(Lines(day + 9, all.end()), row.want) << row.daysBefore;
+    }
+}
+
 TEST_F(DiaryReportTest, TheSelectedDaysAndThePaper) {
     addDays(3);
     table_.select({true, false, true});
@@ -238,6 +271,7 @@ TEST_F(DiaryReportTest, TheSelectedDaysAndThePaper) {
     EXPECT_EQ(only("text 50 ", body()),
               (Lines{"text 50 104 'day 0'", "text 50 128 'day 2'", "text 50 164 'Averages: '"}));
     EXPECT_EQ(Globals::ps, nullptr) << "only a report of all days makes one";
+    EXPECT_EQ(toolkit_.paper, nullptr);
 
     toolkit_.printed.clear();
     toolkit_.printerReady = false;
@@ -245,7 +279,11 @@ TEST_F(DiaryReportTest, TheSelectedDaysAndThePaper) {
     report_.FilePrint_Action();
     EXPECT_TRUE(toolkit_.printed.empty());
     const PrinterSetup* setup = Globals::ps.get();
-    EXPECT_NE(setup, nullptr);
+    ASSERT_NE(setup, nullptr);
+    EXPECT_EQ(toolkit_.paper, setup->paper());
+    toolkit_.paper = nullptr;
+    EXPECT_TRUE(report_.FilePrintSelected_Action());
+    EXPECT_EQ(toolkit_.paper, setup->paper());
     toolkit_.pageSetupReady = false;
     FilePrintSetup_Action();
     EXPECT_EQ(Globals::ps.get(), setup) << "cancelled";

@@ -46,8 +46,8 @@ std::unique_ptr<Paper> RecordingToolkit::makePaper() {
     return nextPaper ? nextPaper() : std::make_unique<RecordedPaper>(pageSetupReady);
 }
 
-std::unique_ptr<Graphics> RecordingToolkit::openPrinterDialog(const Paper* /*paper*/, int resolution,
-                                                              PrintTarget target) {
+std::unique_ptr<Graphics> RecordingToolkit::openPrinterDialog(const Paper* chosen, int resolution, PrintTarget target) {
+    paper = chosen;
     printDialogs.push_back(target);
     return printerReady ? std::make_unique<RecordedPages>(printed, resolution) : nullptr;
 }
@@ -57,6 +57,7 @@ void TestDesk::SetUp() {
     folder_ = ::mkdtemp(pattern.data());
     SpecialFolder::ApplicationData = GetFolderItem(folder_.string());
     SpecialFolder::UserHome = GetFolderItem(folder_.string());
+    SpecialFolder::Temporary = GetFolderItem(folder_.string());
     StartupGlobals::gDataFolder.reset();
     StartupGlobals::gMissingDataFolder.clear();
     PrefsModule::gDataLocation.clear();

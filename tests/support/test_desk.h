@@ -36,11 +36,22 @@ public:
     }
     std::unique_ptr<Paper> makePaper() override;
     std::unique_ptr<Graphics> openPrinterDialog(const Paper* paper, int resolution, PrintTarget target) override;
+    std::unique_ptr<Download> download(const std::string& address, const std::string& path,
+                                       std::function<void(int status)> done) override {
+        downloads.push_back({address, path, std::move(done)});
+        return nullptr;
+    }
     void openUrl(const std::string& address) override { addresses.push_back(address); }
     void openFile(const std::string& path) override { files.push_back(path); }
     void quit(int code) override { quits.push_back(code); }
 
     std::vector<std::string> messages;
+    struct Started {
+        std::string address;
+        std::string path;
+        std::function<void(int status)> done;
+    };
+    std::vector<Started> downloads;
     std::vector<std::string> addresses;
     std::vector<std::string> files;
     std::vector<int> quits;
@@ -51,6 +62,7 @@ public:
     std::vector<GraphicsRecorder::Call> printed; // on all pages
     std::function<std::unique_ptr<Paper>()> nextPaper; // in place of the usual letter paper
     std::vector<PrintTarget> printDialogs; // that were shown
+    const Paper* paper = nullptr; // that was given to the last of them
     int beeps = 0;
 };
 

@@ -1,0 +1,74 @@
+#include "platform/qt/http_download.h"
+
+#include <QFile>
+#include <QNetworkAccessManager>
+
+#include <utility>
+
+#include "platform/qt/convert.h"
+#include "platform/qt/event_guard.h"
+
+namespace tallyvane {
+
+namespace {
+
+constexpr qsizetype mostBytes = 64 * 1024;
+
+QNetworkRequest requestFor(const std::string& address) {
+    constexpr int mostRedirects = 5;
+    QNetworkRequest request{QUrl(toQt(address))};
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::SameOriginRedirectPolicy);
+    request.setMaximumRedirectsAllowed(mostRedirects);
+    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
+    request.setRawHeader("Accept-Encoding", "identity"); // packed bytes could be many more than they look
+    return request;
+}
+
+/// The server has answered, with a page of whatever status; not so when the line broke down or the fetch was ended.
+bool hasAnswered(const QNetworkReply& reply) {
+    return reply.error() == QNetworkReply::NoError || reply.error() >= QNetworkReply::ContentAccessDenied;
+}
+
+} // namespace
+
+HttpDownload::HttpDownload(QNetworkAccessManager& network, const std::string& address, std::string path,
+                           std::function<void(int status)> done)
+    : path_(std::move(path)), done_(std::move(done)), reply_(network.get(requestFor(address))) {
+    reply_->setReadBufferSize(mostBytes);
+    QObject::connect(reply_, &QNetworkReply::readyRead, &timeLimit_, [this] { takeBytes(); });
+    QObject::connect(reply_, &QNetworkReply::finished, &timeLimit_, [this] { finish(); });
+    QObject::connect(&timeLimit_, &QTimer::timeout, &timeLimit_, [this] { reply_->abort(); });
+    timeLimit_.setSingleShot(true);
+    timeLimit_.start(timeLimitMilliseconds);
+}
+
+HttpDownload::~HttpDownload() {
+    timeLimit_.stop();
+    reply_->disconnect(&timeLimit_);
+    reply_->abort();
+    reply_->deleteLater();
+}
+
+void HttpDownload::takeBytes() {
+    body_ += reply_->readAll();
+    if (body_.size() > mostBytes)
+        reply_->abort();
+}
+
+void HttpDownload::finish() {
+    timeLimit_.stop();
+    if (!hasAnswered(*reply_))
+        return;
+    body_ += reply_->readAll();
+    if (body_.size() > mostBytes || !writeFile())
+        return;
+    const int status = reply_->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    deliver([done = done_, status] { done(status); }); // which may end this download
+}
+
+bool HttpDownload::writeFile() const {
+    QFile file(QFile::decodeName(QByteArray::fromStdString(path_)));
+    return file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(body_) == body_.size() && file.flush();
+}
+
+} // namespace tallyvane

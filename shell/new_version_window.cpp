@@ -1,0 +1,36 @@
+#include "shell/new_version_window.h"
+
+#include "platform/toolkit.h"
+
+namespace tallyvane {
+
+newVersionWindow::newVersionWindow(Window& owner, const std::string& appName) {
+    shape(Kind::dialog, 480, 150);
+    belongTo(&owner);
+    Title("Tallyvane");
+    place({
+        {&StaticText1, {20, 16, 440, 70}},
+        {&PushButton1, {310, 104, 150, 30}},
+        {&PushButton2, {150, 104, 150, 30}},
+    });
+    StaticText1.Text("There is a newer version of " + appName + " available. Would you like to download it now?");
+    StaticText1.Multiline(true);
+    PushButton1.Caption("Download Now");
+    PushButton1.Default(true);
+    PushButton2.Caption("Download Later");
+    PushButton2.Cancel(true);
+    PushButton1.Action = [this] { PushButton1_Action(); };
+    PushButton2.Action = [this] { Close(); };
+}
+
+void newVersionWindow::Event_Close() {
+    if (closed)
+        closed();
+}
+
+void newVersionWindow::PushButton1_Action() {
+    ShowURL(TALLYVANE_DOWNLOAD_URL);
+    Close();
+}
+
+} // namespace tallyvane

@@ -1,0 +1,146 @@
+/// The version check against a real server on the loopback.
+#include <QElapsedTimer>
+#include <QTcpServer>
+#include <QTcpSocket>
+
+#include "platform/qt/http_download.h"
+#include "qt/qt_desk.h"
+#include "shell/version_check.h"
+
+namespace tallyvane {
+
+namespace {
+
+/// Answers every request with bytes of the test's own, and then hangs up, waits, or goes on for ever.
+class Server : public QTcpServer {
+public:
+    enum class End { hangsUp, waits, goesOn };
+
+    Server(QByteArray answer, End end) : answer_(std::move(answer)), end_(end) {
+        listen(QHostAddress::LocalHost);
+        connect(this, &QTcpServer::newConnection, this, [this] {
+            QTcpSocket* socket = nextPendingConnection();
+            connect(socket, &QTcpSocket::readyRead, this, [this, socket] { reply(*socket); });
+        });
+    }
+    std::string address(const char* path = "/VersionInfo/Tallyvane.txt") const {
+        return "http://127.0.0.1:" + std::to_string(serverPort()) + path;
+    }
+
+    std::vector<std::string> requests;
+
+private:
+    void reply(QTcpSocket& socket) {
+        requests.push_back(socket.readAll().toStdString());
+        socket.write(answer_);
+        if (end_ == End::hangsUp)
+            socket.disconnectFromHost();
+        if (end_ == End::goesOn)
+            connect(&socket, &QTcpSocket::bytesWritten, this, [&socket] { socket.write(QByteArray(1000, 'x')); });
+    }
+
+    QByteArray answer_;
+    End end_;
+};
+
+QByteArray page(const char* status, const QByteArray& body, const QByteArray& headers = {}) {
+    return QByteArray("HTTP/1.1 ") + status + "\r\nContent-Length: " + QByteArray::number(body.size()) + "\r\n" +
+           headers + "\r\n" + body;
+}
+
+class VersionCheckTest : public QtDesk {
+protected:
+    void SetUp() override {
+        QtDesk::SetUp();
+        SpecialFolder::Temporary = SpecialFolder::ApplicationData;
+        HttpDownload::timeLimitMilliseconds = 400;
+        qt_.isOnline = true;
+    }
+    void TearDown() override {
+        HttpDownload::timeLimitMilliseconds = limit_;
+        QtDesk::TearDown();
+    }
+
+    /// Hears what a check ends with.
+    struct Socket : VersionCheckSocket {
+        void Event_DownloadComplete(const std::string& address, int status, const FolderItem& file) override {
+            ++ends;
+            VersionCheckSocket::Event_DownloadComplete(address, status, file);
+        }
+        int ends = 0;
+    };
+
+    const int limit_ = HttpDownload::timeLimitMilliseconds;
+};
+
+TEST_F(VersionCheckTest, OnlyAWholeAnswerOfANewerVersionMakesAnOffer) {
+    using End = Server::End;
+    struct Row {
+        const char* name;
+        QByteArray answer;
+        End end;
+        bool completes;
+        bool offers;
+    };
+    const QByteArray newer = "Tallyvane\n1.1.8\n";
+    const std::vector<Row> rows{
+        {"newer", page("200 OK", newer), End::hangsUp, true, true},
+        {"newer, and the line stays open", page("200 OK", newer), End::waits, true, true},
+        {"equal", page("200 OK", "Tallyvane\n1.1.7\n"), End::hangsUp, true, false},
+        {"older", page("200 OK", "Tallyvane\n1.1\n"), End::hangsUp, true, false},
+        {"empty", page("200 OK", ""), End::hangsUp, true, false},
+        {"an error page", page("404 Not Found", "<html>\n<p>not here\n"), End::hangsUp, true, false},
+        {"an error page of a newer version", page("500 Oh no", newer), End::hangsUp, true, true},
+        {"cut off", "HTTP/1.1 200 OK\r\nContent-Length: 500\r\n\r\n" + newer, End::hangsUp, false, false},
+        {"slow", "HTTP/1.1 200 OK\r\nContent-Length: 500\r\n\r\n" + newer, End::waits, false, false},
+        {"endless", "HTTP/1.1 200 OK\r\n\r\n" + newer, End::goesOn, false, false},
+        {"too long", page("200 OK", newer + QByteArray(70'000, 'x')), End::hangsUp, false, false},
+        {"to another host", page("302 Found", "", "Location: http://localhost:1/\r\n"), End::hangsUp, false, false},
+        {"no answer", "", End::hangsUp, false, false},
+    };
+    for (const Row& row : rows) {
+        Server server(row.answer, row.end);
+        Socket socket;
+        bool offered = false;
+        socket.offer = [&offered](const std::function<void()>& done) {
+            offered = true;
+            done();
+        };
+        QElapsedTimer clock;
+        clock.start();
+        VersionCheck::doVersionCheck(socket, server.address());
+        EXPECT_LT(clock.elapsed(), 100) << row.name << ": the start does not wait";
+        EXPECT_EQ(QTest::qWaitFor([&] { return socket.ends > 0; }, row.completes ? 5000 : 700), row.completes)
+            << row.name;
+        EXPECT_EQ(offered, row.offers) << row.name;
+        const bool kept = std::string(row.name) == "empty";
+        EXPECT_EQ(SpecialFolder::Temporary->Child("Temporary Version File")->Exists(), kept) << row.name;
+        if (kept)
+            SpecialFolder::Temporary->Child("Temporary Version File")->Delete();
+        EXPECT_FALSE(server.requests.empty()) << row.name;
+    }
+}
+
+TEST_F(VersionCheckTest, ARedirectOnTheSameServerIsFollowed) {
+    Server server(page("302 Found", "", "Location: /elsewhere\r\n"), Server::End::hangsUp);
+    Socket socket;
+    VersionCheck::doVersionCheck(socket, server.address());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return server.requests.size() > 2; }));
+    EXPECT_NE(server.requests[1].find("GET /elsewhere"), std::string::npos);
+}
+
+TEST_F(VersionCheckTest, NobodyThere) {
+    std::string address;
+    {
+        const Server server({}, Server::End::waits);
+        address = server.address();
+    }
+    Socket socket;
+    VersionCheck::doVersionCheck(socket, address);
+    QTest::qWait(300);
+    EXPECT_EQ(socket.ends, 0);
+}
+
+} // namespace
+
+} // namespace tallyvane

@@ -1,0 +1,86 @@
+#include "shell/version_check.h"
+
+#include "shell/app.h"
+#include "support/test_desk.h"
+
+namespace tallyvane {
+
+namespace {
+
+TEST(VersionCheck, VersionsCompareAsNumbersOfThreeDigits) {
+    struct Row {
+        const char* version;
+        double want;
+    };
+    for (const Row& row : {Row{"1.1.7", 117}, Row{"1.2", 120}, Row{"1.1", 110}, Row{"2", 200}, Row{"1.1.10", 1110},
+                           Row{"", 0}, Row{"<p>not here", 0}, Row{"1.1.8b", 118}, Row{"12", 120}})
+        EXPECT_EQ(VersionCheck::numberOf(row.version), row.want) << row.version;
+}
+
+class NewVersionTest : public TestDesk {
+protected:
+    void SetUp() override {
+        TestDesk::SetUp();
+        app_.Event_Open();
+    }
+    /// The server's answer comes.
+    void answer(const std::string& file) {
+        ASSERT_EQ(toolkit_.downloads.size(), 1U);
+        write(toolkit_.downloads[0].path, file);
+        toolkit_.downloads[0].done(200);
+    }
+    bool fileIsThere() const { return std::filesystem::exists(folder_ / "Temporary Version File"); }
+
+    App app_;
+};
+
+TEST_F(NewVersionTest, TheOfferWaitsForTheMainWindow) {
+    EXPECT_EQ(toolkit_.downloads[0].address, "http://www.tallyvane.example/VersionInfo/Tallyvane.txt");
+    answer("Tallyvane 2\n2.0\n");
+    EXPECT_EQ(app_.newVersion(), nullptr);
+    app_.splashWindow()->Timer1.fire();
+    ASSERT_NE(app_.newVersion(), nullptr);
+    EXPECT_TRUE(app_.newVersion()->isOpen());
+    EXPECT_EQ(app_.newVersion()->StaticText1.Text(),
+              "There is a newer version of Tallyvane 2 available. Would you like to download it now?");
+    EXPECT_TRUE(fileIsThere());
+    app_.newVersion()->PushButton1.Action();
+    EXPECT_EQ(toolkit_.addresses, std::vector<std::string>{"http://www.tallyvane.example/Tallyvane.zip"});
+    EXPECT_FALSE(app_.newVersion()->isOpen());
+    EXPECT_FALSE(fileIsThere());
+}
+
+TEST_F(NewVersionTest, LaterIsLater) {
+    app_.splashWindow()->Timer1.fire();
+    answer("Tallyvane\n1.1.8\n");
+    app_.newVersion()->PushButton2.Action();
+    EXPECT_TRUE(toolkit_.addresses.empty());
+    EXPECT_FALSE(fileIsThere());
+}
+
+TEST_F(NewVersionTest, NoOffer) {
+    app_.splashWindow()->Timer1.fire();
+    struct Row {
+        const char* name;
+        const char* file;
+        bool stays;
+    };
+    for (const Row& row :
+         {Row{"the same", "Tallyvane\n1.1.7\n", false}, Row{"an error page", "<html>\n<p>no\n", false},
+          Row{"no version", "Tallyvane", false}, Row{"empty", "", true}, Row{"no name", "\n9.9.9\n", true}}) {
+        answer(row.file);
+        EXPECT_EQ(app_.newVersion(), nullptr) << row.name;
+        EXPECT_EQ(fileIsThere(), row.stays) << row.name;
+    }
+}
+
+TEST_F(NewVersionTest, AnAnswerAfterTheEndOfTheProgramIsNobodysBusiness) {
+    app_.splashWindow()->Timer1.fire();
+    app_.window1()->Close();
+    answer("Tallyvane\n2.0\n");
+    EXPECT_EQ(app_.newVersion(), nullptr);
+}
+
+} // namespace
+
+} // namespace tallyvane
