@@ -40,14 +40,28 @@ void Listbox::AddRow(std::string_view text) {
 }
 
 void Listbox::AddRows(std::vector<std::vector<std::string>> rows) {
+    if (rows.empty())
+        return;
     rows_.reserve(rows_.size() + rows.size());
     for (std::vector<std::string>& cells : rows) {
         cells.resize(columns_.size());
         rows_.push_back({std::move(cells), ++lastRevision_, false, nullptr});
     }
-    lastIndex_ = rows.empty() ? lastIndex_ : ListCount() - 1;
+    lastIndex_ = ListCount() - 1;
     if (list_ != nullptr)
         list_->rowsReplaced();
+}
+
+std::string Listbox::selectedText(int columns) const {
+    std::string text;
+    for (const Row& row : rows_) {
+        if (!row.selected)
+            continue;
+        for (int column = 0; column < columns; ++column)
+            text += (column > 0 ? "\t" : "") + row.cells[index(column)];
+        text += EndOfLine;
+    }
+    return text;
 }
 
 void Listbox::RemoveRow(int row) {

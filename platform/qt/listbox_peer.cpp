@@ -1,7 +1,9 @@
 #include "platform/qt/listbox_peer.h"
 
+#include <QClipboard>
 #include <QDropEvent>
 #include <QFile>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QMimeData>
 #include <QMouseEvent>
@@ -212,6 +214,11 @@ void ListboxPeer::dropEvent(QDropEvent* event) {
 void ListboxPeer::drop(const DragItem& item) {
     if (control_ != nullptr && control_->DropObject)
         deliver([&] { control_->DropObject(item); });
+}
+
+void ListboxPeer::copyRows() const {
+    if (control_ != nullptr && control_->SelectedCount() > 0)
+        QGuiApplication::clipboard()->setText(tallyvane::toQt(control_->selectedText(model_->columnCount())));
 }
 
 void ListboxPeer::click(const QModelIndex& cell, const QPoint& place) {

@@ -24,6 +24,9 @@ public:
     void selectionChanged() override;
     void openCellChanged() override;
 
+    /// Copies the selected rows, as they are shown, to the clipboard; nothing without a selection.
+    void copyRows() const;
+
     /// Paints a cell, also of a row that does not exist.
     void paintCell(QPainter& painter, const QRect& area, int row, int column);
 

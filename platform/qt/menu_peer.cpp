@@ -7,6 +7,7 @@
 
 #include "platform/qt/convert.h"
 #include "platform/qt/event_guard.h"
+#include "platform/qt/listbox_peer.h"
 
 namespace tallyvane {
 
@@ -41,15 +42,27 @@ void editField(Field& field, MenuRole role) {
     }
 }
 
-/// The standard editing action on a field of text; nothing on any other control.
+/// Whole rows can be copied and selected; their cells are changed one by one.
+void editList(ListboxPeer& list, MenuRole role) {
+    if (role == MenuRole::copy)
+        list.copyRows();
+    else if (role == MenuRole::selectAll)
+        list.selectAll();
+}
+
+/// The standard editing action on a field of text or a list; nothing on any other control.
 void edit(QWidget* focus, MenuRole role) {
     if (auto* line = qobject_cast<QLineEdit*>(focus))
         editField(*line, role);
     else if (auto* text = qobject_cast<QPlainTextEdit*>(focus))
         editField(*text, role);
+    else if (auto* list = dynamic_cast<ListboxPeer*>(focus))
+        editList(*list, role);
 }
 
-bool isField(const QWidget* focus) {
+bool canEdit(const QWidget* focus, MenuRole role) {
+    if (dynamic_cast<const ListboxPeer*>(focus) != nullptr)
+        return role == MenuRole::copy || role == MenuRole::selectAll;
     return qobject_cast<const QLineEdit*>(focus) != nullptr || qobject_cast<const QPlainTextEdit*>(focus) != nullptr;
 }
 
@@ -86,8 +99,10 @@ MenuPeer::MenuPeer(MenuBar& bar, std::function<Window*()> front, QWidget* parent
             add(*shown, item);
     }
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*old*/, QWidget* now) {
-        if (now != nullptr && !isMenu(now))
-            focus_ = now;
+        if (now == nullptr || isMenu(now))
+            return;
+        focus_ = now;
+        refresh();
     });
     connect(qApp, &QGuiApplication::focusWindowChanged, this, &MenuPeer::refresh); // their shortcuts work unseen
     refresh();
@@ -110,7 +125,7 @@ void MenuPeer::add(QMenu& menu, const MenuItem& item) {
 void MenuPeer::refresh() {
     deliver([this] { bar_.enableItems(front_()); });
     for (const Entry& entry : entries_)
-        entry.action->setEnabled(isEditing(entry.item->role) ? isField(focus_) : entry.item->Enabled);
+        entry.action->setEnabled(isEditing(entry.item->role) ? canEdit(focus_, entry.item->role) : entry.item->Enabled);
 }
 
 void MenuPeer::choose(const MenuItem& item) {

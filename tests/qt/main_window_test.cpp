@@ -1,4 +1,5 @@
 #include <QCalendarWidget>
+#include <QClipboard>
 #include <QHeaderView>
 #include <QMenu>
 #include <QToolBar>
@@ -141,6 +142,22 @@ TEST_F(MainWindowTest, TheEditMenuActsOnTheFocusedField) {
     EXPECT_EQ(Globals::gJournal, "");
     choose("EditUndo");
     EXPECT_EQ(Globals::gJournal, "felt well");
+}
+
+TEST_F(MainWindowTest, TheEditMenuCopiesRowsOfTheTable) {
+    write(applicationFile("7VXData"), "1/1/2026@#@5@#@@#@6,5\n1/2/2026@#@7\n");
+    start();
+    frame_->findChild<QPlainTextEdit*>()->setFocus();
+    table_->setFocus();
+    const auto action = [&](const char* name) { return frame_->findChild<QAction*>(QLatin1String(name)); };
+    EXPECT_FALSE(action("EditCut")->isEnabled());
+    list().ListIndex(1);
+    action("EditCopy")->trigger();
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("1/2/2026\t7\t\t\t\t\t\t\t7.0\t\n"));
+    action("EditSelectAll")->trigger();
+    EXPECT_EQ(list().SelectedCount(), 2);
+    action("EditCopy")->trigger();
+    EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith(QStringLiteral("1/1/2026\t5\t\t6,5\t")));
 }
 
 TEST_F(MainWindowTest, TheTableAndItsOpenCellStayLightAndLegibleInADarkTheme) {
