@@ -3,6 +3,7 @@
 #include <exception>
 
 #include "diary/cell_navigation.h"
+#include "diary/cell_words.h"
 #include "diary/date_window.h"
 #include "diary/day_details.h"
 #include "diary/day_table.h"
@@ -170,9 +171,22 @@ bool Window1::ListBox1_CellBackgroundPaint(Graphics& g, int row, int column) {
     return false;
 }
 
-bool Window1::ListBox1_CellTextPaint(Graphics& g, int /*row*/, int column, int /*x*/, int /*y*/) {
+bool Window1::ListBox1_CellTextPaint(Graphics& g, int row, int column, int x, int /*y*/) {
+    CellWords::underline(g, ListBox1, row, column, x);
     Indicators::colorText(g, column);
     return false;
+}
+
+std::string Window1::ListBox1_CellDescription(int row, int column) const {
+    return CellWords::spoken(ListBox1, row, column, columnName(column));
+}
+
+/// A column's heading with the name of its meal, if it stands under one.
+std::string Window1::columnName(int column) const {
+    const std::array<const StaticText*, 3> meals{&StaticText13, &StaticText14, &StaticText15};
+    const auto meal = static_cast<std::size_t>((column - DayTable::firstReading) / 2);
+    const bool isUnderMeal = column >= DayTable::firstReading && meal < meals.size();
+    return ListBox1.Heading(column) + (isUnderMeal ? " " + meals[meal]->Text() : "");
 }
 
 // Days

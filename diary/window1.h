@@ -90,6 +90,7 @@ public:
     void ListBox1_CellTextChange(int row, int column);
     bool ListBox1_HeaderPressed(int column);
     bool ListBox1_CellBackgroundPaint(Graphics& g, int row, int column);
+    std::string ListBox1_CellDescription(int row, int column) const;
     bool ListBox1_CellTextPaint(Graphics& g, int row, int column, int x, int y);
     void BevelButton1_Action();
     void BevelButton2_Action();
@@ -111,6 +112,8 @@ private:
     void toggleResources();
     void graphSelectedDays();
     void fillStrip(const Averages::Sums& sums);
+
+    std::string columnName(int column) const;
 
     std::array<StaticText*, 4> groupLabels();
     std::array<StaticText*, Averages::columns> stripLabels();

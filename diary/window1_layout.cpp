@@ -1,3 +1,4 @@
+#include "diary/cell_words.h"
 #include "diary/date_window.h"
 #include "diary/day_table.h"
 #include "diary/indicators.h"
@@ -149,6 +150,8 @@ void Window1::wire() {
     };
     ListBox1.CellTextChange = [this](int row, int column) { ListBox1_CellTextChange(row, column); };
     ListBox1.HeaderPressed = [this](int column) { return ListBox1_HeaderPressed(column); };
+    ListBox1.CellDescription = [this](int row, int column) { return ListBox1_CellDescription(row, column); };
+    ListBox1.CellHelpTag = [this](int row, int column) { return CellWords::helpTag(ListBox1, row, column); };
     ListBox1.CellBackgroundPaint = [this](Graphics& g, int row, int column) {
         return ListBox1_CellBackgroundPaint(g, row, column);
     };

@@ -180,6 +180,10 @@ public:
     std::function<void(int row, int column)> CellCommandClick;
     /// A file or a text was dropped on the list.
     std::function<void(const DragItem& item)> DropObject;
+    /// What is read aloud for a cell; without it heading, first cell and text.
+    std::function<std::string(int row, int column)> CellDescription;
+    /// The line that shows while the pointer rests on a cell; "" for none.
+    std::function<std::string(int row, int column)> CellHelpTag;
     /// Paints below the text of a cell; the surface is the cell. Also called for rows that do not exist.
     std::function<bool(Graphics& g, int row, int column)> CellBackgroundPaint;
     /// Before the text is drawn at x, y: may set the colour, or draw the text itself and say true.

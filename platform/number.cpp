@@ -6,6 +6,8 @@
 #include <cmath>
 #include <limits>
 
+#include "platform/text.h"
+
 namespace tallyvane {
 
 namespace {
@@ -70,6 +72,14 @@ double Val(std::string_view text) {
         value = tiny ? 0 : std::numeric_limits<double>::max();
     }
     return negative ? -value : value;
+}
+
+bool isNumber(std::string_view text) {
+    const std::string trimmed = Trim(text);
+    std::string_view digits = trimmed;
+    if (digits.starts_with('-') || digits.starts_with('+'))
+        digits.remove_prefix(1);
+    return unsignedNumber(digits) == digits && std::any_of(digits.begin(), digits.end(), isDigit);
 }
 
 std::string Str(double number) {

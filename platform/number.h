@@ -11,6 +11,9 @@ namespace tallyvane {
 /// the largest one.
 double Val(std::string_view text);
 
+/// Whether Val reads the whole text, but for blanks around it: a sign or none, at least one digit, at most one point.
+bool isNumber(std::string_view text);
+
 /// The shortest plain decimal text that Val reads back to the same double; no point for a whole number.
 std::string Str(double number);
 

@@ -16,6 +16,8 @@ std::vector<int> widthsOf(const Listbox& list) {
     return widths;
 }
 
+std::string shown(const std::string& text) { return Left(text, mostCharacters); }
+
 } // namespace
 
 ListboxModel::ListboxModel(const Listbox& list, QObject* parent)
@@ -28,18 +30,29 @@ int ListboxModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant ListboxModel::data(const QModelIndex& index, int role) const {
-    const auto shown = [](const std::string& text) { return Left(text, mostCharacters); };
-    const std::string text = shown(list_.Cell(index.row(), index.column()));
-    if (role == Qt::DisplayRole)
-        return toQt(text);
-    if (role == Qt::AccessibleTextRole)
-        return toQt(shown(list_.Heading(index.column())) + ", " + shown(list_.Cell(index.row(), 0)) + ", " + text);
-    return {};
+    switch (role) {
+    case Qt::DisplayRole:
+        return toQt(shown(list_.Cell(index.row(), index.column())));
+    case Qt::AccessibleTextRole:
+        return toQt(spoken(index.row(), index.column()));
+    case Qt::ToolTipRole:
+        return list_.CellHelpTag ? toQt(list_.CellHelpTag(index.row(), index.column())) : QVariant();
+    default:
+        return {};
+    }
+}
+
+std::string ListboxModel::spoken(int row, int column) const {
+    if (list_.CellDescription)
+        return shown(list_.CellDescription(row, column));
+    const std::string heading = list_.Heading(column).empty() ? "" : shown(list_.Heading(column)) + ", ";
+    const std::string name = column == 0 ? "" : shown(list_.Cell(row, 0)) + ", ";
+    return heading + name + shown(list_.Cell(row, column));
 }
 
 QVariant ListboxModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation == Qt::Horizontal && role == Qt::DisplayRole)
-        return toQt(Left(list_.Heading(section), mostCharacters));
+        return toQt(shown(list_.Heading(section)));
     return {};
 }
 

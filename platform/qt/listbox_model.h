@@ -28,6 +28,8 @@ public:
     const std::vector<int>& widths() const { return widths_; }
 
 private:
+    std::string spoken(int row, int column) const;
+
     const Listbox& list_;
     int rows_ = 0;
     std::vector<int> widths_;

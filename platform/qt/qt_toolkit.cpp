@@ -11,6 +11,7 @@
 #include <QScreen>
 #include <QUrl>
 
+#include "platform/qt/canvas_accessible.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/http_download.h"
 #include "platform/qt/print_job.h"
@@ -55,7 +56,10 @@ Window* windowInFront() {
 
 } // namespace
 
-QtToolkit::QtToolkit() { putInForce(this); }
+QtToolkit::QtToolkit() {
+    installCanvasAccessibility();
+    putInForce(this);
+}
 
 QtToolkit::~QtToolkit() { putInForce(nullptr); }
 

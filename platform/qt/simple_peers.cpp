@@ -103,10 +103,16 @@ void CanvasPeer::mouseReleaseEvent(QMouseEvent* event) {
 void CanvasPeer::keyPressEvent(QKeyEvent* event) {
     const bool presses =
         event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (control_ == nullptr || !control_->AcceptFocus() || !presses || event->isAutoRepeat()) {
+    if (!isButton() || !presses || event->isAutoRepeat()) {
         QWidget::keyPressEvent(event);
         return;
     }
+    press();
+}
+
+void CanvasPeer::press() {
+    if (!isButton() || !isEnabled())
+        return;
     const QPoint middle = rect().center();
     deliver([&] {
         if (control_->Event_MouseDown(middle.x(), middle.y()))

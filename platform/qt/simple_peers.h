@@ -28,6 +28,11 @@ class CanvasPeer : public Peer<QWidget, Canvas> {
 public:
     CanvasPeer(Canvas& canvas, QWidget* parent);
 
+    /// Whether it can be pressed, by the keyboard too.
+    bool isButton() const { return control_ != nullptr && control_->AcceptFocus(); }
+    /// A press in its middle.
+    void press();
+
 protected:
     void sync() override;
     void paintEvent(QPaintEvent* event) override;

@@ -1,0 +1,84 @@
+#include "diary/cell_words.h"
+
+#include <algorithm>
+
+#include "diary/day_table.h"
+#include "diary/indicators.h"
+#include "platform/number.h"
+
+namespace tallyvane::CellWords {
+
+namespace {
+
+constexpr Color markColor = RGB(178, 24, 24);
+
+bool isTypedAsNumber(int column) {
+    return (column >= DayTable::firstReading && column <= DayTable::lastReading) || column == DayTable::weightColumn;
+}
+
+std::string rangeName(Indicators::Range range) {
+    switch (range) {
+    case Indicators::Range::over:
+        return "too high";
+    case Indicators::Range::caution:
+        return "high";
+    case Indicators::Range::inZone:
+        return "in target zone";
+    case Indicators::Range::low:
+        return "low";
+    case Indicators::Range::under:
+        break;
+    }
+    return "too low";
+}
+
+std::string rangeOf(const std::string& text, int column) {
+    if (text.empty() || column == DayTable::dateColumn || column == DayTable::weightColumn)
+        return "";
+    const std::optional<Indicators::Range> range = Indicators::rangeOf(Val(text));
+    return range ? rangeName(*range) : "";
+}
+
+} // namespace
+
+bool isDoubtful(const Listbox& table, int row, int column) {
+    const std::string& text = table.Cell(row, column);
+    return isTypedAsNumber(column) && !text.empty() && !isNumber(text);
+}
+
+std::string helpTag(const Listbox& table, int row, int column) {
+    if (!isDoubtful(table, row, column))
+        return "";
+    const double value = Val(table.Cell(row, column));
+    return value > 0 ? "counts as " + Str(value) : "does not count";
+}
+
+std::string spoken(const Listbox& table, int row, int column, const std::string& columnName) {
+    std::string words = columnName;
+    const auto say = [&words](const std::string& word) { words += word.empty() ? "" : ", " + word; };
+    say(table.Cell(row, DayTable::dateColumn));
+    if (column == DayTable::dateColumn)
+        return words;
+    const std::string& text = table.Cell(row, column);
+    say(text);
+    say(helpTag(table, row, column));
+    say(rangeOf(text, column));
+    return words;
+}
+
+void underline(Graphics& g, const Listbox& table, int row, int column, double margin) {
+    if (!isDoubtful(table, row, column))
+        return;
+    constexpr double step = 2; // from dot to dot
+    const Color before = g.ForeColor();
+    g.ForeColor(markColor);
+    g.TextFont(table.TextFont());
+    g.TextSize(table.TextSize());
+    const double right = g.Width() - margin;
+    const double left = std::max(margin, right - g.StringWidth(table.Cell(row, column)));
+    for (double x = left; x < right; x += step)
+        g.FillRect(x, g.Height() - 2, 1, 1);
+    g.ForeColor(before);
+}
+
+} // namespace tallyvane::CellWords

@@ -1,0 +1,24 @@
+/// What is said of a cell of the day table besides its text: to those who hear the table read, and of texts that count
+/// as something else than they seem to.
+#pragma once
+
+#include <string>
+
+#include "platform/listbox.h"
+
+namespace tallyvane::CellWords {
+
+/// Whether a reading or a weight was typed that is not wholly a number, such as "5,6" or "1O".
+bool isDoubtful(const Listbox& table, int row, int column);
+
+/// What a doubtful text counts as: "counts as 5", or "does not count"; "" for any other cell.
+std::string helpTag(const Listbox& table, int row, int column);
+
+/// A cell as it is read aloud, by the name of its column: "After Lunch, 11/22/2026, 12.4, high".
+std::string spoken(const Listbox& table, int row, int column, const std::string& columnName);
+
+/// A dotted line under a doubtful text, on the surface of its cell; `margin` points lie between the text and the
+/// cell's right edge.
+void underline(Graphics& g, const Listbox& table, int row, int column, double margin);
+
+} // namespace tallyvane::CellWords

@@ -1,0 +1,97 @@
+/// What assistive programs see of the windows.
+#include <QAccessible>
+#include <QTabWidget>
+
+#include "qt/qt_desk.h"
+
+namespace tallyvane {
+
+namespace {
+
+class AccessibilityTest : public QtDesk {
+protected:
+    /// "role: name" of each control that takes keys or is pressed, in the window of that title.
+    std::vector<std::string> controls(const char* title) {
+        std::vector<std::string> all;
+        WindowFrame* frame = frameTitled(QLatin1String(title));
+        if (frame == nullptr) {
+            ADD_FAILURE() << "no window " << title;
+            return all;
+        }
+        walk(QAccessible::queryAccessibleInterface(frame), all);
+        return all;
+    }
+    static QAccessibleInterface* interfaceOf(QWidget* widget) { return QAccessible::queryAccessibleInterface(widget); }
+
+private:
+    static void walk(QAccessibleInterface* item, std::vector<std::string>& all) {
+        if (item == nullptr || item->state().invisible)
+            return;
+        static const std::map<QAccessible::Role, const char*> roles{
+            {QAccessible::Button, "button"},      {QAccessible::CheckBox, "check box"},
+            {QAccessible::RadioButton, "choice"}, {QAccessible::EditableText, "field"},
+            {QAccessible::PageTab, "tab"},        {QAccessible::Table, "table"},
+            {QAccessible::Graphic, "picture"},    {QAccessible::Client, "something without a role"},
+        };
+        const auto role = roles.find(item->role());
+        const auto* widget = qobject_cast<QWidget*>(item->object());
+        const bool takesKeys = widget != nullptr && widget->focusPolicy() != Qt::NoFocus &&
+                               qobject_cast<const QTabWidget*>(widget) == nullptr; // its bar has the tabs
+        const bool isOurs = item->role() != QAccessible::Client || takesKeys;
+        if (role != roles.end() && isOurs)
+            all.push_back(std::string(role->second) + ": " + fromQt(item->text(QAccessible::Name)));
+        if (item->role() == QAccessible::Table)
+            return; // its cells are looked at by themselves
+        for (int i = 0; i < item->childCount(); ++i)
+            walk(item->child(i), all);
+    }
+};
+
+TEST_F(AccessibilityTest, EveryControlOfEveryWindowHasARoleAndAName) {
+    write(applicationFile("7VXData"), "1/1/2026@#@5\n1/2/2026@#@7\n");
+    start();
+    list().select({true, true});
+    Window1& window = *app_->window1();
+    app_->FilePreferences_Action();
+    app_->FileExportData_Action();
+    app_->FileAboutBrindlemarks_Action();
+    for (const auto& show : {window.showHeadingsEditor, window.showLogs, window.showTeamAndMedications,
+                             window.showResources, window.showGraph})
+        show();
+    for (const char* title : {"Tallyvane", "Preferences", "Headings Editor", "Logs", "Information", "Files", "Graph",
+                              "Untitled", "About Tallyvane"}) {
+        const std::vector<std::string> all = controls(title);
+        if (std::string(title) != "About Tallyvane")
+            EXPECT_FALSE(all.empty()) << title;
+        for (const std::string& control : all) {
+            const bool isDecoration = control == "picture: ";
+            EXPECT_TRUE(isDecoration || !control.ends_with(": ")) << title << ": " << control;
+            EXPECT_FALSE(control.starts_with("something")) << title << ": " << control;
+        }
+    }
+}
+
+TEST_F(AccessibilityTest, CellsAreReadWithAllThatBelongsToThem) {
+    write(applicationFile("7VXData"), "1/1/2026@#@12.4@#@5,6\n");
+    start();
+    QAccessibleTableInterface* table = interfaceOf(table_)->tableInterface();
+    ASSERT_NE(table, nullptr);
+    EXPECT_EQ(table->cellAt(0, 1)->text(QAccessible::Name), QStringLiteral("Before Breakfast, 1/1/2026, 12.4, high"));
+    EXPECT_EQ(table_->model()->index(0, 2).data(Qt::ToolTipRole).toString(), QStringLiteral("counts as 5"));
+    EXPECT_TRUE(table_->model()->index(0, 1).data(Qt::ToolTipRole).toString().isEmpty());
+}
+
+TEST_F(AccessibilityTest, APictureButtonCanBePressedFromOutside) {
+    start();
+    for (auto* canvas : frame_->findChildren<CanvasPeer*>())
+        if (canvas->toolTip() == QStringLiteral("Add date to journal")) {
+            QAccessibleInterface* button = interfaceOf(canvas);
+            EXPECT_EQ(button->role(), QAccessible::Button);
+            button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        }
+    EXPECT_EQ(app_->window1()->JournalFld.Text(), Date().AbbreviatedDate());
+}
+
+} // namespace
+
+} // namespace tallyvane
