@@ -1,7 +1,9 @@
 #include "platform/qt/window_peer.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QScopedValueRollback>
+#include <QScreen>
 
 #include "platform/qt/calendar_peer.h"
 #include "platform/qt/event_guard.h"
@@ -52,6 +54,18 @@ Qt::WindowFlags flagsOf(Window::Kind kind) {
         break;
     }
     return Qt::Window;
+}
+
+/// The place for a window of that size, or another one where the middle of its title can be got hold of: the screen on
+/// which it stood may be gone.
+QPoint withinReach(QPoint place, QSize size) {
+    constexpr int inTheTitle = 10; // points below the frame's upper edge
+    for (const QScreen* screen : QGuiApplication::screens())
+        if (screen->geometry().contains(place + QPoint(size.width() / 2, inTheTitle)))
+            return place;
+    QRect around(QPoint(0, 0), size);
+    around.moveCenter(QGuiApplication::primaryScreen()->availableGeometry().center());
+    return around.topLeft();
 }
 
 } // namespace
@@ -159,7 +173,7 @@ void WindowFrame::syncGeometry() {
         resize(size() + grown);
     else if (!isVisible())
         resize(sizeHint());
-    const QPoint place(window_->Left(), window_->Top());
+    const QPoint place = withinReach({window_->Left(), window_->Top()}, size());
     if (pos() != place)
         move(place);
 }

@@ -33,7 +33,8 @@ clean_up() {
 trap clean_up EXIT
 
 exec 3>"$home/display"
-Xvfb -displayfd 3 -screen 0 1280x1024x24 >/dev/null 2>&1 &
+# A server that starts over when a client leaves it alone would throw out the window manager that is just coming.
+Xvfb -noreset -displayfd 3 -screen 0 1280x1024x24 >/dev/null 2>&1 &
 display_server=$!
 until_true grep -q . "$home/display"
 export DISPLAY=":$(cat "$home/display")"

@@ -2,6 +2,7 @@
 #include <QClipboard>
 #include <QHeaderView>
 #include <QMenu>
+#include <QScreen>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -243,6 +244,12 @@ TEST_F(MainWindowTest, MovesAndSizesOfTheUserAreSaved) {
     EXPECT_EQ(read(applicationFile("QVXWindowData")), "90\n100\n746\n600\n");
     EXPECT_TRUE(qt_.quitAsked());
     EXPECT_EQ(frameTitled(QStringLiteral("Tallyvane")), nullptr);
+}
+
+TEST_F(MainWindowTest, AWindowFromAScreenThatIsGoneComesBackIntoSight) {
+    write(applicationFile("QVXWindowData"), "9000\n700\n746\n518\n");
+    start();
+    EXPECT_TRUE(QGuiApplication::primaryScreen()->geometry().contains(frame_->geometry().center()));
 }
 
 TEST_F(MainWindowTest, TheGraphGrowsWithItsWindowAndAnswersThePrintItem) {
