@@ -2,11 +2,8 @@
 /// symbol, beside all that GTGraph::Draw draws.
 #include <benchmark/benchmark.h>
 
-#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
-
-#include <malloc.h>
 
 #include <cmath>
 #include <random>
@@ -178,14 +175,3 @@ BENCHMARK(draw_plain_images)->Apply(sizes);
 BENCHMARK(fill_series)->Arg(10'000)->Arg(100'000)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char** argv) {
-    // Memory once taken stays: what the kernel does to hand out fresh pages is not the engine's time.
-    mallopt(M_MMAP_THRESHOLD, 1 << 30);
-    mallopt(M_TRIM_THRESHOLD, 1 << 30);
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QGuiApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

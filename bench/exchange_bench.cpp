@@ -2,11 +2,9 @@
 #include <benchmark/benchmark.h>
 
 #include <fcntl.h>
-#include <malloc.h>
 #include <sys/resource.h>
 #include <unistd.h>
 
-#include <QApplication>
 #include <QPrinter>
 
 #include <filesystem>
@@ -168,14 +166,3 @@ BENCHMARK(write_plain)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(export_lines)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 } // namespace
-
-int main(int argc, char** argv) {
-    // Memory once taken stays: what the kernel does to hand out fresh pages is not the program's time.
-    mallopt(M_MMAP_THRESHOLD, 1 << 30);
-    mallopt(M_TRIM_THRESHOLD, 1 << 30);
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

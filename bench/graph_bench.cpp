@@ -2,11 +2,8 @@
 /// symbols into a picture of the same size, and against a copy of the finished picture.
 #include <benchmark/benchmark.h>
 
-#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
-
-#include <malloc.h>
 
 #include "big_table.h"
 #include "diary/averages.h"
@@ -160,14 +157,3 @@ BENCHMARK(repaint_unchanged)->Unit(benchmark::kMillisecond);
 BENCHMARK(copy_picture)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char** argv) {
-    // Memory once taken stays: what the kernel does to hand out fresh pages is not the program's time.
-    mallopt(M_MMAP_THRESHOLD, 1 << 30);
-    mallopt(M_TRIM_THRESHOLD, 1 << 30);
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QGuiApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

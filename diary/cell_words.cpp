@@ -32,13 +32,6 @@ std::string rangeName(Indicators::Range range) {
     return "too low";
 }
 
-std::string rangeOf(const std::string& text, int column) {
-    if (text.empty() || column == DayTable::dateColumn || column == DayTable::weightColumn)
-        return "";
-    const std::optional<Indicators::Range> range = Indicators::rangeOf(Val(text));
-    return range ? rangeName(*range) : "";
-}
-
 } // namespace
 
 bool isDoubtful(const Listbox& table, int row, int column) {
@@ -50,7 +43,7 @@ std::string helpTag(const Listbox& table, int row, int column) {
     if (!isDoubtful(table, row, column))
         return "";
     const double value = Val(table.Cell(row, column));
-    return value > 0 ? "counts as " + Str(value) : "does not count";
+    return value != 0 ? "counts as " + Str(value) : "does not count";
 }
 
 std::string spoken(const Listbox& table, int row, int column, const std::string& columnName) {
@@ -59,10 +52,10 @@ std::string spoken(const Listbox& table, int row, int column, const std::string&
     say(table.Cell(row, DayTable::dateColumn));
     if (column == DayTable::dateColumn)
         return words;
-    const std::string& text = table.Cell(row, column);
-    say(text);
+    say(table.Cell(row, column));
     say(helpTag(table, row, column));
-    say(rangeOf(text, column));
+    if (const std::optional<Indicators::Range> range = Indicators::rangeOf(table, row, column))
+        say(rangeName(*range));
     return words;
 }
 

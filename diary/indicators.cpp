@@ -45,6 +45,12 @@ std::optional<Range> rangeOf(double value) {
     return std::nullopt;
 }
 
+std::optional<Range> rangeOf(const Listbox& table, int row, int column) {
+    const std::string& text = table.Cell(row, column); // "" for a row that does not exist
+    const bool shows = Globals::gShowIndicators && showsLight(column) && !text.empty();
+    return shows ? rangeOf(Val(text)) : std::nullopt;
+}
+
 std::optional<Picture> getLight(double value) {
     const std::optional<Range> range = rangeOf(value);
     return range ? std::optional(lightOf(*range).picture) : std::nullopt;
@@ -53,12 +59,7 @@ std::optional<Picture> getLight(double value) {
 void paintCell(Graphics& g, const Listbox& table, int row, int column) {
     g.ForeColor(row % 2 == 0 ? evenBand : oddBand);
     g.FillRect(0, 0, g.Width(), g.Height());
-    if (!Globals::gShowIndicators || !showsLight(column))
-        return;
-    const std::string& text = table.Cell(row, column); // "" for a row that does not exist
-    if (text.empty())
-        return;
-    if (const std::optional<Range> range = rangeOf(Val(text))) {
+    if (const std::optional<Range> range = rangeOf(table, row, column)) {
         const Light& light = lightOf(*range);
         g.DrawPicture(light.picture, light.x, light.y);
     }

@@ -22,11 +22,13 @@ inline constexpr Color weightColor = RGB(0, 75, 127);
 /// The range of a value by the present limits. A limit belongs to the range above it. None when the limits are out
 /// of order and the value falls between them.
 std::optional<Range> rangeOf(double value);
+/// The range that a cell of the table shows by its light: in the columns 1 to 8 of rows that exist, for cells that are
+/// not empty, while the indicators are on.
+std::optional<Range> rangeOf(const Listbox& table, int row, int column);
 /// The picture of the value's range.
 std::optional<Picture> getLight(double value);
 
-/// Fills the band of the row and draws the light of the cell's value: in the columns 1 to 8 of rows that exist, for
-/// cells that are not empty, while the indicators are on.
+/// Fills the band of the row and draws the light of the cell's range, if it shows one.
 void paintCell(Graphics& g, const Listbox& table, int row, int column);
 /// Sets the colour of the cell's text.
 void colorText(Graphics& g, int column);

@@ -76,9 +76,7 @@ void GrafThingWindow::drawOnWhite(Graphics& g) const {
 
 void GrafThingWindow::Canvas2_Action() {
     PrinterSetup setup;
-    if (!setup.PageSetupDialog())
-        return;
-    const std::unique_ptr<Graphics> g = OpenPrinterDialog(&setup);
+    const std::unique_ptr<Graphics> g = askForPages(setup);
     if (!g)
         return;
     {
@@ -111,9 +109,7 @@ void GrafThingWindow::filePrint_Action() {
     PrinterSetup setup;
     setup.MaxHorizontalResolution = asFineAsThePrinter;
     setup.MaxVerticalResolution = asFineAsThePrinter;
-    if (!setup.PageSetupDialog())
-        return;
-    const std::unique_ptr<Graphics> g = OpenPrinterDialog(&setup);
+    const std::unique_ptr<Graphics> g = askForPages(setup);
     if (!g)
         return;
     grafThing1->Resolution(setup.HorizontalResolution());

@@ -57,8 +57,11 @@ std::string Listbox::selectedText(int columns) const {
     for (const Row& row : rows_) {
         if (!row.selected)
             continue;
-        for (int column = 0; column < columns; ++column)
-            text += (column > 0 ? "\t" : "") + row.cells[index(column)];
+        for (int column = 0; column < columns; ++column) {
+            if (column > 0)
+                text += '\t';
+            text += ReplaceAll(row.cells[index(column)], "\t", " ");
+        }
         text += EndOfLine;
     }
     return text;

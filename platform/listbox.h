@@ -120,7 +120,7 @@ public:
     bool Selected(int row) const { return contains(row, 0) && rows_[index(row)].selected; }
     void Selected(int row, bool value);
     int SelectedCount() const { return selectedCount_; }
-    /// The selected rows as lines, their first so many cells with tabs between them.
+    /// The selected rows as lines, their first so many cells with tabs between them; a tab in a cell is a blank.
     std::string selectedText(int columns) const;
     /// Selects these rows and no other. Raises Change once when the selection differs.
     void select(const std::vector<bool>& rows);

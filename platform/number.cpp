@@ -6,8 +6,6 @@
 #include <cmath>
 #include <limits>
 
-#include "platform/text.h"
-
 namespace tallyvane {
 
 namespace {
@@ -75,8 +73,9 @@ double Val(std::string_view text) {
 }
 
 bool isNumber(std::string_view text) {
-    const std::string trimmed = Trim(text);
-    std::string_view digits = trimmed;
+    constexpr std::string_view blanks = " \t";
+    std::string_view digits = text.substr(std::min(text.find_first_not_of(blanks), text.size()));
+    digits = digits.substr(0, digits.find_last_not_of(blanks) + 1);
     if (digits.starts_with('-') || digits.starts_with('+'))
         digits.remove_prefix(1);
     return unsignedNumber(digits) == digits && std::any_of(digits.begin(), digits.end(), isDigit);

@@ -30,6 +30,10 @@ std::unique_ptr<Graphics> OpenPrinterDialog(const PrinterSetup* setup, PrintTarg
                             : toolkit->openPrinterDialog(setup->paper(), setup->HorizontalResolution(), target);
 }
 
+std::unique_ptr<Graphics> askForPages(PrinterSetup& setup) {
+    return setup.PageSetupDialog() ? OpenPrinterDialog(&setup) : nullptr;
+}
+
 void StyledTextPrinter::DrawBlock(double x, double y, double height) {
     constexpr double textSize = 12;
     g_.TextFont("System");

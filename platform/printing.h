@@ -60,6 +60,9 @@ enum class PrintTarget { printer, pdf };
 [[nodiscard]] std::unique_ptr<Graphics> OpenPrinterDialog(const PrinterSetup* setup = nullptr,
                                                           PrintTarget target = PrintTarget::printer);
 
+/// Shows the page set-up dialog, then the print dialog for that set-up. Nil when the user cancelled one of them.
+[[nodiscard]] std::unique_ptr<Graphics> askForPages(PrinterSetup& setup);
+
 /// Lays a text out on one page after the other, in the desktop's own font at 12 points. Lines are broken between words;
 /// a word that is wider than the page is broken where it must be.
 class StyledTextPrinter {

@@ -28,9 +28,7 @@ int ListboxPrintAll::widthOf(int column, float scale) const {
 void ListboxPrintAll::print(const Listbox& list, bool fitToPage) {
     source = &list;
     PrinterSetup setup;
-    if (!setup.PageSetupDialog())
-        return;
-    const std::unique_ptr<Graphics> g = OpenPrinterDialog(&setup);
+    const std::unique_ptr<Graphics> g = askForPages(setup);
     if (!g)
         return;
     int widths = 0;

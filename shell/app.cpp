@@ -66,6 +66,7 @@ void App::Event_Open() {
     splash_->VersionCheckSocket1.offer = [this](std::function<void()> done) { offerNewVersion(std::move(done)); };
     splash_->handedOver = [this] {
         tellMissingDataFolder();
+        hasHandedOver_ = true;
         showOffer();
     };
     splash_->Show();
@@ -155,15 +156,20 @@ void App::tellMissingDataFolder() {
 /// The offer belongs to the main window, and waits until that is there.
 void App::offerNewVersion(std::function<void()> done) {
     offerDone_ = std::move(done);
-    if (!splash_->isOpen())
+    if (hasHandedOver_)
         showOffer();
 }
 
 void App::showOffer() {
-    if (!offerDone_ || !window1_->isOpen())
+    const std::function<void()> done = std::exchange(offerDone_, nullptr);
+    if (!done)
         return;
+    if (!window1_->isOpen()) {
+        done();
+        return;
+    }
     newVersion_ = std::make_unique<newVersionWindow>(*window1_, VersionCheck::theAppName);
-    newVersion_->closed = std::exchange(offerDone_, nullptr);
+    newVersion_->closed = done;
     newVersion_->Show();
 }
 

@@ -93,6 +93,7 @@ private:
     std::vector<std::unique_ptr<SystemFiles::FolderClaim>> claims_;
     std::unique_ptr<Window1> window1_;
     std::unique_ptr<SplashWindow> splash_;
+    bool hasHandedOver_ = false; // the splash window, with all that had to be told
     std::function<void()> offerDone_; // of an offer that waits for the main window; nil for none
     std::unique_ptr<newVersionWindow> newVersion_;
     std::unique_ptr<AboutWindow> about_;

@@ -16,8 +16,7 @@ newVersionWindow::newVersionWindow(Window& owner, const std::string& appName) {
     StaticText1.Text("There is a newer version of " + appName + " available. Would you like to download it now?");
     StaticText1.Multiline(true);
     PushButton1.Caption("Download Now");
-    PushButton1.Default(true);
-    PushButton2.Caption("Download Later");
+    PushButton2.Caption("Download Later"); // Return presses neither: the offer can come while somebody types
     PushButton2.Cancel(true);
     PushButton1.Action = [this] { PushButton1_Action(); };
     PushButton2.Action = [this] { Close(); };

@@ -17,16 +17,22 @@ constexpr qsizetype mostBytes = 64 * 1024;
 QNetworkRequest requestFor(const std::string& address) {
     constexpr int mostRedirects = 5;
     QNetworkRequest request{QUrl(toQt(address))};
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::SameOriginRedirectPolicy);
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::UserVerifiedRedirectPolicy);
     request.setMaximumRedirectsAllowed(mostRedirects);
     request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
     request.setRawHeader("Accept-Encoding", "identity"); // packed bytes could be many more than they look
+    request.setRawHeader("Accept-Language", "en"); // the user's is nobody's business
     return request;
 }
 
 /// The server has answered, with a page of whatever status; not so when the line broke down or the fetch was ended.
 bool hasAnswered(const QNetworkReply& reply) {
-    return reply.error() == QNetworkReply::NoError || reply.error() >= QNetworkReply::ContentAccessDenied;
+    const bool isContent =
+        reply.error() == QNetworkReply::NoError ||
+        (reply.error() >= QNetworkReply::ContentAccessDenied && reply.error() != QNetworkReply::ProtocolUnknownError &&
+         reply.error() != QNetworkReply::ProtocolInvalidOperationError &&
+         reply.error() != QNetworkReply::ProtocolFailure);
+    return isContent && reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).isValid();
 }
 
 } // namespace
@@ -36,6 +42,12 @@ HttpDownload::HttpDownload(QNetworkAccessManager& network, const std::string& ad
     : path_(std::move(path)), done_(std::move(done)), reply_(network.get(requestFor(address))) {
     reply_->setReadBufferSize(mostBytes);
     QObject::connect(reply_, &QNetworkReply::readyRead, &timeLimit_, [this] { takeBytes(); });
+    QObject::connect(reply_, &QNetworkReply::redirected, &timeLimit_, [this](const QUrl& target) {
+        if (target.host() == reply_->request().url().host())
+            Q_EMIT reply_->redirectAllowed();
+        else
+            reply_->abort();
+    });
     QObject::connect(reply_, &QNetworkReply::finished, &timeLimit_, [this] { finish(); });
     QObject::connect(&timeLimit_, &QTimer::timeout, &timeLimit_, [this] { reply_->abort(); });
     timeLimit_.setSingleShot(true);

@@ -24,7 +24,7 @@ public:
     void selectionChanged() override;
     void openCellChanged() override;
 
-    /// Copies the selected rows, as they are shown, to the clipboard; nothing without a selection.
+    /// Copies the selected rows with their visible columns to the clipboard; nothing without a selection.
     void copyRows() const;
 
     /// Paints a cell, also of a row that does not exist.

@@ -29,6 +29,7 @@ TEST_F(CellWordsTest, ACellSaysWhatItIsAndWhereItStands) {
         {5, "7.2x", "Before Supper, 11/22/2026, 7.2x, counts as 7.2, in target zone", "counts as 7.2"},
         {5, "1O", "Before Supper, 11/22/2026, 1O, counts as 1, too low", "counts as 1"},
         {5, "ill", "Before Supper, 11/22/2026, ill, does not count, too low", "does not count"},
+        {5, "-5x", "Before Supper, 11/22/2026, -5x, counts as -5, too low", "counts as -5"},
         {9, "80 kg", "Weight, 11/22/2026, 80 kg, counts as 80", "counts as 80"},
     };
     open();

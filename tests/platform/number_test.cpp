@@ -99,7 +99,8 @@ TEST(Number, FormatRoundsTheDecimalTextHalfAwayFromZero) {
 TEST(Number, ATextIsANumberAsAWholeOrNot) {
     for (const char* text : {"5", "5.6", " 12.4 ", "-3", "+7", ".5", "5."})
         EXPECT_TRUE(isNumber(text)) << text;
-    for (const char* text : {"", " ", "5,6", "7.2x", "1O", "1.2.3", ".", "-", "--3", "1e3", "0x10", "5 6", "inf"})
+    for (const char* text :
+         {"", " ", "5,6", "7.2x", "1O", "1.2.3", ".", "-", "--3", "1e3", "0x10", "5 6", "inf", "\r5", "5\n"})
         EXPECT_FALSE(isNumber(text)) << text;
 }
 

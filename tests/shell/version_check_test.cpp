@@ -79,6 +79,7 @@ TEST_F(NewVersionTest, AnAnswerAfterTheEndOfTheProgramIsNobodysBusiness) {
     app_.window1()->Close();
     answer("Tallyvane\n2.0\n");
     EXPECT_EQ(app_.newVersion(), nullptr);
+    EXPECT_FALSE(fileIsThere());
 }
 
 } // namespace
