@@ -85,8 +85,10 @@ void ListboxPeer::rowsReplaced() {
 
 void ListboxPeer::cellChanged(int row, int column) {
     model_->tellCellChanged(row, column);
-    if (row == control_->openRow() && column == control_->openColumn())
-        scrollTo(model_->index(row, column)); // typed out of sight
+    if (row != control_->openRow() || column != control_->openColumn())
+        return;
+    scrollTo(model_->index(row, column)); // typed out of sight
+    nameEditor();
 }
 
 void ListboxPeer::selectionChanged() {
@@ -120,12 +122,18 @@ void ListboxPeer::openCellChanged() {
     selectionModel()->setCurrentIndex(cell, QItemSelectionModel::NoUpdate);
     scrollTo(cell);
     editor_->setAlignment(alignmentOf(cell.column()));
-    editor_->setAccessibleName(model_->data(cell, Qt::AccessibleTextRole).toString());
+    nameEditor();
     editor_->controlChanged();
     placeEditor();
     editor_->show();
     editor_->setFocus();
     editor_->controlChanged(); // taking the focus moves the selection
+}
+
+/// The open cell is read as the cell is.
+void ListboxPeer::nameEditor() {
+    const QModelIndex cell = model_->index(control_->openRow(), control_->openColumn());
+    editor_->setAccessibleName(cell.data(Qt::AccessibleTextRole).toString());
 }
 
 void ListboxPeer::placeEditor() {

@@ -57,6 +57,7 @@ private:
     void commandClick(const QModelIndex& cell);
     bool takesDrop(QDropEvent& event) const;
     void drop(const DragItem& item);
+    void nameEditor();
     void placeEditor();
     void drawText(QPainter& painter, const QRect& area, int row, int column);
 

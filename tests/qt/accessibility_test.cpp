@@ -79,6 +79,11 @@ TEST_F(AccessibilityTest, CellsAreReadWithAllThatBelongsToThem) {
     EXPECT_EQ(table->cellAt(0, 1)->text(QAccessible::Name), QStringLiteral("Before Breakfast, 1/1/2026, 12.4, high"));
     EXPECT_EQ(table_->model()->index(0, 2).data(Qt::ToolTipRole).toString(), QStringLiteral("counts as 5"));
     EXPECT_TRUE(table_->model()->index(0, 1).data(Qt::ToolTipRole).toString().isEmpty());
+
+    list().EditCell(0, 1);
+    list().ActiveCell().SelectAll();
+    QTest::keyClicks(editor(), QStringLiteral("1O"));
+    EXPECT_EQ(editor()->accessibleName(), QStringLiteral("Before Breakfast, 1/1/2026, 1O, counts as 1, too low"));
 }
 
 TEST_F(AccessibilityTest, APictureButtonCanBePressedFromOutside) {
