@@ -5,6 +5,7 @@
 #include "diary/day_table.h"
 #include "diary/indicators.h"
 #include "platform/number.h"
+#include "platform/translation.h"
 
 namespace tallyvane::CellWords {
 
@@ -19,17 +20,17 @@ bool isTypedAsNumber(int column) {
 std::string rangeName(Indicators::Range range) {
     switch (range) {
     case Indicators::Range::over:
-        return "too high";
+        return tr("too high");
     case Indicators::Range::caution:
-        return "high";
+        return tr("high");
     case Indicators::Range::inZone:
-        return "in target zone";
+        return tr("in target zone");
     case Indicators::Range::low:
-        return "low";
+        return tr("low");
     case Indicators::Range::under:
         break;
     }
-    return "too low";
+    return tr("too low");
 }
 
 } // namespace
@@ -43,7 +44,7 @@ std::string helpTag(const Listbox& table, int row, int column) {
     if (!isDoubtful(table, row, column))
         return "";
     const double value = Val(table.Cell(row, column));
-    return value != 0 ? "counts as " + Str(value) : "does not count";
+    return value != 0 ? tr("counts as %1", {Str(value)}) : tr("does not count");
 }
 
 std::string spoken(const Listbox& table, int row, int column, const std::string& columnName) {

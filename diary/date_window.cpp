@@ -2,13 +2,14 @@
 
 #include "diary/day_table.h"
 #include "diary/window1.h"
+#include "platform/translation.h"
 
 namespace tallyvane {
 
 DateWindow::DateWindow(Window1& diary) : diary_(diary) {
     shape(Kind::dialog, 289, 186);
     belongTo(&diary);
-    Title("Change Date");
+    Title(tr("Change Date"));
     place({
         {&Canvas1, {14, 14, 64, 64}},
         {&CalendarControl1, {92, 8, 189, 138}},
@@ -16,10 +17,10 @@ DateWindow::DateWindow(Window1& diary) : diary_(diary) {
         {&PushButton1, {200, 152, 80, 26}},
     });
     Canvas1.Backdrop(Picture("7VXiconMed3.png"));
-    CalendarControl1.AccessibleName("New date");
-    PushButton1.Caption("OK");
+    CalendarControl1.AccessibleName(tr("New date"));
+    PushButton1.Caption(tr("OK"));
     PushButton1.Default(true);
-    PushButton2.Caption("Cancel");
+    PushButton2.Caption(tr("Cancel"));
     PushButton2.Cancel(true);
 
     CalendarControl1.Open = [this] { CalendarControl1_Open(); };

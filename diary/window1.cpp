@@ -15,6 +15,7 @@
 #include "platform/system_files.h"
 #include "platform/text_output.h"
 #include "platform/toolkit.h"
+#include "platform/translation.h"
 #include "settings/globals.h"
 
 namespace tallyvane {
@@ -214,12 +215,12 @@ void Window1::AutoButton13_Action() { JournalFld.SelText(Date().AbbreviatedDate(
 
 void Window1::AutoButton14_Action() { PrintLog(JournalFld); }
 
-void Window1::AutoButton15_Action() { SaveJournalToDisk(JournalFld, "Save Journal"); }
+void Window1::AutoButton15_Action() { SaveJournalToDisk(JournalFld, tr("Save Journal")); }
 
 void Window1::PrintLog(const TextArea& field) { printText(field.Text()); }
 
 void Window1::SaveJournalToDisk(const TextArea& field, const std::string& prompt) {
-    saveText(field.Text(), {"Save", prompt, &field == &JournalFld ? "Tallyvane Journal" : "untitled"});
+    saveText(field.Text(), {tr("Save"), prompt, tr(&field == &JournalFld ? "Tallyvane Journal" : "untitled")});
 }
 
 void Window1::Timer1_Action() {
@@ -261,7 +262,7 @@ void Window1::toggleResources() {
 
 void Window1::graphSelectedDays() {
     if (ListBox1.SelectedCount() < 2)
-        MsgBox("Please select 2 or more days to graph.");
+        MsgBox(tr("Please select 2 or more days to graph."));
     else if (showGraph)
         showGraph();
 }

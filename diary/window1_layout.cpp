@@ -3,6 +3,7 @@
 #include "diary/day_table.h"
 #include "diary/indicators.h"
 #include "diary/window1.h"
+#include "platform/translation.h"
 
 namespace tallyvane {
 
@@ -105,8 +106,8 @@ void Window1::build() {
     }
     ListBox1.DefaultRowHeight(DayTable::rowHeight);
     ListBox1.SelectionType(Listbox::SelectionTypes::multiple);
-    ListBox1.AccessibleName("Days");
-    ListBox1.Heading(DayTable::dateColumn, "Date");
+    ListBox1.AccessibleName(tr("Days"));
+    ListBox1.Heading(DayTable::dateColumn, tr("Date"));
     showHeadings(defaultHeadings());
     doColWidth();
 
@@ -120,21 +121,21 @@ void Window1::build() {
     StaticText22.TextColor(Indicators::averageColor);
     StaticText16.TextColor(Indicators::weightColor);
     BevelButton1.Caption("+");
-    BevelButton1.HelpTag("Add a day");
-    BevelButton1.AccessibleName("Add a day");
+    BevelButton1.HelpTag(tr("Add a day"));
+    BevelButton1.AccessibleName(tr("Add a day"));
     BevelButton2.Caption("\u2212");
-    BevelButton2.HelpTag("Remove the selected days");
-    BevelButton2.AccessibleName("Remove the selected days");
+    BevelButton2.HelpTag(tr("Remove the selected days"));
+    BevelButton2.AccessibleName(tr("Remove the selected days"));
 
-    CalendarControl1.AccessibleName("Calendar");
-    TabPanel1.Captions({"Journal"});
-    JournalFld.AccessibleName("Journal");
+    CalendarControl1.AccessibleName(tr("Calendar"));
+    TabPanel1.Captions({tr("Journal")});
+    JournalFld.AccessibleName(tr("Journal"));
     AutoButton13.Backdrop(Picture("calendarpng_32x32.png"));
-    AutoButton13.HelpTag("Add date to journal");
+    AutoButton13.HelpTag(tr("Add date to journal"));
     AutoButton14.Backdrop(Picture("printItem3.png"));
-    AutoButton14.HelpTag("Print journal");
+    AutoButton14.HelpTag(tr("Print journal"));
     AutoButton15.Backdrop(Picture("download_pagepng_32x32.png"));
-    AutoButton15.HelpTag("Save journal");
+    AutoButton15.HelpTag(tr("Save journal"));
     for (AutoButton* button : {&AutoButton13, &AutoButton14, &AutoButton15})
         button->AccessibleName(button->HelpTag());
     JournalFld.SpellChecking(true);

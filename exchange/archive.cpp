@@ -4,6 +4,7 @@
 #include "platform/text.h"
 #include "platform/text_output.h"
 #include "platform/toolkit.h"
+#include "platform/translation.h"
 
 namespace tallyvane {
 
@@ -32,9 +33,9 @@ std::string archiveSelected(const Listbox& days) {
 
 void FileArchiveSelectedDays_Action(const Listbox& days) {
     if (days.SelectedCount() == 0)
-        MsgBox("Please select 2 or more rows to archive");
+        MsgBox(tr("Please select 2 or more rows to archive"));
     else
-        saveText(archiveSelected(days) + EndOfLine, {"Save archive", "Enter name", "untitled"});
+        saveText(archiveSelected(days) + EndOfLine, {tr("Save archive"), tr("Enter name"), tr("untitled")});
 }
 
 } // namespace tallyvane

@@ -3,6 +3,7 @@
 #include "platform/dialogs.h"
 #include "platform/text_decoding.h"
 #include "platform/text_output.h"
+#include "platform/translation.h"
 
 namespace tallyvane {
 
@@ -15,16 +16,16 @@ constexpr unsigned lockCorner = lockRight | lockBottom;
 
 archiveWindow::archiveWindow() {
     shape(Kind::document, 700, 500, {400, anySize, 260, anySize});
-    Title("Tallyvane Archive");
+    Title(tr("Tallyvane Archive"));
     place({
         {&EditField1, {16, 16, 668, 424}, lockAll},
         {&PushButton1, {462, 454, 106, 30}, lockCorner},
         {&PushButton2, {578, 454, 106, 30}, lockCorner},
     });
     EditField1.ReadOnly(true);
-    EditField1.AccessibleName("Archived days");
-    PushButton1.Caption("Print");
-    PushButton2.Caption("OK");
+    EditField1.AccessibleName(tr("Archived days"));
+    PushButton1.Caption(tr("Print"));
+    PushButton2.Caption(tr("OK"));
     PushButton2.Cancel(true); // Escape closes a window that can only be read
     PushButton1.Action = [this] { PushButton1_Action(); };
     PushButton2.Action = [this] { Close(); };
@@ -33,7 +34,7 @@ archiveWindow::archiveWindow() {
 void archiveWindow::PushButton1_Action() { printText(EditField1.Text(), Title()); }
 
 void FileOpenArchivedDays_Action(std::unique_ptr<archiveWindow>& window) {
-    const std::optional<FolderItem> file = OpenDialog{"Select an archive file", "text"}.ShowModal();
+    const std::optional<FolderItem> file = OpenDialog{tr("Select an archive file"), "text"}.ShowModal();
     std::optional<TextInputStream> stream = file ? file->OpenAsTextFile() : std::nullopt;
     if (!stream)
         return;

@@ -3,12 +3,13 @@
 #include "exchange/export_data.h"
 #include "platform/dialogs.h"
 #include "platform/text.h"
+#include "platform/translation.h"
 
 namespace tallyvane {
 
 exportWindow::exportWindow(const Listbox& days) : days_(days) {
     shape(Kind::fixed, 350, 190);
-    Title("Untitled");
+    Title(tr("Untitled"));
     place({
         {&GroupBox1, {16, 12, 318, 116}},
         {&RadioButton1, {32, 50, 290, 28}},
@@ -16,21 +17,21 @@ exportWindow::exportWindow(const Listbox& days) : days_(days) {
         {&PushButton1, {228, 144, 106, 30}},
         {&PushButton2, {112, 144, 106, 30}},
     });
-    GroupBox1.Caption("Export Format");
-    RadioButton1.Caption("CSV (Comma separated)");
-    RadioButton2.Caption("Tab separated");
+    GroupBox1.Caption(tr("Export Format"));
+    RadioButton1.Caption(tr("CSV (Comma separated)"));
+    RadioButton2.Caption(tr("Tab separated"));
     RadioButton::join({&RadioButton1, &RadioButton2});
     RadioButton1.Value(true);
-    PushButton1.Caption("OK");
+    PushButton1.Caption(tr("OK"));
     PushButton1.Default(true);
-    PushButton2.Caption("Cancel");
+    PushButton2.Caption(tr("Cancel"));
     PushButton2.Cancel(true);
     PushButton1.Action = [this] { PushButton1_Action(); };
     PushButton2.Action = [this] { Close(); };
 }
 
 void exportWindow::PushButton1_Action() {
-    const SaveAsDialog dialog{"Save your data", "Enter a filename", "Tallyvane Data"};
+    const SaveAsDialog dialog{tr("Save your data"), tr("Enter a filename"), tr("Tallyvane Data")};
     const std::optional<FolderItem> file = dialog.ShowModal();
     ExportData(days_, RadioButton1.Value() ? "," : Chr(9), file);
     Close();

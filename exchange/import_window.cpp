@@ -2,12 +2,13 @@
 
 #include "platform/dialogs.h"
 #include "platform/text.h"
+#include "platform/translation.h"
 
 namespace tallyvane {
 
 importWindow::importWindow(Listbox& days) : days_(days) {
     shape(Kind::fixed, 400, 220);
-    Title("Untitled");
+    Title(tr("Untitled"));
     place({
         {&StaticText1, {16, 14, 368, 26}},
         {&RadioButton1, {32, 50, 336, 28}},
@@ -17,16 +18,16 @@ importWindow::importWindow(Listbox& days) : days_(days) {
         {&PushButton2, {162, 174, 106, 30}},
         {&Timer1},
     });
-    StaticText1.Text("Select the format of the data to be imported:");
-    RadioButton1.Caption("Comma separted (CSV) data");
-    RadioButton2.Caption("Tab delimited data");
+    StaticText1.Text(tr("Select the format of the data to be imported:"));
+    RadioButton1.Caption(tr("Comma separted (CSV) data"));
+    RadioButton2.Caption(tr("Tab delimited data"));
     RadioButton::join({&RadioButton1, &RadioButton2});
     RadioButton1.Value(true);
-    ProgressBar1.AccessibleName("Progress of the import");
+    ProgressBar1.AccessibleName(tr("Progress of the import"));
     ProgressBar1.Visible(false);
-    PushButton1.Caption("OK");
+    PushButton1.Caption(tr("OK"));
     PushButton1.Default(true);
-    PushButton2.Caption("Cancel");
+    PushButton2.Caption(tr("Cancel"));
     PushButton2.Cancel(true);
     Timer1.Period(1);
     RadioButton1.Action = [this] { RadioButton1_Action(); };
@@ -57,7 +58,7 @@ void importWindow::RadioButton2_Action() {
 void importWindow::PushButton1_Action() {
     constexpr ImportReader::Milliseconds patience(500); // of the user, without seeing progress
     theDelim = theDelim == "comma" ? "," : Chr(9);
-    const OpenDialog dialog{"Select glucose readings data file", "txt,csv"};
+    const OpenDialog dialog{tr("Select glucose readings data file"), "txt,csv"};
     if (const std::optional<FolderItem> file = dialog.ShowModal())
         reader_ = ImportReader::open(*file, theDelim);
     if (reader_)

@@ -1,5 +1,7 @@
 #include "graphwindow/day_graph.h"
 
+#include "platform/translation.h"
+
 namespace tallyvane::DayGraph {
 
 namespace {
@@ -9,7 +11,7 @@ constexpr std::size_t beforeBreakfast = 1;
 
 std::unique_ptr<GTGraph> emptyGraph() {
     auto graph = std::make_unique<GTGraph>();
-    graph->text("Tallyvane\u00ae Graph");
+    graph->text(tr("Tallyvane\u00ae Graph"));
     graph->textColor = RGB(0, 0, 255);
     graph->textFont = "Verdana";
     graph->textSize(14);
@@ -32,7 +34,7 @@ double yMax(const SelectedDays& days) { return days.highestReading() * 1.15; }
 
 /// A title with the days, and a tick at every one; the places on it stand for nothing else.
 void setUpDayAxis(GTAxis& axis, const SelectedDays& days) {
-    axis.text("Date Range: " + days.firstDate() + " - " + days.lastDate());
+    axis.text(tr("Date Range: %1 - %2", {days.firstDate(), days.lastDate()}));
     axis.tickIncrement(1);
     axis.tickLabelsVisible(false);
 }
@@ -40,7 +42,7 @@ void setUpDayAxis(GTAxis& axis, const SelectedDays& days) {
 void setUpAverages(GTSeries& series, const SelectedDays& days) {
     series.PenSize(2);
     setUpDayAxis(series.XAxis(), days);
-    series.YAxis().text("Meter Reading");
+    series.YAxis().text(tr("Meter Reading"));
 }
 
 /// Of the second series, whose days are numbered; of the others nothing shows.
@@ -82,7 +84,7 @@ std::unique_ptr<GTGraph> ofWeights(const SelectedDays& days) {
     days.addByRow(*series, DayTable::weightColumn);
     const Extent weights = days.widened({lowestOfAll, yMax(days)}, DayTable::weightColumn);
     setUpDayAxis(series->XAxis(), days);
-    series->YAxis().text("Weight");
+    series->YAxis().text(tr("Weight"));
     series->SetYRange(weights.low - margin, weights.high + margin);
     graph->addSeries(series);
     return graph;

@@ -1,5 +1,7 @@
 #include "graphwindow/graf_thing_window.h"
 
+#include "platform/translation.h"
+
 namespace tallyvane {
 
 namespace {
@@ -20,7 +22,7 @@ constexpr Rect swatchFrame(std::size_t i) { return {543, boxTops[i] + 5, 11, 10}
 
 GrafThingWindow::GrafThingWindow(const Listbox& days) : days_(days) {
     shape(Kind::document, width, height, {width, anySize, height, anySize});
-    Title("Graph");
+    Title(tr("Graph"));
     layOut();
     build();
     wire();
@@ -51,25 +53,25 @@ void GrafThingWindow::layOut() {
 }
 
 void GrafThingWindow::build() {
-    Canvas1.AccessibleName("Graph of the selected days");
-    GroupBox3.Caption("Test Periods");
+    Canvas1.AccessibleName(tr("Graph of the selected days"));
+    GroupBox3.Caption(tr("Test Periods"));
     for (std::size_t i = 0; i < DayGraph::periods.size(); ++i) {
-        boxes()[i]->Caption(DayGraph::periods[i].caption);
+        boxes()[i]->Caption(tr(DayGraph::periods[i].caption));
         boxes()[i]->TextSize(12);
         swatches()[i]->FillColor(DayGraph::periods[i].color);
     }
     CheckBox13.Value(true);
-    StaticText7.Text("Check Test Periods above to display in graph.");
+    StaticText7.Text(tr("Check Test Periods above to display in graph."));
     StaticText7.Multiline(true);
     StaticText7.TextFont("Lucida Grande");
     StaticText7.TextSize(10);
     Canvas3.Backdrop(Picture("bathroomscale3.png"));
-    Canvas3.HelpTag("Graph weight");
-    StaticText8.Text("Weight");
+    Canvas3.HelpTag(tr("Graph weight"));
+    StaticText8.Text(tr("Weight"));
     StaticText8.Align(TextAlign::center);
     StaticText8.TextSize(11);
     Canvas2.Backdrop(Picture("printItem3.png"));
-    Canvas2.HelpTag("Print graph");
+    Canvas2.HelpTag(tr("Print graph"));
     for (AutoButton* button : {&Canvas2, &Canvas3})
         button->AccessibleName(button->HelpTag());
 }

@@ -3,6 +3,7 @@
 #include "platform/dialogs.h"
 #include "platform/text.h"
 #include "platform/toolkit.h"
+#include "platform/translation.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
 
@@ -43,7 +44,7 @@ std::string inOneLine(std::string_view text) { return Trim(ReplaceLineEndings(te
 
 fileWindow::fileWindow() {
     shape(Kind::document, 330, 420, 260, anySize);
-    Title("Files");
+    Title(tr("Files"));
     place({
         {&StaticText1, {16, 12, 220, 28}},
         {&UtilityButton1, {290, 14, 24, 24}},
@@ -52,7 +53,7 @@ fileWindow::fileWindow() {
         {&BevelButton2, {50, 378, 28, 28}, lockLeft | lockBottom},
         {&PushButton1, {208, 376, 106, 30}, lockLeft | lockBottom},
     });
-    StaticText1.Text("Resource Links:");
+    StaticText1.Text(tr("Resource Links:"));
     ListBox1.ColumnWidths("100%");
     ListBox1.HasHeading(false);
     ListBox1.Border(true);
@@ -60,17 +61,17 @@ fileWindow::fileWindow() {
     ListBox1.AcceptTextDrop();
     ListBox1.DefaultRowHeight(22);
     ListBox1.TextSize(14);
-    ListBox1.AccessibleName("Resources");
+    ListBox1.AccessibleName(tr("Resources"));
     BevelButton1.Caption("+");
-    BevelButton1.HelpTag("Add a file");
+    BevelButton1.HelpTag(tr("Add a file"));
     BevelButton2.Caption("\u2212");
-    BevelButton2.HelpTag("Remove the selected entry");
+    BevelButton2.HelpTag(tr("Remove the selected entry"));
     BevelButton2.Enabled(false);
     UtilityButton1.ButtonType = AutoButton::addButton;
-    UtilityButton1.HelpTag("Add a file");
+    UtilityButton1.HelpTag(tr("Add a file"));
     for (Control* button : std::initializer_list<Control*>{&BevelButton1, &BevelButton2, &UtilityButton1})
         button->AccessibleName(button->HelpTag());
-    PushButton1.Caption("Close");
+    PushButton1.Caption(tr("Close"));
 
     ListBox1.CellBackgroundPaint = [this](Graphics& g, int row, int column) {
         return ListBox1_CellBackgroundPaint(g, row, column);
@@ -159,7 +160,7 @@ void fileWindow::addLink(const std::string& link) {
 }
 
 void fileWindow::BevelButton1_Action() {
-    if (const std::optional<FolderItem> file = OpenDialog{"Select a file"}.ShowModal())
+    if (const std::optional<FolderItem> file = OpenDialog{tr("Select a file")}.ShowModal())
         addFile(*file);
 }
 

@@ -5,6 +5,7 @@
 
 #include "platform/text.h"
 #include "platform/toolkit.h"
+#include "platform/translation.h"
 #include "records/row_file.h"
 #include "reports/listbox_print_all.h"
 #include "settings/data_files.h"
@@ -120,7 +121,7 @@ void InfoWindow::storeDetail(int column, const std::string& text) {
 }
 
 void InfoWindow::BevelButton1_Action() {
-    ListBox1.AddRow("new contact");
+    ListBox1.AddRow(tr("new contact"));
     ListBox1.ListIndex(ListBox1.LastIndex());
     emptyDetails();
     EditField2.SetFocus();
@@ -134,7 +135,7 @@ void InfoWindow::BevelButton2_Action() {
 void InfoWindow::Canvas2_Action() {
     const std::string& address = EditField4.Text();
     if (InStr(address, "@") == 0)
-        MsgBox("Not a valid email address");
+        MsgBox(tr("Not a valid email address"));
     else
         ShowMail(address);
 }
@@ -155,7 +156,7 @@ bool InfoWindow::ListBox2_CellKeyDown(int row, int column, const std::string& ke
 }
 
 void InfoWindow::AutoButton3_Action() {
-    ListBox2.AddRow("medication");
+    ListBox2.AddRow(tr("medication"));
     openWhole(ListBox2, {ListBox2.LastIndex(), 0});
 }
 

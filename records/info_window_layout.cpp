@@ -1,5 +1,7 @@
 #include "records/info_window.h"
 
+#include "platform/translation.h"
+
 #include <array>
 
 namespace tallyvane {
@@ -14,7 +16,7 @@ constexpr int rowHeight = 22;
 
 InfoWindow::InfoWindow() {
     shape(Kind::fixed, 700, 480);
-    Title("Information");
+    Title(tr("Information"));
     layOut();
     build();
     wire();
@@ -44,18 +46,18 @@ void InfoWindow::layOut() {
 }
 
 void InfoWindow::build() {
-    TabPanel1.Captions({"Support Team Contacts", "Medication Schedule"});
+    TabPanel1.Captions({tr("Support Team Contacts"), tr("Medication Schedule")});
     ListBox1.ColumnWidths("100%");
-    ListBox1.Heading(0, "Role");
+    ListBox1.Heading(0, tr("Role"));
     ListBox1.ColumnType(0, Listbox::TypeEditable);
-    ListBox1.AccessibleName("Contacts");
+    ListBox1.AccessibleName(tr("Contacts"));
     for (const char* role : {"Primary Care Provider (Doctor)", "Dietician", "Diabetes Nurse"})
-        ListBox1.AddRow(role);
+        ListBox1.AddRow(tr(role));
     ListBox2.ColumnWidths("30%,20%,50%");
-    ListBox2.AccessibleName("Medications");
+    ListBox2.AccessibleName(tr("Medications"));
     const std::array<const char*, 3> headings{"Medication", "Dosage", "Schedule"};
     for (int column = 0; column < 3; ++column) {
-        ListBox2.Heading(column, headings[static_cast<std::size_t>(column)]);
+        ListBox2.Heading(column, tr(headings[static_cast<std::size_t>(column)]));
         ListBox2.ColumnType(column, Listbox::TypeEditable);
     }
     for (Listbox* list : {&ListBox1, &ListBox2}) {
@@ -65,35 +67,35 @@ void InfoWindow::build() {
     }
 
     BevelButton1.Caption("+");
-    BevelButton1.HelpTag("Add a contact");
+    BevelButton1.HelpTag(tr("Add a contact"));
     BevelButton2.Caption("\u2212");
-    BevelButton2.HelpTag("Remove the selected contact");
+    BevelButton2.HelpTag(tr("Remove the selected contact"));
     for (BevelButton* button : {&BevelButton1, &BevelButton2})
         button->AccessibleName(button->HelpTag());
-    StaticText1.Text("Name");
-    StaticText2.Text("Phone");
-    StaticText3.Text("Email");
-    StaticText4.Text("Address");
+    StaticText1.Text(tr("Name"));
+    StaticText2.Text(tr("Phone"));
+    StaticText3.Text(tr("Email"));
+    StaticText4.Text(tr("Address"));
     for (StaticText* label : {&StaticText1, &StaticText2, &StaticText3, &StaticText4})
         label->Align(TextAlign::right);
-    EditField2.AccessibleName("Name");
-    EditField3.AccessibleName("Phone");
-    EditField4.AccessibleName("Email");
-    EditField5.AccessibleName("Address");
+    EditField2.AccessibleName(tr("Name"));
+    EditField3.AccessibleName(tr("Phone"));
+    EditField4.AccessibleName(tr("Email"));
+    EditField5.AccessibleName(tr("Address"));
     enableDetails(false);
 
     Canvas2.Backdrop(Picture("emailpng_24x24.png"));
-    Canvas2.HelpTag("Send e-mail");
+    Canvas2.HelpTag(tr("Send e-mail"));
     AutoButton3.ButtonType = AutoButton::addButton;
-    AutoButton3.HelpTag("Add a medication");
+    AutoButton3.HelpTag(tr("Add a medication"));
     AutoButton4.ButtonType = AutoButton::removeButton;
-    AutoButton4.HelpTag("Remove the selected medication");
+    AutoButton4.HelpTag(tr("Remove the selected medication"));
     AutoButton4.Enabled(false);
     Canvas1.Backdrop(Picture("printItem3.png"));
-    Canvas1.HelpTag("Print the medications");
+    Canvas1.HelpTag(tr("Print the medications"));
     for (AutoButton* button : {&Canvas2, &AutoButton3, &AutoButton4, &Canvas1})
         button->AccessibleName(button->HelpTag());
-    PushButton1.Caption("OK");
+    PushButton1.Caption(tr("OK"));
 }
 
 void InfoWindow::wire() {

@@ -1,6 +1,7 @@
 #include "records/logs_window.h"
 
 #include "platform/text_output.h"
+#include "platform/translation.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
 #include "settings/log_record.h"
@@ -16,7 +17,7 @@ constexpr Rect fieldFrame{30, 108, 560, 330};
 
 logsWindow::logsWindow() {
     shape(Kind::document, 620, 510, 330, anySize);
-    Title("Logs");
+    Title(tr("Logs"));
     place({
         {&AutoButton1, {18, 14, 32, 32}},
         {&AutoButton2, {62, 14, 32, 32}},
@@ -28,19 +29,19 @@ logsWindow::logsWindow() {
         {&PushButton1, {498, 466, 106, 30}, lockLeft | lockBottom},
     });
     AutoButton1.Backdrop(Picture("calendarpng_32x32.png"));
-    AutoButton1.HelpTag("Add date to log");
+    AutoButton1.HelpTag(tr("Add date to log"));
     AutoButton2.Backdrop(Picture("printItem3.png"));
-    AutoButton2.HelpTag("Print log");
+    AutoButton2.HelpTag(tr("Print log"));
     AutoButton3.Backdrop(Picture("download_pagepng_32x32.png"));
-    AutoButton3.HelpTag("Save log");
+    AutoButton3.HelpTag(tr("Save log"));
     for (AutoButton* button : {&AutoButton1, &AutoButton2, &AutoButton3})
         button->AccessibleName(button->HelpTag());
-    TabPanel1.Captions({"Food", "Exercise", "Medication"});
+    TabPanel1.Captions({tr("Food"), tr("Exercise"), tr("Medication")});
     for (const Page& page : pages()) {
         page.field->AccessibleName(page.fileName);
         page.field->TextChange = [page] { *page.log = page.field->Text(); };
     }
-    PushButton1.Caption("OK");
+    PushButton1.Caption(tr("OK"));
 
     AutoButton1.Action = [this] { AutoButton1_Action(); };
     AutoButton2.Action = [this] { AutoButton2_Action(); };
@@ -50,9 +51,9 @@ logsWindow::logsWindow() {
 
 std::array<logsWindow::Page, 3> logsWindow::pages() {
     return {{
-        {&FoodFld, &Globals::gFood, "Tallyvane Food Log", "Save Food Log"},
-        {&ExerciseFld, &Globals::gExercise, "Tallyvane Exercise Log", "Save Exercise Log"},
-        {&MedicationFld, &Globals::gMedication, "Tallyvane Medication Log", "Save Medical Log"},
+        {&FoodFld, &Globals::gFood, tr("Tallyvane Food Log"), tr("Save Food Log")},
+        {&ExerciseFld, &Globals::gExercise, tr("Tallyvane Exercise Log"), tr("Save Exercise Log")},
+        {&MedicationFld, &Globals::gMedication, tr("Tallyvane Medication Log"), tr("Save Medical Log")},
     }};
 }
 
@@ -81,7 +82,7 @@ void logsWindow::saveLogs() {
 void logsWindow::saveToDisk(const TextArea& field, const std::string& prompt) {
     for (const Page& candidate : pages())
         if (candidate.field == &field)
-            saveText(field.Text(), {"Save", prompt, candidate.fileName});
+            saveText(field.Text(), {tr("Save"), prompt, candidate.fileName});
 }
 
 void logsWindow::printLog(const TextArea& field) { printText(field.Text()); }

@@ -37,8 +37,8 @@ private:
     struct Page {
         TextArea* field;
         std::string* log;
-        const char* fileName; // suggested for saving
-        const char* prompt;
+        std::string fileName; // suggested for saving
+        std::string prompt;
     };
     std::array<Page, 3> pages();
     Page page() { return pages().at(static_cast<std::size_t>(TabPanel1.Value())); }

@@ -4,6 +4,7 @@
 
 #include "platform/text.h"
 #include "platform/toolkit.h"
+#include "platform/translation.h"
 #include "settings/globals.h"
 
 namespace tallyvane {
@@ -33,7 +34,7 @@ void DiaryReport::PrintAll(PrintTarget target) {
     if (!g)
         return;
     const bool isTall = Globals::ps->Height() > lowestTallPage;
-    print(*g, "Tallyvane Report", isTall ? heightOnTallPage : heightOnLowPage, Days::all);
+    print(*g, tr("Tallyvane Report"), isTall ? heightOnTallPage : heightOnLowPage, Days::all);
 }
 
 void DiaryReport::FilePrint_Action() { PrintAll(); }
@@ -42,12 +43,12 @@ bool DiaryReport::FilePrintSelected_Action() {
     const std::unique_ptr<Graphics> g = OpenPrinterDialog(Globals::ps.get());
     if (!g)
         return true;
-    print(*g, "Marklog Report", heightOnTallPage, Days::selected);
+    print(*g, tr("Marklog Report"), heightOnTallPage, Days::selected);
     return false;
 }
 
 void DiaryReport::FileSaveAsPDF_Action() {
-    MsgBox("In the dialog that follows select 'Save as PDF...' from the PDF button menu.");
+    MsgBox(tr("In the dialog that follows select 'Save as PDF...' from the PDF button menu."));
     PrintAll(PrintTarget::pdf);
 }
 
@@ -66,7 +67,7 @@ ReportPage::Cells DiaryReport::cellsOf(int row) const {
 
 ReportPage::Cells DiaryReport::averages() const {
     const Window1& d = diary_;
-    return {"Averages: ",         d.StaticText1.Text(),  d.StaticText2.Text(),
+    return {tr("Averages: "),     d.StaticText1.Text(),  d.StaticText2.Text(),
             d.StaticText3.Text(), d.StaticText4.Text(),  d.StaticText5.Text(),
             d.StaticText6.Text(), d.StaticText23.Text(), d.StaticText22.Text()};
 }
@@ -96,7 +97,7 @@ void DiaryReport::printDetails(ReportPage& page, const Graphics& g) {
     if (Globals::gIncludeMeds) {
         page.makeRoom(diary_.medLines);
         if (!diary_.theMeds.empty())
-            page.drawDetail("Medication: ", diary_.theMeds, diary_.medLines - 1);
+            page.drawDetail(tr("Medication: "), diary_.theMeds, diary_.medLines - 1);
     }
     const auto printEstimated = [&](bool included, const std::string& label, const std::string& text) {
         page.makeRoom(0);
@@ -107,8 +108,8 @@ void DiaryReport::printDetails(ReportPage& page, const Graphics& g) {
         if (!text.empty())
             page.drawDetail(label, text, lines);
     };
-    printEstimated(Globals::gIncludeExercise, "Exercise: ", diary_.theExercises);
-    printEstimated(Globals::gIncludeFood, "Food: ", diary_.theFoods);
+    printEstimated(Globals::gIncludeExercise, tr("Exercise: "), diary_.theExercises);
+    printEstimated(Globals::gIncludeFood, tr("Food: "), diary_.theFoods);
     page.makeRoom(0);
 }
 

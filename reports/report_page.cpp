@@ -1,5 +1,6 @@
 #include "reports/report_page.h"
 
+#include "platform/translation.h"
 #include "platform/wrapped_text.h"
 
 namespace tallyvane {
@@ -37,16 +38,16 @@ void ReportPage::drawHead(const std::string& title) {
 
     g_.ForeColor(headingColor);
     const double meals = headingsTop + g_.TextHeight();
-    g_.DrawString("BREAKFAST", 155, meals);
-    g_.DrawString("LUNCH", 270, meals);
-    g_.DrawString("SUPPER", 370, meals);
+    g_.DrawString(tr("BREAKFAST"), 155, meals);
+    g_.DrawString(tr("LUNCH"), 270, meals);
+    g_.DrawString(tr("SUPPER"), 370, meals);
 
     constexpr std::array<const char*, columns> headings{"Date",   "Before", "After", "Before", "After",
                                                         "Before", "After",  "Bed",   "Av."};
     line_ = 2;
     g_.Underline(true);
     for (std::size_t column = 0; column < columns; ++column)
-        g_.DrawString(headings[column], columnLefts[column], headingsTop + g_.TextHeight() * line_);
+        g_.DrawString(tr(headings[column]), columnLefts[column], headingsTop + g_.TextHeight() * line_);
     g_.Underline(false);
     g_.ForeColor(black);
 }

@@ -1,5 +1,7 @@
 #include "settings/edit_headings.h"
 
+#include "platform/translation.h"
+
 namespace tallyvane {
 
 namespace {
@@ -26,7 +28,7 @@ void paintBar(Graphics& g) {
 
 EditHeadings::EditHeadings() {
     shape(Kind::fixed, windowWidth, 220);
-    Title("Headings Editor");
+    Title(tr("Headings Editor"));
     place({
         {&StaticText1, {fieldLeft, 16, windowWidth - 32, 24}},
         {&TextField1, groupField(1, 2)},
@@ -48,16 +50,17 @@ EditHeadings::EditHeadings() {
         {&PushButton2, {windowWidth - 232, 176, 100, 30}},
         {&PushButton3, {fieldLeft, 176, 230, 30}},
     });
-    StaticText1.Text("Enter your custom headings in the boxes below then click the Apply button.");
+    StaticText1.Text(tr("Enter your custom headings in the boxes below then click the Apply button."));
     Canvas1.Paint = paintBar;
-    fill(defaultHeadings());
+    const Headings headings = defaultHeadings();
+    fill(headings);
     for (std::size_t i = 0; i < fields().size(); ++i)
-        fields()[i]->AccessibleName((i < headingGroups ? "Group: " : "Column: ") + defaultHeadings()[i]);
-    PushButton1.Caption("Apply");
+        fields()[i]->AccessibleName(tr(i < headingGroups ? "Group: %1" : "Column: %1", {headings[i]}));
+    PushButton1.Caption(tr("Apply"));
     PushButton1.Default(true);
-    PushButton2.Caption("Cancel");
+    PushButton2.Caption(tr("Cancel"));
     PushButton2.Cancel(true);
-    PushButton3.Caption("Restore Default Headings");
+    PushButton3.Caption(tr("Restore Default Headings"));
     PushButton1.Action = [this] { PushButton1_Action(); };
     PushButton2.Action = [this] { PushButton2_Action(); };
     PushButton3.Action = [this] { PushButton3_Action(); };

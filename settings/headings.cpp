@@ -1,13 +1,13 @@
 #include "settings/headings.h"
 
+#include "platform/translation.h"
 #include "settings/data_files.h"
 
 namespace tallyvane {
 
-const Headings& defaultHeadings() {
-    static const Headings headings{"Breakfast", "Lunch",  "Supper", "Weight",     "Before",  "After", "Before",
-                                   "After",     "Before", "After",  "Before Bed", "Average", "Weight"};
-    return headings;
+Headings defaultHeadings() {
+    return {tr("Breakfast"), tr("Lunch"),  tr("Supper"), tr("Weight"),     tr("Before"),  tr("After"), tr("Before"),
+            tr("After"),     tr("Before"), tr("After"),  tr("Before Bed"), tr("Average"), tr("Weight")};
 }
 
 std::optional<Headings> readHeadings() {

@@ -12,7 +12,7 @@ inline constexpr std::size_t headingGroups = 4;
 /// Those of the groups, then those of the columns 1 to 9.
 using Headings = std::array<std::string, 13>;
 
-const Headings& defaultHeadings();
+Headings defaultHeadings();
 /// The headings as they were saved; a file that is too short gives empty ones for the rest. Nothing without a file.
 [[nodiscard]] std::optional<Headings> readHeadings();
 /// Writes the file, a heading a line. Nothing when it can't be had; throws IOException when the disk fails.

@@ -3,6 +3,7 @@
 #include "platform/number.h"
 #include "platform/text.h"
 #include "platform/toolkit.h"
+#include "platform/translation.h"
 #include "settings/globals.h"
 #include "settings/prefs_module.h"
 
@@ -21,7 +22,7 @@ constexpr Rect limitField(int limit) { return {240, zoneTop(limit) + 27, 90, 28}
 
 PrefsWindow::PrefsWindow() {
     shape(Kind::fixed, 440, 500);
-    Title("Preferences");
+    Title(tr("Preferences"));
     place({
         {&TabPanel1, {12, 12, 416, 436}},
         {&StaticText1, {28, 50, 384, 40}, lockLeft | lockTop, &TabPanel1, 0},
@@ -49,14 +50,14 @@ PrefsWindow::PrefsWindow() {
 }
 
 void PrefsWindow::build() {
-    TabPanel1.Captions({"Test Result Indicators"});
-    StaticText1.Text("Enter the limits for each blood glucose level. You can use either mmol/L or mg/dL");
+    TabPanel1.Captions({tr("Test Result Indicators")});
+    StaticText1.Text(tr("Enter the limits for each blood glucose level. You can use either mmol/L or mg/dL"));
     StaticText1.Multiline(true);
-    CheckBox1.Caption("Show Indicator Lights");
+    CheckBox1.Caption(tr("Show Indicator Lights"));
     const std::array<Canvas*, 5> marks{&Canvas1, &Canvas2, &Canvas3, &Canvas4, &Canvas5};
     const std::array<StaticText*, 5> names{&StaticText2, &StaticText3, &StaticText4, &StaticText5, &StaticText6};
     const std::array<const char*, 5> pictures{"over2.tiff", "caution2.tiff", "zone2.tiff", "low3.tiff", "under3.tiff"};
-    const std::array<const char*, 5> zones{"Too High", "High", "Target Zone", "Low", "Too Low"};
+    const std::array<std::string, 5> zones{tr("Too High"), tr("High"), tr("Target Zone"), tr("Low"), tr("Too Low")};
     for (std::size_t i = 0; i < zones.size(); ++i) {
         marks[i]->Backdrop(Picture(pictures[i]));
         names[i]->Text(zones[i]);
@@ -64,11 +65,11 @@ void PrefsWindow::build() {
     const std::array<const char*, 4> built{"13.0", "9.0", "5.0", "3.0"};
     for (std::size_t i = 0; i < built.size(); ++i) {
         fields()[i]->Text(built[i]);
-        fields()[i]->AccessibleName(std::string("Limit between ") + zones[i] + " and " + zones[i + 1]);
+        fields()[i]->AccessibleName(tr("Limit between %1 and %2", {zones[i], zones[i + 1]}));
     }
-    StaticText7.Text("mmol/L or mg/dL");
+    StaticText7.Text(tr("mmol/L or mg/dL"));
     StaticText7.Align(TextAlign::center);
-    PushButton1.Caption("OK");
+    PushButton1.Caption(tr("OK"));
     PushButton1.Default(true);
     Timer1.Period(100);
 }

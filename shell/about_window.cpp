@@ -1,5 +1,7 @@
 #include "shell/about_window.h"
 
+#include "platform/translation.h"
+
 namespace tallyvane {
 
 AboutWindow::AboutWindow() {
@@ -17,9 +19,9 @@ AboutWindow::AboutWindow() {
     StaticText1.TextSize(22);
     StaticText1.Bold(true);
     StaticText2.Text("v" TALLYVANE_VERSION);
-    StaticText3.Text("Made by the Tallyvane team");
+    StaticText3.Text(tr("Made by the Tallyvane team"));
 }
 
-void AboutWindow::Event_Open() { Title("About Tallyvane"); }
+void AboutWindow::Event_Open() { Title(tr("About Tallyvane")); }
 
 } // namespace tallyvane

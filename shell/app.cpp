@@ -5,6 +5,7 @@
 #include "charting/gt_graph.h"
 #include "exchange/archive.h"
 #include "platform/toolkit.h"
+#include "platform/translation.h"
 #include "reports/diary_report.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
@@ -94,8 +95,8 @@ void App::giveWay() {
 
 void App::bringUpMainWindow() {
     if (!claim(StartupGlobals::gDataFolder)) {
-        MsgBox("The days in \u201c" + StartupGlobals::gDataFolder->AbsolutePath() +
-               "\u201d are open in another Tallyvane. Close that one first, then start again.");
+        MsgBox(tr("The days in \u201c%1\u201d are open in another Tallyvane. Close that one first, then start again.",
+                  {StartupGlobals::gDataFolder->AbsolutePath()}));
         giveWay();
         return;
     }
@@ -148,9 +149,9 @@ void App::tellMissingDataFolder() {
     const std::string& missing = StartupGlobals::gMissingDataFolder;
     if (missing.empty() || !StartupGlobals::gDataFolder)
         return;
-    MsgBox("The folder with your days is not there: \u201c" + missing +
-           "\u201d. Until it is back, your days are kept in \u201c" + StartupGlobals::gDataFolder->AbsolutePath() +
-           "\u201d.");
+    MsgBox(tr("The folder with your days is not there: \u201c%1\u201d. Until it is back, your days are kept in "
+              "\u201c%2\u201d.",
+              {missing, StartupGlobals::gDataFolder->AbsolutePath()}));
 }
 
 /// The offer belongs to the main window, and waits until that is there.
@@ -194,7 +195,7 @@ bool App::Event_UnhandledException() {
     // Going to another program to make room for the diary saves again, and may fail again: one message is enough.
     if (std::exchange(showingException_, true))
         return false;
-    MsgBox("An error has occured. You should quit Tallyvane now to save your data.");
+    MsgBox(tr("An error has occured. You should quit Tallyvane now to save your data."));
     showingException_ = false;
     return false;
 }

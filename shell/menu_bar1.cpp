@@ -1,5 +1,7 @@
 #include "shell/menu_bar1.h"
 
+#include "platform/translation.h"
+
 namespace tallyvane {
 
 namespace {
@@ -9,46 +11,46 @@ constexpr bool manual = false;
 
 Menu editMenu() {
     return {"EditMenu",
-            "&Edit",
+            tr("&Edit"),
             {
-                {"EditUndo", "&Undo", "Cmd+Z", MenuRole::undo},
+                {"EditUndo", tr("&Undo"), "Cmd+Z", MenuRole::undo},
                 {"UntitledMenu1", ""},
-                {"EditCut", "Cu&t", "Cmd+X", MenuRole::cut},
-                {"EditCopy", "&Copy", "Cmd+C", MenuRole::copy},
-                {"EditPaste", "&Paste", "Cmd+V", MenuRole::paste},
-                {"EditClear", "&Delete", "", MenuRole::clear},
+                {"EditCut", tr("Cu&t"), "Cmd+X", MenuRole::cut},
+                {"EditCopy", tr("&Copy"), "Cmd+C", MenuRole::copy},
+                {"EditPaste", tr("&Paste"), "Cmd+V", MenuRole::paste},
+                {"EditClear", tr("&Delete"), "", MenuRole::clear},
                 {"UntitledMenu0", ""},
-                {"EditSelectAll", "Select &All", "Cmd+A", MenuRole::selectAll},
+                {"EditSelectAll", tr("Select &All"), "Cmd+A", MenuRole::selectAll},
             }};
 }
 
 Menu fileMenu() {
     return {"FileMenu",
-            "&File",
+            tr("&File"),
             {
-                {"FileQuit", "Quit", "Cmd+Q", MenuRole::quit},
-                {"FileImportData", "Import Data...", "", MenuRole::none, manual},
-                {"FileExportData", "Export Data..."},
+                {"FileQuit", tr("Quit"), "Cmd+Q", MenuRole::quit},
+                {"FileImportData", tr("Import Data..."), "", MenuRole::none, manual},
+                {"FileExportData", tr("Export Data...")},
                 {"File", ""},
-                {"FileSaveAsPDF", "Save As PDF...", "Cmd+S", MenuRole::none, manual},
+                {"FileSaveAsPDF", tr("Save As PDF..."), "Cmd+S", MenuRole::none, manual},
                 {"UntitledSeparator", ""},
-                {"FileArchiveSelectedDays", "Archive Selected Days...", "", MenuRole::none, manual},
-                {"FileOpenArchivedDays", "Open Archived Days...", "", MenuRole::none, manual},
+                {"FileArchiveSelectedDays", tr("Archive Selected Days..."), "", MenuRole::none, manual},
+                {"FileOpenArchivedDays", tr("Open Archived Days..."), "", MenuRole::none, manual},
                 {"UntitledItem1", ""},
-                {"FilePrintSetup", "Print Setup...", "Cmd+Shift+P"},
-                {"FilePrint", "Print All...", "Cmd+P"},
-                {"FilePrintSelected", "Print Selected...", "", MenuRole::none, manual},
-                {"FileAboutBrindlemarks", "About Tallyvane", "", MenuRole::about},
-                {"FilePreferences", "Preferences", "Cmd+,", MenuRole::preferences},
+                {"FilePrintSetup", tr("Print Setup..."), "Cmd+Shift+P"},
+                {"FilePrint", tr("Print All..."), "Cmd+P"},
+                {"FilePrintSelected", tr("Print Selected..."), "", MenuRole::none, manual},
+                {"FileAboutBrindlemarks", tr("About Tallyvane"), "", MenuRole::about},
+                {"FilePreferences", tr("Preferences"), "Cmd+,", MenuRole::preferences},
             }};
 }
 
 Menu helpMenu() {
     return {"HelpMenu",
-            "Help",
+            tr("Help"),
             {
-                {"HelpUsersGuide", "User's Guide", "Cmd+?"},
-                {"HelpSupportForum", "Support"},
+                {"HelpUsersGuide", tr("User's Guide"), "Cmd+?"},
+                {"HelpSupportForum", tr("Support")},
             }};
 }
 

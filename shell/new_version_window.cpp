@@ -1,6 +1,7 @@
 #include "shell/new_version_window.h"
 
 #include "platform/toolkit.h"
+#include "platform/translation.h"
 
 namespace tallyvane {
 
@@ -13,10 +14,10 @@ newVersionWindow::newVersionWindow(Window& owner, const std::string& appName) {
         {&PushButton1, {310, 104, 150, 30}},
         {&PushButton2, {150, 104, 150, 30}},
     });
-    StaticText1.Text("There is a newer version of " + appName + " available. Would you like to download it now?");
+    StaticText1.Text(tr("There is a newer version of %1 available. Would you like to download it now?", {appName}));
     StaticText1.Multiline(true);
-    PushButton1.Caption("Download Now");
-    PushButton2.Caption("Download Later"); // Return presses neither: the offer can come while somebody types
+    PushButton1.Caption(tr("Download Now"));
+    PushButton2.Caption(tr("Download Later")); // Return presses neither: the offer can come while somebody types
     PushButton2.Cancel(true);
     PushButton1.Action = [this] { PushButton1_Action(); };
     PushButton2.Action = [this] { Close(); };

@@ -1,5 +1,7 @@
 #include "shell/splash_window.h"
 
+#include "platform/translation.h"
+
 namespace tallyvane {
 
 SplashWindow::SplashWindow() {
@@ -15,8 +17,8 @@ SplashWindow::SplashWindow() {
     Canvas1.Backdrop(Picture("vaneLogo128.png"));
     AppNameLabel.TextSize(28);
     AppNameLabel.Bold(true);
-    StaticText1.Text("Made by the Tallyvane team");
-    StaticText11.Text("Checking for newer version...");
+    StaticText1.Text(tr("Made by the Tallyvane team"));
+    StaticText11.Text(tr("Checking for newer version..."));
     Timer1.Period(1000);
     Timer1.Mode(Timer::ModeSingle);
     Timer1.Action = [this] { Timer1_Action(); };

@@ -17,6 +17,7 @@
 #include "platform/qt/print_job.h"
 #include "platform/qt/qt_bitmap.h"
 #include "platform/qt/window_peer.h"
+#include "platform/translation.h"
 
 namespace tallyvane {
 
@@ -40,7 +41,7 @@ std::string chosenPath(QFileDialog& dialog) {
 }
 
 QStringList nameFilters(const std::string& endings) {
-    const QString all = QStringLiteral("All files (*)");
+    const QString all = toQt(tr("All files (*)"));
     if (endings == "all" || endings == "text")
         return {all};
     QStringList patterns;
@@ -114,7 +115,7 @@ std::unique_ptr<Graphics> QtToolkit::openPrinterDialog(const Paper* paper, int r
         printer->setPageLayout(chosen->layout());
     if (target == PrintTarget::pdf) {
         printer->setOutputFormat(QPrinter::PdfFormat);
-        printer->setOutputFileName(QDir::home().filePath(QStringLiteral("Tallyvane Report.pdf")));
+        printer->setOutputFileName(QDir::home().filePath(toQt(tr("Tallyvane Report")) + QStringLiteral(".pdf")));
     }
     QPrintDialog dialog(printer.get()); // of no window, which might go while the dialog is open
     if (dialog.exec() != QDialog::Accepted)

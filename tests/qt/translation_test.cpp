@@ -1,0 +1,80 @@
+#include <QAbstractButton>
+#include <QCalendarWidget>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QTabBar>
+
+#include "qt/qt_desk.h"
+#include "support/pseudo_locale.h"
+
+namespace tallyvane {
+
+namespace {
+
+/// Every text on and behind a widget: what it shows, what its tool tip says and what a screen reader says.
+QStringList textsOf(const QWidget* widget) {
+    QStringList texts{widget->toolTip(), widget->accessibleName()};
+    if (widget->isWindow())
+        texts << widget->windowTitle();
+    if (const auto* label = qobject_cast<const QLabel*>(widget))
+        texts << label->text();
+    if (const auto* button = qobject_cast<const QAbstractButton*>(widget))
+        texts << button->text();
+    if (const auto* box = qobject_cast<const QGroupBox*>(widget))
+        texts << box->title();
+    if (const auto* tabs = qobject_cast<const QTabBar*>(widget))
+        for (int i = 0; i < tabs->count(); ++i)
+            texts << tabs->tabText(i);
+    if (const auto* head = qobject_cast<const QHeaderView*>(widget); head && head->orientation() == Qt::Horizontal)
+        for (int i = 0; i < head->count(); ++i)
+            texts << head->model()->headerData(i, Qt::Horizontal).toString();
+    for (const QAction* action : widget->actions())
+        texts << action->text();
+    return texts;
+}
+
+/// Days and months in a calendar, and the arrows beside tabs.
+bool bringsTextsOfQt(const QWidget* widget) {
+    for (const QWidget* parent = widget->parentWidget(); parent != nullptr; parent = parent->parentWidget())
+        if (qobject_cast<const QCalendarWidget*>(parent) || qobject_cast<const QTabBar*>(parent))
+            return true;
+    return false;
+}
+
+class TranslationTest : public QtDesk {
+protected:
+    PseudoLocale pseudo_;
+};
+
+TEST_F(TranslationTest, EveryTextOfEveryWindowCameOutOfTheLookup) {
+    write(applicationFile("7VXData"), "1/1/2026@#@5\n1/2/2026@#@7\n");
+    start();
+    list().select({true, true});
+    const Window1& window = *app_->window1();
+    app_->FilePreferences_Action();
+    app_->FileExportData_Action();
+    app_->FileImportData_Action();
+    app_->FileAboutBrindlemarks_Action();
+    for (const auto& show : {window.showHeadingsEditor, window.showLogs, window.showTeamAndMedications,
+                             window.showResources, window.showGraph})
+        show();
+    int windows = 0;
+    for (QWidget* frame : QApplication::topLevelWidgets()) {
+        if (dynamic_cast<WindowFrame*>(frame) == nullptr)
+            continue;
+        ++windows;
+        QList<QWidget*> widgets = frame->findChildren<QWidget*>();
+        widgets << frame;
+        for (const QWidget* widget : widgets)
+            for (const QString& text : bringsTextsOfQt(widget) ? QStringList() : textsOf(widget))
+                if (text != QStringLiteral("Tallyvane"))
+                    EXPECT_EQ(PseudoLocale::untranslated(fromQt(text)), "") << fromQt(frame->windowTitle());
+    }
+    EXPECT_GE(windows, 10);
+    EXPECT_NE(frameTitled(QStringLiteral("{Graph}")), nullptr);
+}
+
+} // namespace
+
+} // namespace tallyvane
