@@ -1,7 +1,5 @@
 #include "diary/cell_words.h"
 
-#include <algorithm>
-
 #include "diary/day_table.h"
 #include "diary/indicators.h"
 #include "platform/number.h"
@@ -10,8 +8,6 @@
 namespace tallyvane::CellWords {
 
 namespace {
-
-constexpr Color markColor = RGB(178, 24, 24);
 
 bool isTypedAsNumber(int column) {
     return (column >= DayTable::firstReading && column <= DayTable::lastReading) || column == DayTable::weightColumn;
@@ -58,21 +54,6 @@ std::string spoken(const Listbox& table, int row, int column, const std::string&
     if (const std::optional<Indicators::Range> range = Indicators::rangeOf(table, row, column))
         say(rangeName(*range));
     return words;
-}
-
-void underline(Graphics& g, const Listbox& table, int row, int column, double margin) {
-    if (!isDoubtful(table, row, column))
-        return;
-    constexpr double step = 2; // from dot to dot
-    const Color before = g.ForeColor();
-    g.ForeColor(markColor);
-    g.TextFont(table.TextFont());
-    g.TextSize(table.TextSize());
-    const double right = g.Width() - margin;
-    const double left = std::max(margin, right - g.StringWidth(table.Cell(row, column)));
-    for (double x = left; x < right; x += step)
-        g.FillRect(x, g.Height() - 2, 1, 1);
-    g.ForeColor(before);
 }
 
 } // namespace tallyvane::CellWords

@@ -17,8 +17,4 @@ std::string helpTag(const Listbox& table, int row, int column);
 /// A cell as it is read aloud, by the name of its column: "After Lunch, 11/22/2026, 12.4, high".
 std::string spoken(const Listbox& table, int row, int column, const std::string& columnName);
 
-/// A dotted line under a doubtful text, on the surface of its cell; `margin` points lie between the text and the
-/// cell's right edge.
-void underline(Graphics& g, const Listbox& table, int row, int column, double margin);
-
 } // namespace tallyvane::CellWords

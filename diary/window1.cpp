@@ -172,8 +172,7 @@ bool Window1::ListBox1_CellBackgroundPaint(Graphics& g, int row, int column) {
     return false;
 }
 
-bool Window1::ListBox1_CellTextPaint(Graphics& g, int row, int column, int x, int /*y*/) {
-    CellWords::underline(g, ListBox1, row, column, x);
+bool Window1::ListBox1_CellTextPaint(Graphics& g, int /*row*/, int column, int /*x*/, int /*y*/) {
     Indicators::colorText(g, column);
     return false;
 }

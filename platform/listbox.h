@@ -182,7 +182,7 @@ public:
     std::function<void(const DragItem& item)> DropObject;
     /// What is read aloud for a cell; without it heading, first cell and text.
     std::function<std::string(int row, int column)> CellDescription;
-    /// The line that shows while the pointer rests on a cell; "" for none.
+    /// The line that shows while the pointer rests on a cell; "" for none. A text with such a line has dots under it.
     std::function<std::string(int row, int column)> CellHelpTag;
     /// Paints below the text of a cell; the surface is the cell. Also called for rows that do not exist.
     std::function<bool(Graphics& g, int row, int column)> CellBackgroundPaint;

@@ -38,7 +38,7 @@ bool hasAnswered(const QNetworkReply& reply) {
 } // namespace
 
 HttpDownload::HttpDownload(QNetworkAccessManager& network, const std::string& address, std::string path,
-                           std::function<void(int status)> done)
+                           std::function<void(int status)> done, std::chrono::milliseconds timeLimit)
     : path_(std::move(path)), done_(std::move(done)), reply_(network.get(requestFor(address))) {
     reply_->setReadBufferSize(mostBytes);
     QObject::connect(reply_, &QNetworkReply::readyRead, &timeLimit_, [this] { takeBytes(); });
@@ -51,7 +51,7 @@ HttpDownload::HttpDownload(QNetworkAccessManager& network, const std::string& ad
     QObject::connect(reply_, &QNetworkReply::finished, &timeLimit_, [this] { finish(); });
     QObject::connect(&timeLimit_, &QTimer::timeout, &timeLimit_, [this] { reply_->abort(); });
     timeLimit_.setSingleShot(true);
-    timeLimit_.start(timeLimitMilliseconds);
+    timeLimit_.start(timeLimit);
 }
 
 HttpDownload::~HttpDownload() {

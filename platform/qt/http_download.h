@@ -3,6 +3,7 @@
 #include <QNetworkReply>
 #include <QTimer>
 
+#include <chrono>
 #include <functional>
 #include <string>
 
@@ -12,15 +13,12 @@ class QNetworkAccessManager;
 
 namespace tallyvane {
 
-/// A fetch by Qt's network access: no redirect to another host, at most 64 KiB, half a minute in all.
+/// A fetch by Qt's network access: no redirect to another host, at most 64 KiB, within the time limit in all.
 class HttpDownload : public Download {
 public:
     HttpDownload(QNetworkAccessManager& network, const std::string& address, std::string path,
-                 std::function<void(int status)> done);
+                 std::function<void(int status)> done, std::chrono::milliseconds timeLimit);
     ~HttpDownload() override;
-
-    /// Of the whole fetch. Tests shorten it.
-    static inline int timeLimitMilliseconds = 30'000;
 
 private:
     void takeBytes();

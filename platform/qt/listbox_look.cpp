@@ -24,6 +24,7 @@ constexpr Color headingGround = RGB(232, 236, 242);
 constexpr Color columnLine = RGB(186, 200, 220);
 constexpr Color selection = RGB(92, 152, 236);
 constexpr Color selectionLine = RGB(38, 92, 170);
+constexpr Color helpDots = RGB(178, 24, 24);
 
 QPalette lightColors() {
     QPalette colors(toQt(headingGround), toQt(headingGround));
@@ -33,6 +34,12 @@ QPalette lightColors() {
     colors.setColor(QPalette::Highlight, toQt(selection));
     colors.setColor(QPalette::HighlightedText, toQt(text));
     return colors;
+}
+
+void drawDots(QPainter& painter, int left, int right, int y) {
+    constexpr int step = 2; // from dot to dot
+    for (int x = left; x < right; x += step)
+        painter.fillRect(x, y, 1, 1, toQt(helpDots));
 }
 
 /// Has the list paint its cells.
@@ -150,7 +157,10 @@ void ListboxPeer::drawText(QPainter& painter, const QRect& area, int row, int co
     }
     const QString whole = tallyvane::toQt(Left(control_->Cell(row, column), mostCharacters));
     const QString shown = QFontMetrics(cellFont).elidedText(whole, Qt::ElideRight, place.width());
-    painter.drawText(place, static_cast<int>(alignmentOf(column)), shown);
+    QRect drawnAt;
+    painter.drawText(place, static_cast<int>(alignmentOf(column)), shown, &drawnAt);
+    if (control_->CellHelpTag && !control_->CellHelpTag(row, column).empty())
+        drawDots(painter, drawnAt.left(), drawnAt.right(), area.height() - 2);
 }
 
 void ListboxPeer::paintEvent(QPaintEvent* event) {

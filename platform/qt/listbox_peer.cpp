@@ -156,6 +156,16 @@ void ListboxPeer::selectionChanged(const QItemSelection& selected, const QItemSe
     viewport()->update();
 }
 
+QItemSelectionModel::SelectionFlags ListboxPeer::selectionCommand(const QModelIndex& index, const QEvent* event) const {
+    if (event == nullptr || event->type() != QEvent::KeyPress)
+        return QTableView::selectionCommand(index, event);
+    const auto& key = static_cast<const QKeyEvent&>(*event);
+    if (!(key.modifiers() & Qt::ShiftModifier))
+        return QTableView::selectionCommand(index, event);
+    const QKeyEvent withoutCommand(key.type(), key.key(), key.modifiers() & ~Qt::ControlModifier);
+    return QTableView::selectionCommand(index, &withoutCommand);
+}
+
 void ListboxPeer::mousePressEvent(QMouseEvent* event) {
     // Presses with Ctrl or Shift extend the selection; they are no clicks in a cell.
     const bool plain = event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier;

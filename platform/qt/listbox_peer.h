@@ -46,6 +46,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+    /// Ctrl+Shift+Home and Ctrl+Shift+End select the rows up to the first and last; Qt alone only goes there.
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
 
 private:
     void setUpLook();

@@ -122,15 +122,20 @@ void MenuPeer::add(QMenu& menu, const MenuItem& item) {
     entries_.push_back({action, &item});
 }
 
+QWidget* MenuPeer::editTarget() const {
+    return focus_ != nullptr && focus_->window() == QApplication::activeWindow() ? focus_.data() : nullptr;
+}
+
 void MenuPeer::refresh() {
     deliver([this] { bar_.enableItems(front_()); });
+    const QWidget* target = editTarget();
     for (const Entry& entry : entries_)
-        entry.action->setEnabled(isEditing(entry.item->role) ? canEdit(focus_, entry.item->role) : entry.item->Enabled);
+        entry.action->setEnabled(isEditing(entry.item->role) ? canEdit(target, entry.item->role) : entry.item->Enabled);
 }
 
 void MenuPeer::choose(const MenuItem& item) {
     if (isEditing(item.role))
-        edit(focus_, item.role);
+        edit(editTarget(), item.role);
     else
         deliver([&] { bar_.choose(item.Name, front_()); });
 }

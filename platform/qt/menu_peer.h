@@ -24,6 +24,8 @@ private:
         const MenuItem* item;
     };
 
+    /// What the editing items act on: the last control that had the focus, if its window is in front.
+    QWidget* editTarget() const;
     /// Enables and disables the items by what the window in front answers.
     void refresh();
     void add(QMenu& menu, const MenuItem& item);
@@ -32,7 +34,7 @@ private:
     MenuBar& bar_;
     std::function<Window*()> front_;
     std::vector<Entry> entries_;
-    QPointer<QWidget> focus_; // the last control that had it: an open menu takes it away
+    QPointer<QWidget> focus_; // an open menu takes it away, and is not noted
 };
 
 } // namespace tallyvane

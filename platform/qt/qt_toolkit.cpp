@@ -6,6 +6,7 @@
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QNetworkAccessManager>
+#include <QNetworkProxy>
 #include <QPointer>
 #include <QPrintDialog>
 #include <QScreen>
@@ -48,6 +49,16 @@ QStringList nameFilters(const std::string& endings) {
     for (FieldWalk walk(endings, ","); !walk.atEnd();)
         patterns += QStringLiteral("*.") + toQt(walk.next());
     return {patterns.join(QLatin1Char(' ')), all};
+}
+
+/// The desktop's own settings are not asked: finding them can hold up the program for seconds.
+QNetworkProxy proxyOfEnvironment() {
+    const QUrl proxy(qEnvironmentVariable("http_proxy"));
+    if (proxy.host().isEmpty())
+        return QNetworkProxy(QNetworkProxy::NoProxy);
+    constexpr int usualPort = 80;
+    return {QNetworkProxy::HttpCachingProxy, proxy.host(), static_cast<quint16>(proxy.port(usualPort)),
+            proxy.userName(), proxy.password()};
 }
 
 Window* windowInFront() {
@@ -125,9 +136,11 @@ std::unique_ptr<Graphics> QtToolkit::openPrinterDialog(const Paper* paper, int r
 
 std::unique_ptr<Download> QtToolkit::download(const std::string& address, const std::string& path,
                                               std::function<void(int status)> done) {
-    if (!network_)
+    if (!network_) {
         network_ = std::make_unique<QNetworkAccessManager>();
-    return std::make_unique<HttpDownload>(*network_, address, path, std::move(done));
+        network_->setProxy(proxyOfEnvironment());
+    }
+    return std::make_unique<HttpDownload>(*network_, address, path, std::move(done), timeLimit);
 }
 
 void QtToolkit::openUrl(const std::string& address) { QDesktopServices::openUrl(QUrl(toQt(address))); }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <chrono>
+
 #include "platform/toolkit.h"
 
 class QNetworkAccessManager;
@@ -26,6 +28,9 @@ public:
     void openUrl(const std::string& address) override;
     void openFile(const std::string& path) override;
     void quit(int code) override;
+
+    /// Of a whole download.
+    std::chrono::milliseconds timeLimit{30'000};
 
     bool quitAsked() const { return quitAsked_; }
     int quitCode() const { return quitCode_; }

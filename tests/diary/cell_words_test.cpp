@@ -1,7 +1,6 @@
 #include "diary/cell_words.h"
 
 #include "diary/day_table.h"
-#include "support/drawn.h"
 #include "support/test_desk.h"
 
 namespace tallyvane {
@@ -40,26 +39,6 @@ TEST_F(CellWordsTest, ACellSaysWhatItIsAndWhereItStands) {
         EXPECT_EQ(table_.CellHelpTag(0, row.column), row.helpTag) << row.text;
     }
     EXPECT_EQ(table_.CellDescription(0, 0), "Date, 11/22/2026");
-}
-
-TEST_F(CellWordsTest, ADoubtfulTextIsUnderlinedWithDots) {
-    open();
-    addRow({"11/22/2026", "5,6", "5.6", "", "a text that is wider than its cell"});
-    const auto dots = [&](int column) {
-        GraphicsRecorder g(72, 15);
-        EXPECT_FALSE(table_.CellTextPaint(g, 0, column, 6, 15));
-        EXPECT_EQ(g.ForeColor(), 0U) << "the text itself is black";
-        return drawn(g);
-    };
-    // Three characters of six points, up to the margin on the right.
-    const std::vector<std::string> three = dots(1);
-    ASSERT_EQ(three.size(), 9U);
-    EXPECT_EQ(three.front(), "fill 48 13 1 1");
-    EXPECT_EQ(three.back(), "fill 64 13 1 1");
-    EXPECT_TRUE(dots(2).empty());
-    EXPECT_TRUE(dots(3).empty());
-    EXPECT_EQ(dots(4).front(), "fill 6 13 1 1");
-    EXPECT_TRUE(dots(0).empty()) << "a date is no number anyway";
 }
 
 } // namespace

@@ -159,6 +159,16 @@ TEST_F(MainWindowTest, TheEditMenuCopiesRowsOfTheTable) {
     EXPECT_EQ(list().SelectedCount(), 2);
     action("EditCopy")->trigger();
     EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith(QStringLiteral("1/1/2026\t5\t\t6,5\t")));
+
+    QTest::keyClick(table_, Qt::Key_End, Qt::ControlModifier);
+    list().ListIndex(1);
+    QTest::keyClick(table_, Qt::Key_Home, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(list().SelectedCount(), 2);
+    app_->FileAboutBrindlemarks_Action();
+    QApplication::setActiveWindow(frameTitled(QStringLiteral("About Tallyvane")));
+    QGuiApplication::clipboard()->clear();
+    action("EditCopy")->trigger();
+    EXPECT_TRUE(QGuiApplication::clipboard()->text().isEmpty()) << "the table's window is not in front";
 }
 
 TEST_F(MainWindowTest, TheTableAndItsOpenCellStayLightAndLegibleInADarkTheme) {

@@ -5,10 +5,12 @@
 #include <QPlainTextEdit>
 #include <QTest>
 
+#include "diary/date_window.h"
 #include "platform/qt/event_guard.h"
 #include "platform/qt/listbox_peer.h"
 #include "platform/qt/qt_toolkit.h"
 #include "platform/qt/window_peer.h"
+#include "shell/new_version_window.h"
 #include "support/test_desk.h"
 
 namespace tallyvane {
@@ -38,10 +40,32 @@ protected:
         QApplication::setActiveWindow(frame_);
     }
     void TearDown() override {
+        others_.clear();
         app_.reset();
         setEventGuard(nullptr);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         TestDesk::TearDown();
+    }
+
+    /// The main window with two days, and every other window that it leads to.
+    void openEveryWindow() {
+        write(applicationFile("7VXData"), "1/1/2026@#@5\n1/2/2026@#@7\n");
+        start();
+        list().select({true, true});
+        Window1& window = *app_->window1();
+        app_->FilePreferences_Action();
+        app_->FileExportData_Action();
+        app_->FileImportData_Action();
+        app_->FileAboutBrindlemarks_Action();
+        for (const auto& show : {window.showHeadingsEditor, window.showLogs, window.showTeamAndMedications,
+                                 window.showResources, window.showGraph})
+            show();
+        others_.push_back(std::make_unique<DateWindow>(window));
+        others_.push_back(std::make_unique<archiveWindow>());
+        others_.push_back(std::make_unique<newVersionWindow>(window, "Tallyvane"));
+        others_.push_back(std::make_unique<SplashWindow>());
+        for (const auto& other : others_)
+            other->Show();
     }
 
     static WindowFrame* frameTitled(const QString& title) {
@@ -68,6 +92,7 @@ protected:
 
     QtToolkitOnDesk qt_; // in force instead of the recording one
     std::unique_ptr<App> app_;
+    std::vector<std::unique_ptr<Window>> others_;
     WindowFrame* frame_ = nullptr;
     ListboxPeer* table_ = nullptr;
 };

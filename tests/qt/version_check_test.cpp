@@ -54,12 +54,8 @@ protected:
     void SetUp() override {
         QtDesk::SetUp();
         SpecialFolder::Temporary = SpecialFolder::ApplicationData;
-        HttpDownload::timeLimitMilliseconds = 400;
+        qt_.timeLimit = std::chrono::milliseconds(400);
         qt_.isOnline = true;
-    }
-    void TearDown() override {
-        HttpDownload::timeLimitMilliseconds = limit_;
-        QtDesk::TearDown();
     }
 
     /// Hears what a check ends with.
@@ -70,8 +66,6 @@ protected:
         }
         int ends = 0;
     };
-
-    const int limit_ = HttpDownload::timeLimitMilliseconds;
 };
 
 TEST_F(VersionCheckTest, OnlyAWholeAnswerOfANewerVersionMakesAnOffer) {
