@@ -3,6 +3,7 @@
 set -euo pipefail
 
 program=$1
+scale=${QT_SCALE_FACTOR:-1}
 home=$(mktemp -d)
 days="$home/data/Tallyvane/7VXData"
 mkdir -p "$home/data" "$home/run"
@@ -34,7 +35,7 @@ trap clean_up EXIT
 
 exec 3>"$home/display"
 # A server that starts over when a client leaves it alone would throw out the window manager that is just coming.
-Xvfb -noreset -displayfd 3 -screen 0 1280x1024x24 >/dev/null 2>&1 &
+Xvfb -noreset -displayfd 3 -screen 0 "$((1280 * scale))x$((1024 * scale))x24" >/dev/null 2>&1 &
 display_server=$!
 until_true grep -q . "$home/display"
 export DISPLAY=":$(cat "$home/display")"
@@ -51,7 +52,7 @@ start() {
 main_window() {
     local id
     for id in $(xdotool search --onlyvisible --name '^Tallyvane$'); do
-        [[ $(xdotool getwindowgeometry --shell "$id") == *WIDTH=746* ]] && window=$id && return 0
+        [[ $(xdotool getwindowgeometry --shell "$id") == *WIDTH=$((746 * scale))$'\n'* ]] && window=$id && return 0
     done
     return 1
 }
@@ -81,14 +82,15 @@ active() { [[ $(xdotool getwindowfocus) == "$1" ]]; }
 click_from_bottom() {
     local X Y WIDTH HEIGHT WINDOW SCREEN
     eval "$(xdotool getwindowgeometry --shell "$window")"
-    xdotool mousemove --window "$window" "$1" $((HEIGHT - $2)) click 1
+    xdotool mousemove --window "$window" $(($1 * scale)) $((HEIGHT - $2 * scale)) click 1
 }
 
 # What stands under a column of readings, as the strip shows it: it follows each key, and no cursor blinks there.
 average_under() {
     local HEIGHT
     eval "$(xdotool getwindowgeometry --shell "$window" | grep HEIGHT)"
-    import -window "$window" -crop "56x18+$((82 + 72 * ($1 - 1) + 16))+$((HEIGHT - 229))" rgb:- | md5sum
+    import -window "$window" -crop \
+        "$((56 * scale))x$((18 * scale))+$((scale * (82 + 72 * ($1 - 1) + 16)))+$((HEIGHT - 229 * scale))" rgb:- | md5sum
 }
 
 # Types a reading and waits until the strip has followed.
