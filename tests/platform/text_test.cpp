@@ -7,29 +7,20 @@
 namespace tallyvane {
 
 TEST(Text, FieldsAreCountedFromOneAndMissingOnesAreEmpty) {
-    struct Row {
-        const char* name;
-        std::string text;
-        int n;
-        std::string want;
-        int count;
+    const auto check = [](const char* text, int n, const char* want, int count) {
+        EXPECT_EQ(NthField(text, "@#@", n), want) << n << " of " << text;
+        EXPECT_EQ(CountFields(text, "@#@"), count) << text;
     };
-    const Row rows[] = {
-        {"first", "a@#@b@#@c", 1, "a", 3},
-        {"last", "a@#@b@#@c", 3, "c", 3},
-        {"past the last", "a@#@b", 3, "", 2},
-        {"whole text without a separator", "abc", 1, "abc", 1},
-        {"no second field without a separator", "abc", 2, "", 1},
-        {"empty text", "", 1, "", 1},
-        {"empty field in the middle", "a@#@@#@c", 2, "", 3},
-        {"separator at the end", "a@#@", 2, "", 2},
-        {"half a separator is text", "a@#b@#@c", 1, "a@#b", 2},
-        {"field zero", "a@#@b", 0, "", 2},
-    };
-    for (const Row& row : rows) {
-        EXPECT_EQ(NthField(row.text, "@#@", row.n), row.want) << row.name;
-        EXPECT_EQ(CountFields(row.text, "@#@"), row.count) << row.name;
-    }
+    check("a@#@b", 0, "", 2);
+    check("a@#@b@#@c", 1, "a", 3);
+    check("a@#@b@#@c", 3, "c", 3);
+    check("a@#@b", 3, "", 2);
+    check("abc", 1, "abc", 1);
+    check("abc", 2, "", 1);
+    check("", 1, "", 1);
+    check("a@#@@#@c", 2, "", 3);
+    check("a@#@", 2, "", 2);
+    check("a@#b@#@c", 1, "a@#b", 2); // half a separator is text
 }
 
 TEST(Text, PlacesCountCharactersAndBytesThatAreNoUtf8CountOne) {
@@ -41,21 +32,16 @@ TEST(Text, PlacesCountCharactersAndBytesThatAreNoUtf8CountOne) {
     EXPECT_EQ(Mid(accents, 8), "\U0001F34E!");
     EXPECT_EQ(InStr(accents, "\u20ac"), 7);
 
-    struct Broken {
-        const char* name;
-        std::string text;
-        int length;
+    const auto checkBroken = [](const char* name, const std::string& text, int length) {
+        EXPECT_EQ(Len(text), length) << name;
+        EXPECT_EQ(Left(text, length), text) << name;
+        EXPECT_EQ(Right(text, length - 1), Mid(text, 2)) << name;
     };
-    const Broken rows[] = {
-        {"stray continuation byte", "a\x80z", 3}, {"start without its continuation", "\xC3z", 2},
-        {"cut off at the end", "a\xE2\x82", 3},   {"overlong start byte", "\xC0\xAF", 2},
-        {"NUL", std::string("a\0b", 3), 3},
-    };
-    for (const Broken& row : rows) {
-        EXPECT_EQ(Len(row.text), row.length) << row.name;
-        EXPECT_EQ(Left(row.text, row.length), row.text) << row.name;
-        EXPECT_EQ(Right(row.text, row.length - 1), Mid(row.text, 2)) << row.name;
-    }
+    checkBroken("stray continuation byte", "a\x80z", 3);
+    checkBroken("start without its continuation", "\xC3z", 2);
+    checkBroken("cut off at the end", "a\xE2\x82", 3);
+    checkBroken("overlong start byte", "\xC0\xAF", 2);
+    checkBroken("NUL", std::string("a\0b", 3), 3);
 }
 
 TEST(Text, EndsOutsideOfTheTextAreTakenAsItsEnds) {
@@ -88,34 +74,17 @@ TEST(Text, CharactersAndTrimming) {
 }
 
 TEST(Text, MarksOfTheByteOrder) {
-    struct Row {
-        const char* name;
-        std::string file;
-        std::string want;
+    const auto check = [](const char* name, const std::string& file, const char* want) {
+        EXPECT_EQ(withoutByteOrderMark(file), want) << name;
     };
-    const std::vector<Row> rows{
-        {"none", "a\xFF", "a\xFF"},
-        {"UTF-8",
-         "\xEF\xBB\xBF"
-         "a",
-         "a"},
-        {"half a mark", "\xEF\xBB", "\xEF\xBB"},
-        {"little end first",
-         std::string("\xFF\xFE"
-                     "a\0\xAC\x20\x3D\xD8\0\xDE",
-                     10),
-         "a\u20ac\U0001F600"},
-        {"big end first", std::string("\xFE\xFF\0a\x20\xAC\xD8\x3D\xDE\0", 10), "a\u20ac\U0001F600"},
-        {"halves of characters", std::string("\xFE\xFF\xD8\x3D\0a\xDE\0\xD8\x3D", 10), "\uFFFDa\uFFFD\uFFFD"},
-        {"an odd byte",
-         std::string("\xFF\xFE"
-                     "a\0b",
-                     5),
-         "a"},
-        {"the mark alone", "\xFF\xFE", ""},
-    };
-    for (const Row& row : rows)
-        EXPECT_EQ(withoutByteOrderMark(row.file), row.want) << row.name;
+    check("none", "a\xFF", "a\xFF");
+    check("UTF-8", "\xEF\xBB\xBF\x61", "a");
+    check("half a mark", "\xEF\xBB", "\xEF\xBB");
+    check("little end first", std::string("\xFF\xFE\x61\0\xAC\x20\x3D\xD8\0\xDE", 10), "a\u20ac\U0001F600");
+    check("big end first", std::string("\xFE\xFF\0a\x20\xAC\xD8\x3D\xDE\0", 10), "a\u20ac\U0001F600");
+    check("halves of characters", std::string("\xFE\xFF\xD8\x3D\0a\xDE\0\xD8\x3D", 10), "\uFFFDa\uFFFD\uFFFD");
+    check("an odd byte", std::string("\xFF\xFE\x61\0b", 5), "a");
+    check("the mark alone", "\xFF\xFE", "");
 }
 
 } // namespace tallyvane

@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 #include "platform/graphics_recorder.h"
 #include "records/auto_button/icon_looks.h"
+#include "support/cells.h"
 
 namespace tallyvane {
 
@@ -28,91 +31,49 @@ public:
     std::string events;
 };
 
-TEST(AutoButton, APressFromStepToStep) {
-    struct Step {
-        char what; // 'd' down, 'm' drag, 'u' up
-        int x, y;
-        const char* events; // all so far
-        const char* shown; // "rest", "pressed" or "disabled"
-        bool toggleOn;
-    };
-    struct Row {
-        const char* name;
-        bool toggle;
-        bool enabled;
-        std::vector<Step> steps;
-    };
-    const std::vector<Row> rows{
-        {"press and release",
-         false,
-         true,
-         {{'d', 5, 5, "Down ", "pressed", false}, {'u', 5, 5, "Down Action Up ", "rest", false}}},
-        {"released outside",
-         false,
-         true,
-         {{'d', 5, 5, "Down ", "pressed", false},
-          {'m', 31, 5, "Down ", "rest", false},
-          {'u', 31, 5, "Down ", "rest", false},
-          {'d', 5, 5, "Down Down ", "pressed", false}}},
-        {"out and back in",
-         false,
-         true,
-         {{'d', 5, 5, "Down ", "pressed", false},
-          {'m', 5, -1, "Down ", "rest", false},
-          {'m', 5, 1, "Down ", "pressed", true},
-          {'u', 5, 1, "Down Action Up ", "rest", true}}},
-        {"on the edge it neither leaves nor comes back",
-         false,
-         true,
-         {{'d', 5, 5, "Down ", "pressed", false},
-          {'m', 30, 5, "Down ", "pressed", false},
-          {'m', 5, 21, "Down ", "rest", false},
-          {'m', 5, 20, "Down ", "rest", false},
-          {'u', 5, 20, "Down ", "rest", false}}},
-        {"released on the edge: no Action, and the next press works",
-         false,
-         true,
-         {{'d', 5, 5, "Down ", "pressed", false},
-          {'u', 0, 5, "Down Up ", "rest", false},
-          {'d', 0, 5, "Down Up Down ", "pressed", false}}},
-        {"disabled", false, false, {{'d', 5, 5, "", "disabled", false}}},
-        {"a toggle on and off",
-         true,
-         true,
-         {{'d', 5, 5, "Down ", "pressed", true},
-          {'u', 5, 5, "Down Action Up ", "pressed", true},
-          {'d', 5, 5, "Down Action Up Down Up ", "rest", false}}},
-        {"a toggle dragged outside",
-         true,
-         true,
-         {{'d', 5, 5, "Down ", "pressed", true},
-          {'m', -1, 5, "Down ", "rest", false},
-          {'u', -1, 5, "Down ", "rest", false}}},
-    };
-    for (const Row& row : rows) {
-        TestButton button(row.toggle, row.enabled);
-        int step = 0;
-        bool follows = false;
-        for (const Step& s : row.steps) {
-            const std::string where = std::string(row.name) + ", step " + std::to_string(++step);
-            if (s.what == 'd')
-                follows = button.Event_MouseDown(s.x, s.y);
-            else if (s.what == 'm')
-                button.Event_MouseDrag(s.x, s.y);
-            else
-                button.Event_MouseUp(s.x, s.y);
-            EXPECT_EQ(button.events, s.events) << where;
-            const std::string shown = s.shown;
-            EXPECT_EQ(button.Backdrop(), shown == "rest"      ? button.enabledIcon
-                                         : shown == "pressed" ? button.pressedIcon
-                                                              : button.disabledIcon)
-                << where;
-            EXPECT_EQ(button.toggleOn, s.toggleOn) << where;
-            EXPECT_EQ(button.label.Bold(), shown == "pressed") << where;
-            if (s.what == 'd')
-                EXPECT_EQ(follows, shown == "pressed") << where;
-        }
+/// Plays steps such as "down 5 5", "drag 31 5" and "up 31 5". For each it tells the events that the button raised, its
+/// look, and "on" when it counts as switched on.
+Texts played(TestButton& button, const std::string& script) {
+    Texts trace;
+    std::istringstream steps(script);
+    int x = 0;
+    int y = 0;
+    for (std::string what; steps >> what >> x >> y;) {
+        button.events.clear();
+        const bool follows = what == "down" && button.Event_MouseDown(x, y);
+        if (what == "drag")
+            button.Event_MouseDrag(x, y);
+        if (what == "up")
+            button.Event_MouseUp(x, y);
+        const bool pressed = button.Backdrop() == button.pressedIcon;
+        const std::string look = pressed ? "pressed" : button.Backdrop() == button.enabledIcon ? "rest" : "disabled";
+        trace.push_back(button.events + look + (button.toggleOn ? " on" : ""));
+        EXPECT_EQ(button.label.Bold(), pressed) << trace.back();
+        EXPECT_EQ(follows, what == "down" && pressed) << trace.back() << ": whether drags and a release follow";
     }
+    return trace;
+}
+
+TEST(AutoButton, APressFromStepToStep) {
+    enum Kind { plain, toggle, disabled };
+    const auto check = [](const char* name, Kind kind, const char* script, const Texts& want) {
+        SCOPED_TRACE(name);
+        TestButton button(kind == toggle, kind != disabled);
+        EXPECT_EQ(played(button, script), want);
+    };
+    check("press and release", plain, "down 5 5 up 5 5", {"Down pressed", "Action Up rest"});
+    check("released outside", plain, "down 5 5 drag 31 5 up 31 5 down 5 5",
+          {"Down pressed", "rest", "rest", "Down pressed"});
+    check("out and back in", plain, "down 5 5 drag 5 -1 drag 5 1 up 5 1",
+          {"Down pressed", "rest", "pressed on", "Action Up rest on"});
+    check("on the edge it neither leaves nor comes back", plain, "down 5 5 drag 30 5 drag 5 21 drag 5 20 up 5 20",
+          {"Down pressed", "pressed", "rest", "rest", "rest"});
+    check("released on the edge: no Action, and the next press works", plain, "down 5 5 up 0 5 down 0 5",
+          {"Down pressed", "Up rest", "Down pressed"});
+    check("disabled", disabled, "down 5 5", {"disabled"});
+    check("on and off", toggle, "down 5 5 up 5 5 down 5 5",
+          {"Down pressed on", "Action Up pressed on", "Down Up rest"});
+    check("a toggle dragged outside", toggle, "down 5 5 drag -1 5 up -1 5", {"Down pressed on", "rest", "rest"});
 }
 
 TEST(AutoButton, TheFirstPaintSettlesThePicture) {
@@ -132,51 +93,34 @@ TEST(AutoButton, TheFirstPaintSettlesThePicture) {
 }
 
 TEST(AutoButton, StandardPictures) {
-    struct Row {
-        int type;
-        const char* file; // nil for none
-    };
-    const Row rows[] = {{0, nullptr},
-                        {1, "AddButton.png"},
-                        {2, "RemoveButton.png"},
-                        {3, "ActionMenuButton.png"},
-                        {4, nullptr},
-                        {5, "DeleteButton.png"},
-                        {6, nullptr}};
-    for (const Row& row : rows) {
+    const std::pair<int, const char*> rows[] = {{0, nullptr},
+                                                {1, "AddButton.png"},
+                                                {2, "RemoveButton.png"},
+                                                {3, "ActionMenuButton.png"},
+                                                {5, "DeleteButton.png"}};
+    for (const auto& [type, file] : rows) {
         AutoButton button;
         button.size(24, 24);
-        button.ButtonType = row.type;
+        button.ButtonType = type;
         bool opened = false;
         button.open = [&] { opened = true; };
         button.Event_Open();
-        EXPECT_TRUE(opened) << row.type;
-        EXPECT_EQ(button.enabledIcon, row.file == nullptr ? std::nullopt : std::optional(Picture(row.file)))
-            << row.type;
-        EXPECT_EQ(button.Event_MouseDown(5, 5), row.file != nullptr) << row.type;
+        EXPECT_TRUE(opened) << type;
+        EXPECT_EQ(button.enabledIcon, file == nullptr ? std::nullopt : std::optional(Picture(file))) << type;
+        EXPECT_EQ(button.Event_MouseDown(5, 5), file != nullptr) << type;
     }
 }
 
 TEST(AutoButton, LooksOfAPixel) {
-    struct Row {
-        const char* name;
-        Pixel pixel;
-        Pixel disabled;
-        Pixel pressed;
+    const auto check = [](const char* name, const Pixel& pixel, const Pixel& disabled, const Pixel& pressed) {
+        EXPECT_EQ(disabledLook(pixel), disabled) << name;
+        EXPECT_EQ(pressedLook(pixel), pressed) << name;
     };
-    const Row rows[] = {
-        {"white", {255, 255, 255, 255}, {255, 255, 255, 0}, {255, 255, 255, 0}},
-        {"red", {255, 0, 0, 255}, {255, 0, 0, 130}, {204, 0, 0, 255}},
-        {"a pale blue: 200 of value becomes 149", {80, 150, 200, 255}, {80, 150, 200, 130}, {60, 112, 149, 255}},
-        {"too dark to be darker", {40, 51, 20, 255}, {40, 51, 20, 130}, {0, 0, 0, 255}},
-        {"black", {0, 0, 0, 255}, {0, 0, 0, 130}, {0, 0, 0, 255}},
-        {"half clear", {255, 0, 0, 100}, {255, 0, 0, 51}, {204, 0, 0, 100}},
-        {"clear", {0, 0, 0, 0}, {0, 0, 0, 0}, {0, 0, 0, 0}},
-    };
-    for (const Row& row : rows) {
-        EXPECT_EQ(disabledLook(row.pixel), row.disabled) << row.name;
-        EXPECT_EQ(pressedLook(row.pixel), row.pressed) << row.name;
-    }
+    check("white", {255, 255, 255, 255}, {255, 255, 255, 0}, {255, 255, 255, 0});
+    check("200 of value becomes 149", {80, 150, 200, 255}, {80, 150, 200, 130}, {60, 112, 149, 255});
+    check("too dark to be darker", {40, 51, 20, 255}, {40, 51, 20, 130}, {0, 0, 0, 255});
+    check("black", {0, 0, 0, 255}, {0, 0, 0, 130}, {0, 0, 0, 255});
+    check("half clear", {255, 0, 0, 100}, {255, 0, 0, 51}, {204, 0, 0, 100});
 }
 
 } // namespace

@@ -11,11 +11,6 @@ namespace {
 class LogsWindowTest : public TestDesk {
 protected:
     std::filesystem::path file() const { return applicationFile("Tallyvane") / "QVXLogData"; }
-    void writeFile(const std::string& record) const {
-        makeApplicationFolder();
-        std::filesystem::create_directory(applicationFile("Tallyvane"));
-        write(file(), record);
-    }
 
     logsWindow logs_;
 };
@@ -32,7 +27,7 @@ TEST_F(LogsWindowTest, WithoutAFileItIsEmptyAndWritesTheGlobals) {
 
 TEST_F(LogsWindowTest, TextsComeBackAsTheyWereAndTheJournalIsLeftAlone) {
     Globals::gJournal = "today's";
-    writeFile("walk@#@bread$%$milk@#@an older journal@#@pills\n");
+    write(file(), "walk@#@bread$%$milk@#@an older journal@#@pills\n");
     logs_.Show();
     EXPECT_EQ(logs_.FoodFld.Text(), "bread\nmilk");
     EXPECT_EQ(logs_.ExerciseFld.Text(), "walk");
@@ -46,7 +41,7 @@ TEST_F(LogsWindowTest, TextsComeBackAsTheyWereAndTheJournalIsLeftAlone) {
 }
 
 TEST_F(LogsWindowTest, AShortRecordGivesEmptyTexts) {
-    writeFile("walk\n");
+    write(file(), "walk\n");
     Globals::gMedication = "before";
     logs_.Show();
     EXPECT_EQ(logs_.ExerciseFld.Text(), "walk");
@@ -79,9 +74,10 @@ TEST_F(LogsWindowTest, TheButtonsActOnThePageInFront) {
         EXPECT_EQ(read(folder_ / "saved log"), "one\ntwo 2026-11-22");
 
         logs_.AutoButton2.Action();
-        ASSERT_EQ(toolkit_.printed.size(), 2U);
-        EXPECT_EQ(toolkit_.printed[0].text + "|" + toolkit_.printed[1].text, "one|two 2026-11-22");
-        EXPECT_EQ(toolkit_.printed[0].numbers, (std::vector<double>{50, 59})) << "at 50, its ascent below 50";
+        const Texts printed = drawn(toolkit_.printed);
+        ASSERT_EQ(printed.size(), 2U);
+        EXPECT_EQ(printed[0], "text 50 59 'one'") << "at 50, its ascent below 50";
+        EXPECT_TRUE(printed[1].ends_with("'two 2026-11-22'"));
         toolkit_.printed.clear();
         toolkit_.printerReady = false;
         logs_.AutoButton2.Action();

@@ -1,15 +1,11 @@
 #include "reports/listbox_print_all.h"
 
-#include <algorithm>
-
 #include "support/drawn.h"
 #include "support/test_desk.h"
 
 namespace tallyvane {
 
 namespace {
-
-using Lines = std::vector<std::string>;
 
 // Letter paper of 576 x 756 points; text of 12 points, 6 a character.
 
@@ -23,36 +19,18 @@ protected:
         list_.Heading(1, "Dosage");
         list_.Heading(2, "Schedule");
     }
-    void addRow(const Lines& cells) {
-        list_.AddRow("");
-        for (std::size_t i = 0; i < cells.size(); ++i)
-            list_.Cell(list_.LastIndex(), static_cast<int>(i), cells[i]);
-    }
-    Lines printed(bool fitToPage = true) {
+    Texts printed(bool fitToPage = true) {
         ListboxPrintAll().print(list_, fitToPage);
-        GraphicsRecorder all(0, 0);
-        for (const GraphicsRecorder::Call& call : toolkit_.printed)
-            if (call.operation == "DrawLine")
-                all.DrawLine(call.numbers[0], call.numbers[1], call.numbers[2], call.numbers[3]);
-            else if (call.operation == "DrawString")
-                all.DrawString(call.text, call.numbers[0], call.numbers[1]);
-            else if (call.operation == "FillRect")
-                all.FillRect(call.numbers[0], call.numbers[1], call.numbers[2], call.numbers[3]);
-        return drawn(all);
-    }
-    long pageBreaks() const {
-        return std::count_if(toolkit_.printed.begin(), toolkit_.printed.end(),
-                             [](const auto& call) { return call.operation == "NextPage"; });
+        return drawn(toolkit_.printed);
     }
 
     Listbox list_{3};
 };
 
 TEST_F(PrintAllTest, HeadingsCellsShadingAndLines) {
-    addRow({"Metformin", "500", "with meals"});
-    addRow({"Aspirin"});
+    list_.AddRows({{"Metformin", "500", "with meals"}, {"Aspirin"}});
     // 60, 40 and 100 of 200, scaled by 2.88: 172, 115, 288.
-    EXPECT_EQ(printed(), (Lines{"text 56 9 'Medication'", "text 211 9 'Dosage'", "text 407 9 'Schedule'",
+    EXPECT_EQ(printed(), (Texts{"text 56 9 'Medication'", "text 211 9 'Dosage'", "text 407 9 'Schedule'",
                                 "line 0 12 576 12", "fill 0 15 172 12", "text 3 24 'Metformin'", "fill 172 15 115 12",
                                 "text 175 24 '500'", "fill 287 15 288 12", "text 290 24 'with meals'",
                                 "text 3 38 'Aspirin'", "line 0 0 0 756", "line 172 0 172 756", "line 287 0 287 756"}));
@@ -63,11 +41,9 @@ TEST_F(PrintAllTest, HeadingsCellsShadingAndLines) {
 TEST_F(PrintAllTest, WideTextsWrapAndMakeTheirRowHigher) {
     list_.ColumnAlignment(0, Listbox::AlignCenter);
     list_.ColumnAlignment(1, Listbox::AlignRight);
-    addRow({"ab", "cd", ""}); // in 60 and 40
-    addRow({"abcdefgh ijklm", "0123456789", "x"});
-    addRow({"last"});
+    list_.AddRows({{"ab", "cd", ""}, {"abcdefgh ijklm", "0123456789", "x"}, {"last"}}); // in 60 and 40
     EXPECT_EQ(only("text", printed(false)),
-              (Lines{"text 3 9 'Medication'", "text 62 9 'Dosage'", "text 126 9 'Schedule'", "text 24 24 'ab'",
+              (Texts{"text 3 9 'Medication'", "text 62 9 'Dosage'", "text 126 9 'Schedule'", "text 24 24 'ab'",
                      "text 85 24 'cd'", "text 3 38 'abcdefgh '", "text 3 50 'ijklm'", "text 63 38 '012345'",
                      "text 63 50 '6789'", "text 103 38 'x'", "text 18 64 'last'"}));
 }
@@ -75,18 +51,18 @@ TEST_F(PrintAllTest, WideTextsWrapAndMakeTheirRowHigher) {
 TEST_F(PrintAllTest, WhatTheScreenDoesNotShowIsNotPrinted) {
     list_.ColumnWidths("60%,40%");
     list_.TextSize(20);
-    addRow({"Metformin", "500", "a long remark that nobody sees"});
-    const Lines all = printed();
-    EXPECT_EQ(only("text", all), (Lines{"text 122 15 'Medication'", "text 430 15 'Dosage'", "text 3 38 'Metformin'",
+    list_.AddRows({{"Metformin", "500", "a long remark that nobody sees"}});
+    const Texts all = printed();
+    EXPECT_EQ(only("text", all), (Texts{"text 122 15 'Medication'", "text 430 15 'Dosage'", "text 3 38 'Metformin'",
                                         "text 348 38 '500'"}));
-    EXPECT_EQ(only("fill", all), (Lines{"fill 0 23 345 20", "fill 345 23 230 20"})) << "one line high";
+    EXPECT_EQ(only("fill", all), (Texts{"fill 0 23 345 20", "fill 345 23 230 20"})) << "one line high";
 }
 
 TEST_F(PrintAllTest, PagesBeginWithTheHeadings) {
     for (int row = 0; row < 120; ++row)
-        addRow({"row " + std::to_string(row)});
-    const Lines lines = printed();
-    EXPECT_EQ(pageBreaks(), 2);
+        list_.AddRows({{"row " + std::to_string(row)}});
+    const Texts lines = printed();
+    EXPECT_EQ(toolkit_.pageBreaks(), 2);
     EXPECT_EQ(std::count(lines.begin(), lines.end(), "text 56 9 'Medication'"), 3);
     // 15 + 14 x 53 + 9 is not below 756 yet, one row more is beyond it.
     EXPECT_EQ(std::count(lines.begin(), lines.end(), "text 3 766 'row 53'"), 0);
@@ -94,7 +70,7 @@ TEST_F(PrintAllTest, PagesBeginWithTheHeadings) {
 }
 
 TEST_F(PrintAllTest, CellsKeepTheirStyles) {
-    addRow({"a", "b"});
+    list_.AddRows({{"a", "b"}});
     list_.CellBold(0, 0, true);
     list_.CellUnderline(0, 1, true);
     list_.CellItalic(0, 1, true);
@@ -110,15 +86,15 @@ TEST_F(PrintAllTest, CellsKeepTheirStyles) {
 TEST_F(PrintAllTest, EmptyCancelledOrWithoutHeadings) {
     EXPECT_EQ(printed().size(), 7U) << "headings and lines";
     toolkit_.printed.clear();
-    addRow({"a"});
+    list_.AddRows({{"a"}});
     toolkit_.pageSetupReady = false;
-    EXPECT_EQ(printed(), Lines());
+    EXPECT_EQ(printed(), Texts());
     toolkit_.pageSetupReady = true;
     toolkit_.printerReady = false;
-    EXPECT_EQ(printed(), Lines());
+    EXPECT_EQ(printed(), Texts());
     toolkit_.printerReady = true;
     list_.HasHeading(false);
-    EXPECT_EQ(printed(), (Lines{"fill 0 3 172 12", "text 3 12 'a'", "fill 172 3 115 12", "fill 287 3 288 12",
+    EXPECT_EQ(printed(), (Texts{"fill 0 3 172 12", "text 3 12 'a'", "fill 172 3 115 12", "fill 287 3 288 12",
                                 "line 0 0 0 756", "line 172 0 172 756", "line 287 0 287 756"}));
 }
 

@@ -2,7 +2,6 @@
 
 #include "settings/data_files.h"
 #include "settings/globals.h"
-#include "settings/headings.h"
 #include "support/test_desk.h"
 
 namespace tallyvane {
@@ -36,15 +35,20 @@ protected:
     int windowsBroughtUp_ = 0;
 };
 
-TEST_F(PrefsTest, AFirstRunHasTheDefaults) {
-    getPrefs();
-    EXPECT_EQ(Globals::gOver, 13.0);
-    EXPECT_EQ(Globals::gUnder, 3.0);
-    EXPECT_TRUE(Globals::gShowIndicators);
-    EXPECT_FALSE(Globals::gIncludeMeds);
-    EXPECT_EQ(dataFolder(), (folder_ / "Tallyvane").string());
-    EXPECT_EQ(PrefsModule::gDataLocation, "ApplicationSupport");
-    EXPECT_FALSE(std::filesystem::exists(applicationFile("Brindlemarks Preferences")));
+TEST_F(PrefsTest, WithoutAFileTheDefaultsStand) {
+    for (const bool folderInItsPlace : {false, true}) {
+        SCOPED_TRACE(folderInItsPlace);
+        if (folderInItsPlace)
+            std::filesystem::create_directory(applicationFile("Brindlemarks Preferences"));
+        StartupGlobals::gDataFolder.reset();
+        getPrefs();
+        EXPECT_EQ(Globals::gOver, 13.0);
+        EXPECT_TRUE(Globals::gShowIndicators);
+        EXPECT_FALSE(Globals::gIncludeMeds);
+        EXPECT_EQ(dataFolder(), (folder_ / "Tallyvane").string());
+        EXPECT_EQ(PrefsModule::gDataLocation, "ApplicationSupport");
+        EXPECT_EQ(std::filesystem::exists(applicationFile("Brindlemarks Preferences")), folderInItsPlace);
+    }
 }
 
 TEST_F(PrefsTest, EachLineIsReadByItsOwnRule) {
@@ -70,13 +74,6 @@ TEST_F(PrefsTest, AShortFileGivesEmptyLines) {
     EXPECT_EQ(PrefsModule::gDataLocation, "ApplicationSupport");
 }
 
-TEST_F(PrefsTest, AFolderInPlaceOfTheFileGivesTheDefaults) {
-    std::filesystem::create_directory(applicationFile("Brindlemarks Preferences"));
-    getPrefs();
-    EXPECT_EQ(Globals::gOver, 13.0);
-    EXPECT_EQ(dataFolder(), (folder_ / "Tallyvane").string());
-}
-
 TEST_F(PrefsTest, TheSecondPlaceIsSearchedOnlyWithoutAnApplicationFolder) {
     write(folder_ / "Dropbox" / "Tallyvane" / "Brindlemarks Preferences", "true\n99\n");
     getPrefs();
@@ -96,28 +93,22 @@ TEST_F(PrefsTest, WithoutAnyPlaceNothingIsSettled) {
 }
 
 TEST_F(PrefsTest, AMissingDataFolderGivesWayToTheApplicationFolder) {
-    struct Row {
-        const char* name;
-        std::string path;
-        bool there;
-    };
     write(folder_ / "file", "");
     std::filesystem::create_directory(folder_ / "days");
-    const Row rows[] = {
-        {"there", (folder_ / "days").string(), true},
-        {"gone", (folder_ / "gone").string(), false},
-        {"a file", (folder_ / "file").string(), false},
-        {"no path", "days", false},
-    };
-    for (const Row& row : rows) {
+    const auto check = [this](const std::string& path, bool isThere) {
+        SCOPED_TRACE(path);
         StartupGlobals::gMissingDataFolder.clear();
-        readPreferences("true\n1\n2\n3\n4\n\n\n\n" + row.path + "\nword\n");
-        EXPECT_EQ(dataFolder(), row.there ? row.path : (folder_ / "Tallyvane").string()) << row.name;
-        EXPECT_EQ(StartupGlobals::gMissingDataFolder, row.there ? "" : row.path) << row.name;
+        readPreferences("true\n1\n2\n3\n4\n\n\n\n" + path + "\nword\n");
+        EXPECT_EQ(dataFolder(), isThere ? path : (folder_ / "Tallyvane").string());
+        EXPECT_EQ(StartupGlobals::gMissingDataFolder, isThere ? "" : path);
         PrefsModule::savePrefs();
         const std::string saved = read(std::filesystem::path(dataFolder()) / "Brindlemarks Preferences");
-        EXPECT_NE(saved.find("\n" + row.path + "\n"), std::string::npos) << row.name << ": the folder is forgotten";
-    }
+        EXPECT_NE(saved.find("\n" + path + "\n"), std::string::npos) << "the folder is forgotten";
+    };
+    check(folder_ / "days", true);
+    check(folder_ / "gone", false);
+    check(folder_ / "file", false);
+    check("days", false); // no path
 }
 
 TEST_F(PrefsTest, SavesTenLinesIntoTheDataFolderAndReadsThemBack) {
@@ -136,13 +127,6 @@ TEST_F(PrefsTest, SavesTenLinesIntoTheDataFolderAndReadsThemBack) {
     EXPECT_EQ(Globals::gOver, 10.55);
     EXPECT_TRUE(Globals::gIncludeExercise);
     EXPECT_EQ(dataFolder(), (folder_ / "days").string());
-}
-
-TEST_F(PrefsTest, HeadingsAreThirteenLinesOfTheApplicationFolder) {
-    EXPECT_FALSE(readHeadings());
-    write(applicationFile("7VXHeadings"), "Morning\nNoon\n\nKilos\nbefore");
-    const Headings headings = readHeadings().value();
-    EXPECT_EQ(headings, (Headings{"Morning", "Noon", "", "Kilos", "before"}));
 }
 
 } // namespace

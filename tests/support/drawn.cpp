@@ -45,12 +45,12 @@ std::vector<std::string> drawn(const Group2D& shapes) {
     return lines;
 }
 
-std::vector<std::string> drawn(const GraphicsRecorder& g) {
-    static const std::map<std::string, std::string> words{{"DrawLine", "line"},       {"DrawRect", "rect"},
-                                                          {"FillRect", "fill"},       {"DrawString", "text"},
-                                                          {"DrawPicture", "picture"}, {"DrawObject", "object"}};
+std::vector<std::string> drawn(const std::vector<GraphicsRecorder::Call>& calls) {
+    static const std::map<std::string, std::string> words{
+        {"DrawLine", "line"},       {"DrawRect", "rect"},     {"FillRect", "fill"}, {"DrawString", "text"},
+        {"DrawPicture", "picture"}, {"DrawObject", "object"}, {"NextPage", "page"}};
     std::vector<std::string> lines;
-    for (const GraphicsRecorder::Call& call : g.calls()) {
+    for (const GraphicsRecorder::Call& call : calls) {
         std::ostringstream line;
         line << words.at(call.operation);
         for (const double number : call.numbers)

@@ -1,5 +1,6 @@
 #include "support/test_desk.h"
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 
@@ -52,6 +53,11 @@ std::unique_ptr<Graphics> RecordingToolkit::openPrinterDialog(const Paper* chose
     return printerReady ? std::make_unique<RecordedPages>(printed, resolution) : nullptr;
 }
 
+long RecordingToolkit::pageBreaks() const {
+    return std::count_if(printed.begin(), printed.end(),
+                         [](const GraphicsRecorder::Call& call) { return call.operation == "NextPage"; });
+}
+
 void TestDesk::SetUp() {
     std::string pattern = (std::filesystem::temp_directory_path() / ("tallyvane-test-" + std::string(6, 'X'))).string();
     folder_ = ::mkdtemp(pattern.data());
@@ -99,24 +105,13 @@ Window1& DiaryDesk::open() {
     return window1_;
 }
 
-void DiaryDesk::addRow(const std::vector<std::string>& cells) {
-    table_.AddRow(cells.front());
-    for (std::size_t column = 1; column < cells.size(); ++column)
-        table_.Cell(table_.LastIndex(), static_cast<int>(column), cells[column]);
-}
-
-std::vector<std::string> DiaryDesk::column(int column) const {
-    std::vector<std::string> cells;
-    for (int row = 0; row < table_.ListCount(); ++row)
-        cells.push_back(table_.Cell(row, column));
-    return cells;
-}
-
-std::vector<std::string> DiaryDesk::row(int row, int columns) const {
-    std::vector<std::string> cells;
-    for (int column = 0; column < columns; ++column)
-        cells.push_back(table_.Cell(row, column));
-    return cells;
+Texts DiaryDesk::strip() const {
+    const Window1& w = window1_;
+    Texts texts;
+    for (const StaticText* label : {&w.StaticText1, &w.StaticText2, &w.StaticText3, &w.StaticText4, &w.StaticText5,
+                                    &w.StaticText6, &w.StaticText23, &w.StaticText22, &w.StaticText16})
+        texts.push_back(label->Text());
+    return texts;
 }
 
 } // namespace tallyvane

@@ -10,6 +10,7 @@
 #include "platform/graphics_recorder.h"
 #include "platform/toolkit.h"
 #include "shell/app.h"
+#include "support/cells.h"
 
 namespace tallyvane {
 
@@ -44,6 +45,9 @@ public:
     void openUrl(const std::string& address) override { addresses.push_back(address); }
     void openFile(const std::string& path) override { files.push_back(path); }
     void quit(int code) override { quits.push_back(code); }
+
+    /// In what was printed.
+    long pageBreaks() const;
 
     std::vector<std::string> messages;
     struct Started {
@@ -89,10 +93,8 @@ protected:
     void SetUp() override;
     /// Brings the main window into being; the data folder is the application's.
     Window1& open();
-    /// Adds a row with these texts from column 0 on.
-    void addRow(const std::vector<std::string>& cells);
-    std::vector<std::string> column(int column) const;
-    std::vector<std::string> row(int row, int columns = 10) const;
+    /// The texts below the table, from the first reading to the weight.
+    Texts strip() const;
 
     Toolbar toolbar_{{}};
     MenuBar menuBar_{{}};
