@@ -11,7 +11,7 @@ SplashWindow::SplashWindow() {
         {&AppNameLabel, {168, 34, 244, 42}},
         {&StaticText1, {168, 80, 244, 22}},
         {&ProgressWheel1, {168, 124, 16, 16}},
-        {&StaticText11, {192, 121, 220, 22}},
+        {&StaticText11, {190, 121, 236, 22}},
         {&Timer1},
     });
     Canvas1.Backdrop(Picture("vaneLogo128.png"));

@@ -157,6 +157,7 @@ void ListboxPeer::drawText(QPainter& painter, const QRect& area, int row, int co
     }
     const QString whole = tallyvane::toQt(Left(control_->Cell(row, column), mostCharacters));
     const QString shown = QFontMetrics(cellFont).elidedText(whole, Qt::ElideRight, place.width());
+    painter.setLayoutDirection(layoutDirection()); // the list's, which is not always the application's
     QRect drawnAt;
     painter.drawText(place, static_cast<int>(alignmentOf(column)), shown, &drawnAt);
     if (control_->CellHelpTag && !control_->CellHelpTag(row, column).empty())

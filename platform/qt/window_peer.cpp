@@ -122,6 +122,8 @@ void ContentArea::resizeEvent(QResizeEvent* event) {
 WindowFrame::WindowFrame(Window& window, QWidget* owner, std::function<Window*()> front)
     : QMainWindow(owner, flagsOf(window.kind())), window_(&window), content_(new ContentArea(
                                                                         window, [this] { tellBounds(); }, this)) {
+    // Frames count from the left. A table that Qt turned around would have its readings under the wrong headings.
+    setLayoutDirection(Qt::LeftToRight);
     setContextMenuPolicy(Qt::NoContextMenu); // Qt's own would hide the toolbar
     if (window.kind() == Window::Kind::dialog)
         setWindowModality(Qt::WindowModal);

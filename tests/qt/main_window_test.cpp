@@ -286,6 +286,18 @@ TEST_F(MainWindowTest, TheGraphGrowsWithItsWindowAndAnswersThePrintItem) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return print->isEnabled(); }));
 }
 
+TEST_F(MainWindowTest, ReadingsStandUnderTheirHeadingsWhereOneWritesFromTheRight) {
+    write(applicationFile("7VXData"), "1/1/2026@#@5.6@#@7@#@@#@13.1\n");
+    start();
+    const QImage before = frame_->grab().toImage();
+    app_.reset();
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    start();
+    const QImage after = frame_->grab().toImage();
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    EXPECT_EQ(after, before);
+}
+
 TEST_F(MainWindowTest, TheSelectedRowIsLegibleOnBothBands) {
     write(applicationFile("7VXData"), "1/1/2026@#@5\n1/2/2026@#@5\n1/3/2026@#@5\n1/4/2026@#@5\n");
     start();
