@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <memory>
 #include <random>
@@ -22,45 +23,13 @@ std::shared_ptr<GTDataPoint> pointOf(const List& x, const List& y) {
     return point;
 }
 
-struct Range {
-    double xMin, xMax, yMin, yMax;
-
-    bool operator==(const Range&) const = default;
-};
+using Range = std::array<double, 4>; // x from, to, y from, to
 Range rangeOf(const GTSeries& s) { return {s.XMin(), s.XMax(), s.YMin(), s.YMax()}; }
-void PrintTo(const Range& r, std::ostream* out) {
-    *out << "x " << r.xMin << " to " << r.xMax << ", y " << r.yMin << " to " << r.yMax;
-}
-
-TEST(SeriesRanges, OfTheirPoints) {
-    struct Row {
-        const char* name;
-        std::vector<std::pair<List, List>> points;
-        Range want;
-    };
-    const std::vector<Row> rows{
-        {"none", {}, {0, 0, 0, 0}},
-        {"one", {{{3}, {5}}}, {3, 3, 5, 5}},
-        {"three", {{{3}, {5}}, {{1}, {9}}, {{2}, {7}}}, {1, 3, 5, 9}},
-        {"only as many values count as the first point has", {{{1}, {5}}, {{2}, {6, 99, -99}}}, {1, 2, 5, 6}},
-        {"what a later point lacks reads 0", {{{1}, {5, 6, 7}}, {{2}, {8}}}, {1, 2, 0, 8}},
-        {"x likewise", {{{1, 2}, {5}}, {{4}, {6}}}, {0, 4, 5, 6}},
-        {"what is not finite is passed over", {{{notANumber}, {5}}, {{2}, {infinite}}, {{3}, {7}}}, {2, 3, 5, 7}},
-        {"nothing finite at all", {{{notANumber}, {-infinite}}}, {0, 0, 0, 0}},
-    };
-    for (const Row& row : rows) {
-        GTSeries series(GTSeries::line);
-        for (const auto& [x, y] : row.points)
-            series.AddDataPoint(pointOf(x, y));
-        EXPECT_EQ(rangeOf(series), row.want) << row.name;
-        EXPECT_EQ(series.XAxis().minimum(), row.want.xMin) << row.name;
-        EXPECT_EQ(series.YAxis().maximum(), row.want.yMax) << row.name;
-    }
-}
 
 TEST(SeriesRanges, ASetRangeLastsUntilTheNextPoint) {
     GTSeries series(GTSeries::line);
     series.AddDataValue(1, 5);
+    EXPECT_EQ(series.XAxis().minimum(), 1);
     series.SetYRange(0, 10);
     EXPECT_EQ(series.YAxis().maximum(), 10);
     series.RemoveDataValue(-1);
@@ -78,6 +47,15 @@ TEST(SeriesRanges, ASetRangeLastsUntilTheNextPoint) {
     EXPECT_EQ(rangeOf(series), (Range{6, 6, 2, 2})) << "without points they stay";
 }
 
+/// The extent of what is finite of these; without any it stays.
+void findExtent(List values, double& low, double& high) {
+    std::erase_if(values, [](double v) { return !std::isfinite(v); });
+    if (values.empty())
+        return;
+    low = *std::min_element(values.begin(), values.end());
+    high = *std::max_element(values.begin(), values.end());
+}
+
 /// The ranges by the rule, passing over all points.
 Range fullPass(const GTDataPoints& points, Range before) {
     List x;
@@ -88,16 +66,8 @@ Range fullPass(const GTDataPoints& points, Range before) {
         for (int j = 0; j < points.front()->YValueCount(); ++j)
             y.push_back(point->YValue(j));
     }
-    for (List* list : {&x, &y})
-        std::erase_if(*list, [](double v) { return !std::isfinite(v); });
-    if (!x.empty()) {
-        before.xMin = *std::min_element(x.begin(), x.end());
-        before.xMax = *std::max_element(x.begin(), x.end());
-    }
-    if (!y.empty()) {
-        before.yMin = *std::min_element(y.begin(), y.end());
-        before.yMax = *std::max_element(y.begin(), y.end());
-    }
+    findExtent(x, before[0], before[1]);
+    findExtent(y, before[2], before[3]);
     return before;
 }
 
@@ -165,29 +135,22 @@ TEST(SeriesRanges, APointOutlivesItsSeries) {
 }
 
 TEST(SeriesRanges, ColumnsFixTheirYRangeBeforeTheyAreMeasured) {
-    struct Row {
-        int type;
-        Range want;
-        int width; // 12 + 7 + the widest label, from the range as it then is
-    };
-    const Row rows[] = {
-        {GTSeries::totalColumn, {1, 2, 14, 18}, 19 + 24}, // "14.8"
-        {GTSeries::clusteredColumn, {1, 2, 2, 9}, 19 + 18}, // every value of every point, no zeros
-        {GTSeries::percentColumn, {1, 2, 0, 9}, 19 + 18}, // untouched
-    };
-    for (const Row& row : rows) {
-        for (const bool width : {false, true}) {
-            GTSeries series(row.type);
-            series.AddDataPoint(pointOf({1}, {9, 3, 2}));
-            series.AddDataPoint(pointOf({2}, {9, 9}));
-            const int room = width ? series.YAxisWidth(100) : series.XAxisHeight(100);
-            EXPECT_EQ(room, width ? row.width : 31) << row.type;
-            EXPECT_EQ(rangeOf(series), row.want) << row.type;
-        }
-        GTSeries empty(row.type);
+    // The width is 12 + 7 + that of the widest label, from the range as it then is.
+    const auto check = [](int type, const Range& want, int width) {
+        GTSeries empty(type);
         EXPECT_EQ(empty.XAxisHeight(100), 31);
         EXPECT_EQ(rangeOf(empty), (Range{0, 0, 0, 0}));
-    }
+        for (const bool byWidth : {false, true}) {
+            GTSeries series(type);
+            series.AddDataPoint(pointOf({1}, {9, 3, 2}));
+            series.AddDataPoint(pointOf({2}, {9, 9}));
+            EXPECT_EQ(byWidth ? series.YAxisWidth(100) : series.XAxisHeight(100), byWidth ? width : 31) << type;
+            EXPECT_EQ(rangeOf(series), want) << type;
+        }
+    };
+    check(GTSeries::totalColumn, {1, 2, 14, 18}, 19 + 24); // "14.8"
+    check(GTSeries::clusteredColumn, {1, 2, 2, 9}, 19 + 18); // every value of every point, no zeros
+    check(GTSeries::percentColumn, {1, 2, 0, 9}, 19 + 18); // untouched
 }
 
 } // namespace

@@ -13,7 +13,7 @@ protected:
     /// "role: name" of each control of a window that takes keys or is pressed, and of its pictures.
     std::vector<std::string> controls(QWidget* frame) {
         std::vector<std::string> all;
-        walk(QAccessible::queryAccessibleInterface(frame), all);
+        walk(interfaceOf(frame), all);
         return all;
     }
     static QAccessibleInterface* interfaceOf(QWidget* widget) { return QAccessible::queryAccessibleInterface(widget); }
@@ -59,12 +59,11 @@ TEST_F(AccessibilityTest, EveryControlOfEveryWindowHasARoleAndAName) {
 }
 
 TEST_F(AccessibilityTest, CellsAreReadWithAllThatBelongsToThem) {
-    write(applicationFile("7VXData"), "1/1/2026@#@12.4@#@5,6\n");
-    start();
+    startOn("1/1/2026@#@12.4@#@5,6\n");
     QAccessibleTableInterface* table = interfaceOf(table_)->tableInterface();
     ASSERT_NE(table, nullptr);
-    EXPECT_EQ(table->cellAt(0, 1)->text(QAccessible::Name), QStringLiteral("Before Breakfast, 1/1/2026, 12.4, high"));
-    EXPECT_EQ(table_->model()->index(0, 2).data(Qt::ToolTipRole).toString(), QStringLiteral("counts as 5"));
+    EXPECT_EQ(table->cellAt(0, 1)->text(QAccessible::Name), "Before Breakfast, 1/1/2026, 12.4, high");
+    EXPECT_EQ(table_->model()->index(0, 2).data(Qt::ToolTipRole).toString(), "counts as 5");
     EXPECT_TRUE(table_->model()->index(0, 1).data(Qt::ToolTipRole).toString().isEmpty());
 
     const QImage shown = table_->viewport()->grab().toImage();
@@ -80,18 +79,15 @@ TEST_F(AccessibilityTest, CellsAreReadWithAllThatBelongsToThem) {
 
     list().EditCell(0, 1);
     list().ActiveCell().SelectAll();
-    QTest::keyClicks(editor(), QStringLiteral("1O"));
-    EXPECT_EQ(editor()->accessibleName(), QStringLiteral("Before Breakfast, 1/1/2026, 1O, counts as 1, too low"));
+    QTest::keyClicks(editor(), "1O");
+    EXPECT_EQ(editor()->accessibleName(), "Before Breakfast, 1/1/2026, 1O, counts as 1, too low");
 }
 
 TEST_F(AccessibilityTest, APictureButtonCanBePressedFromOutside) {
     start();
-    for (auto* canvas : frame_->findChildren<CanvasPeer*>())
-        if (canvas->toolTip() == QStringLiteral("Add date to journal")) {
-            QAccessibleInterface* button = interfaceOf(canvas);
-            EXPECT_EQ(button->role(), QAccessible::Button);
-            button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-        }
+    QAccessibleInterface* button = interfaceOf(canvas("Add date to journal"));
+    EXPECT_EQ(button->role(), QAccessible::Button);
+    button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_EQ(app_->window1()->JournalFld.Text(), Date().AbbreviatedDate());
 }
 

@@ -3,8 +3,8 @@
 #include <QHeaderView>
 #include <QMenu>
 #include <QScreen>
-#include <QToolBar>
-#include <QToolButton>
+
+#include <set>
 
 #include "qt/qt_desk.h"
 #include "settings/globals.h"
@@ -15,38 +15,38 @@ namespace {
 
 class MainWindowTest : public QtDesk {
 protected:
-    std::vector<std::string> column(int column) {
-        std::vector<std::string> cells;
-        for (int row = 0; row < list().ListCount(); ++row)
-            cells.push_back(list().Cell(row, column));
-        return cells;
+    WindowFrame* dateDialog() { return frameTitled("Change Date"); }
+    void setDate(const QDate& date) {
+        dateDialog()->findChild<QCalendarWidget*>()->setSelectedDate(date);
+        QTest::mouseClick(button<QPushButton>(dateDialog(), "OK"), Qt::LeftButton);
     }
+    /// What the window shows there, in its own coordinates.
+    QImage grabbed(const QRect& area) const { return frame_->centralWidget()->grab(area).toImage(); }
 };
 
 TEST_F(MainWindowTest, ADayIsAddedTypedKeptAndRemoved) {
     start();
-    QTest::mouseClick(button<QToolButton>(frame_, QStringLiteral("+")), Qt::LeftButton);
+    press("+");
     ASSERT_TRUE(editor()->isVisible());
     EXPECT_TRUE(editor()->hasFocus());
-    QTest::keyClicks(editor(), QStringLiteral("5.6"));
+    QTest::keyClicks(editor(), "5.6");
     app_->Event_Deactivate();
     EXPECT_TRUE(read(applicationFile("7VXData")).starts_with("11/22/2026@#@5.6@#@"));
-    QTest::mouseClick(button<QToolButton>(frame_, QString(QChar(0x2212))), Qt::LeftButton);
+    press("\u2212");
     EXPECT_EQ(list().ListCount(), 0);
     EXPECT_EQ(table_->model()->rowCount(), 0);
     EXPECT_FALSE(editor()->isVisible());
 }
 
 TEST_F(MainWindowTest, SelectionsGoBothWays) {
-    write(applicationFile("7VXData"), "1/1/2026@#@5\n1/2/2026@#@6\n1/3/2026@#@7\n1/4/2026@#@8\n");
-    start();
+    startOn("1/1/2026@#@5\n1/2/2026@#@6\n1/3/2026@#@7\n1/4/2026@#@8\n");
     click(0, 8);
     click(2, 8, Qt::ShiftModifier);
     EXPECT_EQ(list().SelectedCount(), 3);
     EXPECT_EQ(app_->window1()->StaticText1.Text(), "6.0");
     click(1, 0, Qt::ControlModifier); // no click in the date: the selection changes, no dialog comes
     EXPECT_EQ(list().SelectedCount(), 2);
-    EXPECT_EQ(frameTitled(QStringLiteral("Change Date")), nullptr);
+    EXPECT_EQ(dateDialog(), nullptr);
     list().ListIndex(3);
     EXPECT_EQ(table_->selectionModel()->selectedRows().size(), 1);
     QTest::mouseClick(table_->viewport(), Qt::LeftButton, {}, {20, table_->viewport()->height() - 3});
@@ -55,40 +55,32 @@ TEST_F(MainWindowTest, SelectionsGoBothWays) {
 }
 
 TEST_F(MainWindowTest, AHeadingSortsAndTheSelectionStaysWithItsDays) {
-    write(applicationFile("7VXData"), "1/2/2026@#@5\n1/1/2026@#@6\n");
-    start();
+    startOn("1/2/2026@#@5\n1/1/2026@#@6\n");
     click(0, 8);
     QHeaderView* header = table_->horizontalHeader();
     QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, {20, 8});
     EXPECT_EQ(list().Cell(0, 0), "1/1/2026");
     EXPECT_TRUE(list().Selected(1));
     EXPECT_EQ(table_->selectionModel()->selectedRows().front().row(), 1);
-    QMouseEvent second(QEvent::MouseButtonDblClick, QPointF(20, 8), header->viewport()->mapToGlobal(QPointF(20, 8)),
-                       Qt::LeftButton, Qt::LeftButton, {}); // of two quick clicks
-    QApplication::sendEvent(header->viewport(), &second);
+    doubleClick(header->viewport(), {20, 8});
     EXPECT_EQ(list().Cell(0, 0), "1/2/2026");
     EXPECT_EQ(table_->selectionModel()->selectedRows().front().row(), 0);
 }
 
 TEST_F(MainWindowTest, ADateIsChangedInItsDialog) {
-    write(applicationFile("7VXData"), "1/2/2026@#@5\nsoon@#@6\n");
-    start();
+    startOn("1/2/2026@#@5\nsoon@#@6\n");
     click(0, 0);
-    WindowFrame* dialog = frameTitled(QStringLiteral("Change Date"));
-    ASSERT_NE(dialog, nullptr);
-    auto* calendar = dialog->findChild<QCalendarWidget*>();
-    EXPECT_EQ(calendar->selectedDate(), QDate(2026, 1, 2));
-    calendar->setSelectedDate(QDate(2025, 12, 31));
-    QTest::mouseClick(button<QPushButton>(dialog, QStringLiteral("OK")), Qt::LeftButton);
+    ASSERT_NE(dateDialog(), nullptr);
+    EXPECT_EQ(dateDialog()->findChild<QCalendarWidget*>()->selectedDate(), QDate(2026, 1, 2));
+    setDate({2025, 12, 31});
     EXPECT_EQ(list().Cell(0, 0), "12/31/2025");
-    EXPECT_EQ(frameTitled(QStringLiteral("Change Date")), nullptr);
+    EXPECT_EQ(dateDialog(), nullptr);
 
     click(1, 0);
-    dialog = frameTitled(QStringLiteral("Change Date"));
-    QApplication::setActiveWindow(dialog);
-    QTest::keyClick(dialog, Qt::Key_Escape);
+    QApplication::setActiveWindow(dateDialog());
+    QTest::keyClick(dateDialog(), Qt::Key_Escape);
     EXPECT_EQ(list().Cell(1, 0), "soon");
-    EXPECT_EQ(frameTitled(QStringLiteral("Change Date")), nullptr);
+    EXPECT_EQ(dateDialog(), nullptr);
 }
 
 TEST_F(MainWindowTest, ADoubleClickInTheCalendarAddsThatDay) {
@@ -99,44 +91,34 @@ TEST_F(MainWindowTest, ADoubleClickInTheCalendarAddsThatDay) {
     const QPoint fourth = days->visualRect(days->currentIndex()).center();
     QTest::mouseClick(days->viewport(), Qt::LeftButton, {}, fourth);
     EXPECT_EQ(list().ListCount(), 0) << "a single click adds nothing";
-    const auto second = [&](const QPoint& place) {
-        QMouseEvent event(QEvent::MouseButtonDblClick, QPointF(place), days->viewport()->mapToGlobal(QPointF(place)),
-                          Qt::LeftButton, Qt::LeftButton, {});
-        QApplication::sendEvent(days->viewport(), &event);
-    };
-    second({fourth.x(), 2}); // the names of the days
-    EXPECT_EQ(list().ListCount(), 0);
-    second(fourth);
-    EXPECT_EQ(column(0), (std::vector<std::string>{"3/4/2026"}));
+    doubleClick(days->viewport(), {fourth.x(), 2}); // the names of the days: they add nothing either
+    doubleClick(days->viewport(), fourth);
+    EXPECT_EQ(list().ListCount(), 1);
+    EXPECT_EQ(list().Cell(0, 0), "3/4/2026");
 }
 
 TEST_F(MainWindowTest, ItemsWithoutAnAnswerAreOff) {
     start();
-    std::vector<std::string> enabled;
+    std::set<std::string> enabled;
     for (const QAction* menu : frame_->menuBar()->actions()) {
         Q_EMIT menu->menu()->aboutToShow();
         for (const QAction* action : menu->menu()->actions())
-            if (!action->isSeparator() && action->isEnabled() &&
-                !action->objectName().startsWith(QStringLiteral("Edit")))
-                enabled.push_back(fromQt(action->objectName()));
+            if (!action->isSeparator() && action->isEnabled() && !action->objectName().startsWith("Edit"))
+                enabled.insert(fromQt(action->objectName()));
     }
-    std::sort(enabled.begin(), enabled.end());
-    EXPECT_EQ(enabled,
-              (std::vector<std::string>{"FileAboutBrindlemarks", "FileExportData", "FileImportData",
-                                        "FileOpenArchivedDays", "FilePreferences", "FilePrint", "FilePrintSetup",
-                                        "FileQuit", "FileSaveAsPDF", "HelpSupportForum", "HelpUsersGuide"}));
+    EXPECT_EQ(enabled, (std::set<std::string>{"FileAboutBrindlemarks", "FileExportData", "FileImportData",
+                                              "FileOpenArchivedDays", "FilePreferences", "FilePrint", "FilePrintSetup",
+                                              "FileQuit", "FileSaveAsPDF", "HelpSupportForum", "HelpUsersGuide"}));
 }
 
 TEST_F(MainWindowTest, TheEditMenuActsOnTheFocusedField) {
     start();
-    auto* journal = frame_->findChild<QPlainTextEdit*>();
-    journal->setFocus();
-    journal->setPlainText(QStringLiteral("felt well"));
+    journal()->setFocus();
+    journal()->setPlainText("felt well");
     const auto choose = [&](const char* name) {
-        auto* action = frame_->findChild<QAction*>(QLatin1String(name));
-        Q_EMIT qobject_cast<QMenu*>(action->parent())->aboutToShow();
-        EXPECT_TRUE(action->isEnabled()) << name;
-        action->trigger();
+        Q_EMIT qobject_cast<QMenu*>(item(name)->parent())->aboutToShow();
+        EXPECT_TRUE(item(name)->isEnabled()) << name;
+        item(name)->trigger();
     };
     choose("EditSelectAll");
     choose("EditClear");
@@ -146,28 +128,26 @@ TEST_F(MainWindowTest, TheEditMenuActsOnTheFocusedField) {
 }
 
 TEST_F(MainWindowTest, TheEditMenuCopiesRowsOfTheTable) {
-    write(applicationFile("7VXData"), "1/1/2026@#@5@#@@#@6,5\n1/2/2026@#@7\n");
-    start();
-    frame_->findChild<QPlainTextEdit*>()->setFocus();
+    startOn("1/1/2026@#@5@#@@#@6,5\n1/2/2026@#@7\n");
+    journal()->setFocus();
     table_->setFocus();
-    const auto action = [&](const char* name) { return frame_->findChild<QAction*>(QLatin1String(name)); };
-    EXPECT_FALSE(action("EditCut")->isEnabled());
+    EXPECT_FALSE(item("EditCut")->isEnabled());
     list().ListIndex(1);
-    action("EditCopy")->trigger();
-    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("1/2/2026\t7\t\t\t\t\t\t\t7.0\t\n"));
-    action("EditSelectAll")->trigger();
+    item("EditCopy")->trigger();
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "1/2/2026\t7\t\t\t\t\t\t\t7.0\t\n");
+    item("EditSelectAll")->trigger();
     EXPECT_EQ(list().SelectedCount(), 2);
-    action("EditCopy")->trigger();
-    EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith(QStringLiteral("1/1/2026\t5\t\t6,5\t")));
+    item("EditCopy")->trigger();
+    EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith("1/1/2026\t5\t\t6,5\t"));
 
     QTest::keyClick(table_, Qt::Key_End, Qt::ControlModifier);
     list().ListIndex(1);
     QTest::keyClick(table_, Qt::Key_Home, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(list().SelectedCount(), 2);
     app_->FileAboutBrindlemarks_Action();
-    QApplication::setActiveWindow(frameTitled(QStringLiteral("About Tallyvane")));
+    QApplication::setActiveWindow(frameTitled("About Tallyvane"));
     QGuiApplication::clipboard()->clear();
-    action("EditCopy")->trigger();
+    item("EditCopy")->trigger();
     EXPECT_TRUE(QGuiApplication::clipboard()->text().isEmpty()) << "the table's window is not in front";
 }
 
@@ -179,22 +159,18 @@ TEST_F(MainWindowTest, TheTableAndItsOpenCellStayLightAndLegibleInADarkTheme) {
     dark.setColor(QPalette::Base, QColor(30, 30, 30));
     QApplication::setPalette(dark);
     QApplication::setPalette(dark, "QLineEdit"); // as themes do
-    write(applicationFile("7VXData"), "1/1/2026@#@888@#@888\n");
-    start();
+    startOn("1/1/2026@#@888@#@888\n");
     list().ListIndex(-1);
     click(0, 1);
     QTest::keyClick(editor(), Qt::Key_End); // nothing selected
     // The darkest and the lightest place of the open cell, of its neighbour and of the strip below.
     const auto legible = [&](const QRect& area) {
-        const QImage shown = frame_->centralWidget()->grab(area).toImage();
-        int darkest = 255;
-        int lightest = 0;
-        for (int y = 0; y < shown.height(); ++y)
-            for (int x = 0; x < shown.width(); ++x) {
-                darkest = std::min(darkest, qGray(shown.pixel(x, y)));
-                lightest = std::max(lightest, qGray(shown.pixel(x, y)));
-            }
-        return darkest < 100 && lightest > 180;
+        const QImage image = grabbed(area);
+        std::set<int> grays;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                grays.insert(qGray(image.pixel(x, y)));
+        return *grays.begin() < 100 && *grays.rbegin() > 180;
     };
     const int firstRow = 26 + 19;
     EXPECT_TRUE(legible({82 + 20, firstRow + 2, 42, 11})) << "open cell"; // without its cursor
@@ -204,14 +180,10 @@ TEST_F(MainWindowTest, TheTableAndItsOpenCellStayLightAndLegibleInADarkTheme) {
 }
 
 TEST_F(MainWindowTest, TheIndicatorSwitchHidesAndShowsTheStripsLights) {
-    write(applicationFile("7VXData"), "1/1/2026@#@5\n");
-    start();
+    startOn("1/1/2026@#@5\n");
     const QRect light(82 + 3 + 4, 26 + 259 + 6 + 4, 3, 3);
-    const auto shows = [&] {
-        return frame_->centralWidget()->grab(light).toImage().pixelColor(1, 1).saturationF() > 0.5;
-    };
-    EXPECT_TRUE(shows());
-    for (const bool on : {false, true}) {
+    const auto shows = [&] { return grabbed(light).pixelColor(1, 1).saturationF() > 0.5; };
+    for (const bool on : {true, false, true}) {
         Globals::gShowIndicators = on;
         app_->window1()->Timer1.fire();
         EXPECT_EQ(shows(), on);
@@ -219,24 +191,21 @@ TEST_F(MainWindowTest, TheIndicatorSwitchHidesAndShowsTheStripsLights) {
 }
 
 TEST_F(MainWindowTest, ReturnOpensTheDateOfItsOwnRow) {
-    write(applicationFile("7VXData"), "1/1/2026@#@5\n1/2/2026@#@6\n1/3/2026@#@7\n");
-    start();
+    startOn("1/1/2026@#@5\n1/2/2026@#@6\n1/3/2026@#@7\n");
     list().ListIndex(0);
     table_->setCurrentIndex(table_->model()->index(0, 0));
     QTest::keyClick(table_, Qt::Key_Down, Qt::ShiftModifier);
     EXPECT_EQ(list().SelectedCount(), 2);
     QTest::keyClick(table_, Qt::Key_Return);
     EXPECT_EQ(list().ListIndex(), 1);
-    WindowFrame* dialog = frameTitled(QStringLiteral("Change Date"));
-    dialog->findChild<QCalendarWidget*>()->setSelectedDate(QDate(2020, 1, 1));
-    QTest::mouseClick(button<QPushButton>(dialog, QStringLiteral("OK")), Qt::LeftButton);
+    setDate({2020, 1, 1});
     EXPECT_EQ(list().Cell(0, 0), "1/1/2026");
     EXPECT_EQ(list().Cell(1, 0), "1/1/2020");
 }
 
 TEST_F(MainWindowTest, ShortcutsWorkWhileACellIsOpen) {
     start();
-    QTest::mouseClick(button<QToolButton>(frame_, QStringLiteral("+")), Qt::LeftButton);
+    press("+");
     QTest::keyClick(editor(), Qt::Key_I, Qt::ControlModifier); // no Tab, although it comes as character 9
     EXPECT_EQ(list().openColumn(), 1);
     QTest::keyClick(editor(), Qt::Key_Q, Qt::ControlModifier);
@@ -253,7 +222,7 @@ TEST_F(MainWindowTest, MovesAndSizesOfTheUserAreSaved) {
     frame_->close();
     EXPECT_EQ(read(applicationFile("QVXWindowData")), "90\n100\n746\n600\n");
     EXPECT_TRUE(qt_.quitAsked());
-    EXPECT_EQ(frameTitled(QStringLiteral("Tallyvane")), nullptr);
+    EXPECT_EQ(frameTitled("Tallyvane"), nullptr);
 }
 
 TEST_F(MainWindowTest, AWindowFromAScreenThatIsGoneComesBackIntoSight) {
@@ -263,23 +232,21 @@ TEST_F(MainWindowTest, AWindowFromAScreenThatIsGoneComesBackIntoSight) {
 }
 
 TEST_F(MainWindowTest, TheGraphGrowsWithItsWindowAndAnswersThePrintItem) {
-    write(applicationFile("7VXData"), "1/1/2026@#@5\n1/2/2026@#@7\n");
-    start();
+    startOn("1/1/2026@#@5\n1/2/2026@#@7\n");
     list().select({true, true});
     app_->window1()->showGraph();
-    WindowFrame* graph = frameTitled(QStringLiteral("Graph"));
+    WindowFrame* graph = frameTitled("Graph");
     ASSERT_NE(graph, nullptr);
     EXPECT_EQ(graph->minimumSizeHint(), QSize(716, 431));
     graph->resize(900, 600);
     QCoreApplication::processEvents();
     const Canvas& plot = app_->graph()->Canvas1;
-    EXPECT_EQ(plot.Width(), 499 + 900 - 716);
-    EXPECT_EQ(plot.Height(), 397 + 600 - 431);
+    EXPECT_EQ(QSize(plot.Width(), plot.Height()), QSize(499 + 900 - 716, 397 + 600 - 431));
     const QImage shown = graph->grab().toImage();
     EXPECT_EQ(shown.pixelColor(20 + plot.Width() - 1, 14 + plot.Height() - 1), QColor(Qt::white)) << "its last corner";
     EXPECT_NE(shown.pixelColor(20 + plot.Width() - 1, 14 + plot.Height() / 2), QColor(Qt::white)) << "the plot";
 
-    const auto* print = frame_->findChild<QAction*>(QStringLiteral("FilePrint"));
+    const auto* print = item("FilePrint");
     app_->window1()->showLogs();
     EXPECT_TRUE(QTest::qWaitFor([&] { return !print->isEnabled(); })) << "the logs have a button of their own";
     graph->activateWindow();
@@ -287,8 +254,7 @@ TEST_F(MainWindowTest, TheGraphGrowsWithItsWindowAndAnswersThePrintItem) {
 }
 
 TEST_F(MainWindowTest, ReadingsStandUnderTheirHeadingsWhereOneWritesFromTheRight) {
-    write(applicationFile("7VXData"), "1/1/2026@#@5.6@#@7@#@@#@13.1\n");
-    start();
+    startOn("1/1/2026@#@5.6@#@7@#@@#@13.1\n");
     const QImage before = frame_->grab().toImage();
     app_.reset();
     QGuiApplication::setLayoutDirection(Qt::RightToLeft);
@@ -299,8 +265,7 @@ TEST_F(MainWindowTest, ReadingsStandUnderTheirHeadingsWhereOneWritesFromTheRight
 }
 
 TEST_F(MainWindowTest, TheSelectedRowIsLegibleOnBothBands) {
-    write(applicationFile("7VXData"), "1/1/2026@#@5\n1/2/2026@#@5\n1/3/2026@#@5\n1/4/2026@#@5\n");
-    start();
+    startOn("1/1/2026@#@5\n1/2/2026@#@5\n1/3/2026@#@5\n1/4/2026@#@5\n");
     list().select({true, true, false, false});
     const QImage shown = table_->viewport()->grab().toImage();
     // A free place of the cell, and the middle of its light.
@@ -311,8 +276,7 @@ TEST_F(MainWindowTest, TheSelectedRowIsLegibleOnBothBands) {
     for (const int row : {0, 1}) {
         EXPECT_NE(ground(row), ground(row + 2)) << "a selected row looks like one that is not";
         EXPECT_EQ(light(row), light(row + 2)) << "the selection changes the light";
-        const auto brightness = [](const QColor& color) { return color.lightnessF(); };
-        EXPECT_GT(brightness(ground(row)), 0.6) << "dark text is hard to read";
+        EXPECT_GT(ground(row).lightnessF(), 0.6) << "dark text is hard to read";
     }
 }
 

@@ -26,16 +26,24 @@ QImage whiteImage(int width, int height, double scale = 1) {
     return image;
 }
 
+using Draw = std::function<void(Graphics&)>;
+
+/// What that draws on white.
+QImage painted(int width, int height, const Draw& draw) {
+    QImage image = whiteImage(width, height);
+    {
+        QPainter painter(&image);
+        PainterGraphics g(painter, image.rect());
+        draw(g);
+    }
+    return image;
+}
+
 /// The furthest that any channel of any pixel is from that of the other image.
 int furthestChannel(const QImage& a, const QImage& b) {
     int furthest = 0;
-    for (int y = 0; y < a.height(); ++y)
-        for (int x = 0; x < a.width(); ++x) {
-            const QRgb p = a.pixel(x, y);
-            const QRgb q = b.pixel(x, y);
-            furthest = std::max({furthest, std::abs(qRed(p) - qRed(q)), std::abs(qGreen(p) - qGreen(q)),
-                                 std::abs(qBlue(p) - qBlue(q)), std::abs(qAlpha(p) - qAlpha(q))});
-        }
+    for (qsizetype i = 0; i < a.sizeInBytes(); ++i)
+        furthest = std::max(furthest, std::abs(a.constBits()[i] - b.constBits()[i]));
     return furthest;
 }
 
@@ -94,35 +102,32 @@ TEST(Painter, RunsLookAsTheirShapesDoOneByOne) {
     for (const Row& row : rows) {
         const Group2D shapes = course(seed++, row.symbol, row.symbolSize, row.pen, row.colors);
         const double scale = std::abs(row.scale);
-        QImage plain = whiteImage(200, 200, scale);
-        QImage fast = whiteImage(200, 200, scale);
-        const auto prepare = [&](QPainter& painter) {
+        const auto paintedBy = [&](auto paint) {
+            QImage image = whiteImage(200, 200, scale);
+            QPainter painter(&image);
             painter.setRenderHint(QPainter::Antialiasing);
             painter.setClipRect(0, 0, 200, 200); // at which both cut far lines
             painter.setOpacity(row.opacity);
             painter.translate(7, 5.5);
             if (row.scale < 0)
                 painter.scale(-1, 1); // mirrored
+            paint(painter);
+            painter.end();
+            return image;
         };
-        {
-            QPainter painter(&plain);
-            prepare(painter);
-            ShapePainter(painter, {3, -2}).paint(shapes);
-        }
-        {
-            QPainter painter(&fast);
-            prepare(painter);
-            ShapeRuns(painter, {3, -2}).paint(shapes);
-        }
+        const QImage plain = paintedBy([&](QPainter& painter) { ShapePainter(painter, {3, -2}).paint(shapes); });
+        const QImage fast = paintedBy([&](QPainter& painter) { ShapeRuns(painter, {3, -2}).paint(shapes); });
         EXPECT_NE(plain, whiteImage(200, 200, scale)) << "nothing was drawn to compare";
         EXPECT_LE(furthestChannel(plain, fast), 3) << "symbol " << row.symbol << ", size " << row.symbolSize << ", pen "
                                                    << row.pen << ", scale " << row.scale << ", colours " << row.colors;
     }
 }
 
+using Pixels = std::vector<std::string>;
+
 /// The picture's rows from the top, a letter for each pixel: "#" for black, "." for white, "?" for anything between.
-std::vector<std::string> pixels(const QImage& image) {
-    std::vector<std::string> rows;
+Pixels pixels(const QImage& image) {
+    Pixels rows;
     for (int y = 0; y < image.height(); ++y) {
         rows.emplace_back();
         for (int x = 0; x < image.width(); ++x) {
@@ -134,53 +139,36 @@ std::vector<std::string> pixels(const QImage& image) {
 }
 
 TEST(Painter, UprightLinesAndRectanglesAreSharp) {
-    struct Row {
-        const char* name;
-        std::function<void(Graphics&)> draw;
-        std::vector<std::string> want;
+    const auto check = [](const char* name, const Pixels& want, const Draw& draw) {
+        EXPECT_EQ(pixels(painted(6, 4, draw)), want) << name;
     };
-    const std::vector<Row> rows{
-        {"a line takes whole pixels, both ends included",
-         [](Graphics& g) { g.DrawLine(1, 1, 4, 1); },
-         {"......", ".####.", "......", "......"}},
-        {"from the other end", [](Graphics& g) { g.DrawLine(4, 1, 1, 1); }, {"......", ".####.", "......", "......"}},
-        {"also between pixels",
-         [](Graphics& g) { g.DrawLine(2.4, 0, 2.4, 2); },
-         {"..#...", "..#...", "..#...", "......"}},
-        {"a pen hangs down and to the right",
-         [](Graphics& g) {
-             g.PenWidth(2);
-             g.PenHeight(2);
-             g.DrawLine(1, 1, 3, 1);
-         },
-         {"......", ".####.", ".####.", "......"}},
-        {"an outline lies inside",
-         [](Graphics& g) { g.DrawRect(1, 0, 4, 3); },
-         {".####.", ".#..#.", ".####.", "......"}},
-        {"without height it is a line",
-         [](Graphics& g) { g.DrawRect(1, 2, 4, 0); },
-         {"......", "......", ".####.", "......"}},
-        {"without width too", [](Graphics& g) { g.DrawRect(1, 0, 0, 3); }, {".#....", ".#....", ".#....", "......"}},
-        {"a fill", [](Graphics& g) { g.FillRect(1, 1, 3, 2); }, {"......", ".###..", ".###..", "......"}},
-        {"a fill named from its other corner",
-         [](Graphics& g) { g.FillRect(4, 3, -3, -2); },
-         {"......", ".###..", ".###..", "......"}},
-        {"neighbours leave no seam",
-         [](Graphics& g) {
-             g.FillRect(0, 0.5, 6, 1.2);
-             g.FillRect(0, 1.7, 6, 1.3);
-         },
-         {"......", "######", "######", "......"}},
-    };
-    for (const Row& row : rows) {
-        QImage image = whiteImage(6, 4);
-        {
-            QPainter painter(&image);
-            PainterGraphics g(painter, image.rect());
-            row.draw(g);
-        }
-        EXPECT_EQ(pixels(image), row.want) << row.name;
-    }
+    check("a line takes whole pixels, both ends included", {"......", ".####.", "......", "......"},
+          [](Graphics& g) { g.DrawLine(1, 1, 4, 1); });
+    check("from the other end", {"......", ".####.", "......", "......"}, [](Graphics& g) { g.DrawLine(4, 1, 1, 1); });
+    check("also between pixels", {"..#...", "..#...", "..#...", "......"},
+          [](Graphics& g) { g.DrawLine(2.4, 0, 2.4, 2); });
+    check("a pen hangs down and to the right", {"......", ".####.", ".####.", "......"}, [](Graphics& g) {
+        g.PenWidth(2);
+        g.PenHeight(2);
+        g.DrawLine(1, 1, 3, 1);
+    });
+    check("a pen of nothing draws nothing", {"......", "......", "......", "......"}, [](Graphics& g) {
+        g.PenWidth(0);
+        g.PenHeight(0);
+        g.DrawLine(0, 0, 5, 3);
+        g.DrawLine(0, 2, 5, 2);
+    });
+    check("an outline lies inside", {".####.", ".#..#.", ".####.", "......"},
+          [](Graphics& g) { g.DrawRect(1, 0, 4, 3); });
+    check("without height it is a line", {"......", "......", ".####.", "......"},
+          [](Graphics& g) { g.DrawRect(1, 2, 4, 0); });
+    check("without width too", {".#....", ".#....", ".#....", "......"}, [](Graphics& g) { g.DrawRect(1, 0, 0, 3); });
+    check("a fill named from its other corner", {"......", ".###..", ".###..", "......"},
+          [](Graphics& g) { g.FillRect(4, 3, -3, -2); });
+    check("neighbours leave no seam", {"......", "######", "######", "......"}, [](Graphics& g) {
+        g.FillRect(0, 0.5, 6, 1.2);
+        g.FillRect(0, 1.7, 6, 1.3);
+    });
 }
 
 TEST(Painter, ShapesStandWhereTheirPictureIsDrawn) {
@@ -197,19 +185,11 @@ TEST(Painter, ShapesStandWhereTheirPictureIsDrawn) {
     turned.Height = 1;
     turned.Rotation = std::acos(0);
     picture.Objects().Append(turned);
-    QImage image = whiteImage(8, 4);
-    {
-        QPainter painter(&image);
-        PainterGraphics g(painter, image.rect());
-        g.DrawPicture(picture, 1, 0);
-    }
-    EXPECT_EQ(pixels(image), (std::vector<std::string>{"......#.", "..##....", "..##....", "........"}));
+    EXPECT_EQ(pixels(painted(8, 4, [&](Graphics& g) { g.DrawPicture(picture, 1, 0); })),
+              (Pixels{"......#.", "..##....", "..##....", "........"}));
 }
 
 TEST(Painter, ALineKeepsItsDirectionHoweverLongItIs) {
-    QImage image = whiteImage(100, 100);
-    QPainter painter(&image);
-    PainterGraphics g(painter, image.rect());
     Picture picture(100, 100, 0);
     CurveShape line;
     line.X2 = 1e300;
@@ -219,76 +199,51 @@ TEST(Painter, ALineKeepsItsDirectionHoweverLongItIs) {
     line.Y = 80;
     line.Y2 = 80.5;
     picture.Objects().Append(line);
-    g.DrawPicture(picture, 0, 0);
+    const QImage image = painted(100, 100, [&](Graphics& g) { g.DrawPicture(picture, 0, 0); });
     EXPECT_LT(qGray(image.pixel(90, 9)), 200);
     EXPECT_EQ(qGray(image.pixel(90, 50)), 255);
     EXPECT_LT(qGray(image.pixel(50, 80)), 200);
-    g.PenWidth(0);
-    g.PenHeight(0);
-    const QImage before = image.copy();
-    g.DrawLine(0, 50, 90, 60);
-    g.DrawLine(0, 70, 90, 70);
-    EXPECT_EQ(image, before) << "a pen of nothing draws nothing";
 }
 
 TEST(Painter, ArcsRunClockwiseFromTheRight) {
-    QImage image = whiteImage(41, 41);
-    QPainter painter(&image);
-    PainterGraphics g(painter, image.rect());
     ArcShape arc;
     arc.Width = arc.Height = 40;
-    arc.StartAngle = 0;
     arc.ArcAngle = 1.5; // a little less than a quarter
-    g.DrawObject(arc, 20.5, 20.5);
-    const auto black = [&](int x, int y) { return (image.pixel(x, y) & 0xFFFFFF) == 0; };
-    EXPECT_TRUE(black(30, 30)) << "below and to the right";
-    EXPECT_FALSE(black(10, 30));
-    EXPECT_FALSE(black(30, 10));
-    EXPECT_FALSE(black(10, 10));
+    const Pixels shown = pixels(painted(41, 41, [&](Graphics& g) { g.DrawObject(arc, 20.5, 20.5); }));
+    EXPECT_EQ(shown[30][30], '#') << "below and to the right";
+    for (const char other : {shown[30][10], shown[10][30], shown[10][10]})
+        EXPECT_NE(other, '#');
 }
 
 TEST(Painter, TextStandsOnItsBaseline) {
     const QtToolkit toolkit;
-    struct Row {
-        const char* name;
-        double rotation;
-        QRect mostly; // where the ink lies, the text's middle being at 50, 50
-    };
-    const double quarter = std::acos(0);
-    const Row rows[] = {{"level", 0, {0, 25, 100, 28}},
-                        {"upward", -quarter, {25, 0, 28, 100}},
-                        {"downward", quarter, {47, 0, 28, 100}}};
-    for (const Row& row : rows) {
-        QImage image = whiteImage(100, 100);
-        {
-            QPainter painter(&image);
-            PainterGraphics g(painter, image.rect());
-            StringShape text;
-            text.X = text.Y = 50;
-            text.TextSize = 24;
-            text.Text = "HHHH";
-            text.Rotation = row.rotation;
-            g.DrawObject(text, 0, 0);
-            g.TextSize(24);
-            QImage direct = whiteImage(100, 100);
-            QPainter directPainter(&direct);
-            PainterGraphics h(directPainter, direct.rect());
-            h.TextSize(24);
-            h.DrawString("HHHH", 50 - h.StringWidth("HHHH") / 2, 50);
-            if (row.rotation == 0)
-                EXPECT_LE(furthestChannel(image, direct), 3) << "a string and a shape of the same text";
-            EXPECT_NEAR(g.TextHeight(), 28, 4);
-            EXPECT_LT(g.TextAscent(), g.TextHeight());
-            EXPECT_NEAR(g.StringWidth("HHHH"), 4 * 18, 10);
-        }
+    StringShape text;
+    text.X = text.Y = 50;
+    text.TextSize = 24;
+    text.Text = "HHHH";
+    // `mostly` is where the ink lies, the text's middle being at 50, 50.
+    const auto check = [&](const char* name, double rotation, const QRect& mostly) {
+        text.Rotation = rotation;
+        const QImage image = painted(100, 100, [&](Graphics& g) { g.DrawObject(text, 0, 0); });
         QRect ink;
         for (int y = 0; y < 100; ++y)
             for (int x = 0; x < 100; ++x)
                 if (qGray(image.pixel(x, y)) < 128)
                     ink |= QRect(x, y, 1, 1);
-        EXPECT_TRUE(row.mostly.contains(ink)) << row.name << ": " << ink.x() << ' ' << ink.y() << ' ' << ink.width();
-        EXPECT_GT(std::max(ink.width(), ink.height()), 50) << row.name;
-    }
+        EXPECT_TRUE(mostly.contains(ink)) << name << ": " << ink.x() << ' ' << ink.y() << ' ' << ink.width();
+        EXPECT_GT(std::max(ink.width(), ink.height()), 50) << name;
+        return image;
+    };
+    check("upward", -std::acos(0), {25, 0, 28, 100});
+    check("downward", std::acos(0), {47, 0, 28, 100});
+    const QImage level = check("level", 0, {0, 25, 100, 28});
+    const QImage direct = painted(100, 100, [](Graphics& g) {
+        g.TextSize(24);
+        EXPECT_NEAR(g.TextHeight(), 28, 4);
+        EXPECT_LT(g.TextAscent(), g.TextHeight());
+        g.DrawString("HHHH", 50 - g.StringWidth("HHHH") / 2, 50);
+    });
+    EXPECT_LE(furthestChannel(level, direct), 3) << "a string and a shape of the same text";
 }
 
 TEST(Painter, ABitmapIsClearUntilItIsDrawnOn) {
@@ -296,41 +251,35 @@ TEST(Painter, ABitmapIsClearUntilItIsDrawnOn) {
     const Picture bitmap(6, 4, 32);
     bitmap.Graphics().FillRect(1, 1, 2, 2);
     const Picture shared = bitmap;
-    QImage image = whiteImage(6, 4);
-    {
-        QPainter painter(&image);
-        PainterGraphics g(painter, image.rect());
-        g.DrawPicture(shared, 2, 1);
-    }
-    EXPECT_EQ(pixels(image), (std::vector<std::string>{"......", "......", "...##.", "...##."}));
-    EXPECT_EQ(bitmap.Graphics().Width(), 6);
+    EXPECT_EQ(pixels(painted(6, 4, [&](Graphics& g) { g.DrawPicture(shared, 2, 1); })),
+              (Pixels{"......", "......", "...##.", "...##."}));
 }
 
 TEST(Painter, NoPlaceIsTooFar) {
     const QtToolkit toolkit;
+    const auto drawTo = [](Graphics& g, double near, double far) {
+        g.DrawLine(near, 10, far, 20);
+        g.DrawLine(near, 10, far, 10);
+        g.DrawRect(near, near, far, far);
+        g.FillRect(near, far, far, near);
+        g.DrawString("text", far, near);
+        GTGraph graph;
+        for (int type = GTSeries::line; type <= GTSeries::pie; ++type) {
+            const auto series = std::make_shared<GTSeries>(type);
+            series->PlotSymbol(GTSeries::filledCircle);
+            series->dataLabelsVisible = true;
+            for (const double value : {1.0, near, far, -far, 2.0})
+                series->AddDataValue(value, value);
+            if (std::isfinite(far))
+                series->SetYRange(0, 10);
+            graph.addSeries(series);
+        }
+        graph.Draw(g);
+        g.FillRect(3, 3, 1, 1);
+    };
     for (const double far : {1e7, -1e12, 1e300, infinite, -infinite, notANumber})
         for (const double near : {10.0, far}) {
-            QImage image = whiteImage(100, 100);
-            QPainter painter(&image);
-            PainterGraphics g(painter, image.rect());
-            g.DrawLine(near, 10, far, 20);
-            g.DrawLine(near, 10, far, 10);
-            g.DrawRect(near, near, far, far);
-            g.FillRect(near, far, far, near);
-            g.DrawString("text", far, near);
-            GTGraph graph;
-            for (int type = GTSeries::line; type <= GTSeries::pie; ++type) {
-                const auto series = std::make_shared<GTSeries>(type);
-                series->PlotSymbol(GTSeries::filledCircle);
-                series->dataLabelsVisible = true;
-                for (const double value : {1.0, near, far, -far, 2.0})
-                    series->AddDataValue(value, value);
-                if (std::isfinite(far))
-                    series->SetYRange(0, 10);
-                graph.addSeries(series);
-            }
-            graph.Draw(g);
-            g.FillRect(3, 3, 1, 1);
+            const QImage image = painted(100, 100, [&](Graphics& g) { drawTo(g, near, far); });
             EXPECT_EQ(image.pixel(3, 3) & 0xFFFFFF, RGB(0, 0, 0)) << "the painter is of no use after " << far;
         }
 }

@@ -23,19 +23,18 @@ std::unique_ptr<QPrinter> printerTo(const QString& file) {
 
 std::string textOf(const QString& pdf) {
     QProcess reader;
-    reader.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), pdf, QStringLiteral("-")});
+    reader.start("pdftotext", {"-layout", pdf, "-"});
     reader.waitForFinished();
     return reader.readAllStandardOutput().toStdString();
 }
 
 TEST(PrintJob, AnythingPrintedIsTextInThePdf) {
     const QTemporaryDir folder;
-    const QString file = folder.filePath(QStringLiteral("journal.pdf"));
+    const QString file = folder.filePath("journal.pdf");
     {
         const std::unique_ptr<PrintJob> job = PrintJob::begin(printerTo(file), 72);
         ASSERT_NE(job, nullptr);
-        EXPECT_EQ(job->Width(), 612 - 36) << "the printable area in points";
-        EXPECT_EQ(job->Height(), 792 - 36);
+        EXPECT_EQ(std::pair(job->Width(), job->Height()), std::pair(612.0 - 36, 792.0 - 36)) << "in points";
         std::string text;
         for (int line = 1; line <= 120; ++line)
             text += "line " + std::to_string(line) + " of the journal\n";
@@ -53,7 +52,7 @@ TEST(PrintJob, AnythingPrintedIsTextInThePdf) {
 }
 
 TEST(PrintJob, APrinterThatTakesNothingGivesNoPages) {
-    EXPECT_EQ(PrintJob::begin(printerTo(QStringLiteral("/proc/no such folder/journal.pdf")), 72), nullptr);
+    EXPECT_EQ(PrintJob::begin(printerTo("/proc/no such folder/journal.pdf"), 72), nullptr);
 }
 
 } // namespace

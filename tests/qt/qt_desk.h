@@ -4,6 +4,7 @@
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QTest>
+#include <QToolButton>
 
 #include "diary/date_window.h"
 #include "platform/qt/event_guard.h"
@@ -34,10 +35,15 @@ protected:
         setEventGuard([this](const std::function<void()>& event) { app_->run(event); });
         app_->Event_Open();
         app_->splashWindow()->Timer1.fire();
-        frame_ = frameTitled(QStringLiteral("Tallyvane"));
+        frame_ = frameTitled("Tallyvane");
         ASSERT_NE(frame_, nullptr);
         table_ = frame_->findChild<ListboxPeer*>();
         QApplication::setActiveWindow(frame_);
+    }
+    /// The same with these days in the diary.
+    void startOn(const std::string& days) {
+        write(applicationFile("7VXData"), days);
+        start();
     }
     void TearDown() override {
         others_.clear();
@@ -83,9 +89,26 @@ protected:
                 return found;
         return nullptr;
     }
+    /// Presses a button of the tool bar.
+    void press(const char* text) { QTest::mouseClick(button<QToolButton>(frame_, text), Qt::LeftButton); }
+    /// The second of two quick clicks.
+    static void doubleClick(QWidget* widget, const QPoint& place) {
+        QMouseEvent event(QEvent::MouseButtonDblClick, place, widget->mapToGlobal(QPointF(place)), Qt::LeftButton,
+                          Qt::LeftButton, {});
+        QApplication::sendEvent(widget, &event);
+    }
     void click(int row, int column, Qt::KeyboardModifiers modifiers = {}) {
         const QRect cell = table_->visualRect(table_->model()->index(row, column));
         QTest::mouseClick(table_->viewport(), Qt::LeftButton, modifiers, cell.center());
+    }
+    QAction* item(const char* name) { return frame_->findChild<QAction*>(name); }
+    QPlainTextEdit* journal() { return frame_->findChild<QPlainTextEdit*>(); }
+    /// The picture button with that tip.
+    CanvasPeer* canvas(const char* tip) {
+        for (auto* found : frame_->findChildren<CanvasPeer*>())
+            if (found->toolTip() == tip)
+                return found;
+        return nullptr;
     }
     QLineEdit* editor() { return table_->findChild<CellEditor*>(); }
     Listbox& list() { return app_->window1()->ListBox1; }

@@ -1,4 +1,5 @@
 /// The version check against a real server on the loopback.
+#include <QScopedValueRollback>
 #include <QTcpServer>
 #include <QTcpSocket>
 
@@ -69,31 +70,10 @@ protected:
 };
 
 TEST_F(VersionCheckTest, OnlyAWholeAnswerOfANewerVersionMakesAnOffer) {
-    using End = Server::End;
-    struct Row {
-        const char* name;
-        QByteArray answer;
-        End end;
-        bool completes;
-        bool offers;
-    };
-    const QByteArray newer = "Tallyvane\n1.1.8\n";
-    const std::vector<Row> rows{
-        {"newer", page("200 OK", newer), End::hangsUp, true, true},
-        {"newer, and the line stays open", page("200 OK", newer), End::waits, true, true},
-        {"equal", page("200 OK", "Tallyvane\n1.1.7\n"), End::hangsUp, true, false},
-        {"older", page("200 OK", "Tallyvane\n1.1\n"), End::hangsUp, true, false},
-        {"empty", page("200 OK", ""), End::hangsUp, true, false},
-        {"an error page", page("404 Not Found", "<html>\n<p>not here\n"), End::hangsUp, true, false},
-        {"an error page of a newer version", page("500 Oh no", newer), End::hangsUp, true, true},
-        {"cut off", "HTTP/1.1 200 OK\r\nContent-Length: 500\r\n\r\n" + newer, End::hangsUp, false, false},
-        {"slow", "HTTP/1.1 200 OK\r\nContent-Length: 500\r\n\r\n" + newer, End::waits, false, false},
-        {"endless", "HTTP/1.1 200 OK\r\n\r\n" + newer, End::goesOn, false, false},
-        {"too long", page("200 OK", newer + QByteArray(70'000, 'x')), End::hangsUp, false, false},
-        {"no answer", "", End::hangsUp, false, false},
-    };
-    for (const Row& row : rows) {
-        Server server(row.answer, row.end);
+    enum Outcome { offer, complete, namesNoProgram, nothing };
+    const auto check = [](const char* name, const QByteArray& answer, Server::End end, Outcome want) {
+        SCOPED_TRACE(name);
+        Server server(answer, end);
         Socket socket;
         bool offered = false;
         socket.offer = [&offered](const std::function<void()>& done) {
@@ -101,17 +81,31 @@ TEST_F(VersionCheckTest, OnlyAWholeAnswerOfANewerVersionMakesAnOffer) {
             done();
         };
         VersionCheck::doVersionCheck(socket, server.address());
-        EXPECT_TRUE(server.requests.empty()) << row.name << ": the start does not wait";
-        EXPECT_TRUE(QTest::qWaitFor([&] { return (row.completes ? socket.ends : server.linesEnded) > 0; })) << row.name;
+        EXPECT_TRUE(server.requests.empty()) << "the start does not wait";
+        EXPECT_TRUE(QTest::qWaitFor([&] { return (want == nothing ? server.linesEnded : socket.ends) > 0; }));
         QCoreApplication::processEvents(); // what the end of the line brings
-        EXPECT_EQ(socket.ends, row.completes ? 1 : 0) << row.name;
-        EXPECT_EQ(offered, row.offers) << row.name;
-        const bool kept = std::string(row.name) == "empty";
-        EXPECT_EQ(SpecialFolder::Temporary->Child("Temporary Version File")->Exists(), kept) << row.name;
-        if (kept)
-            SpecialFolder::Temporary->Child("Temporary Version File")->Delete();
-        EXPECT_FALSE(server.requests.empty()) << row.name;
-    }
+        EXPECT_EQ(socket.ends, want == nothing ? 0 : 1);
+        EXPECT_EQ(offered, want == offer);
+        const FolderItem file = *SpecialFolder::Temporary->Child("Temporary Version File");
+        EXPECT_EQ(file.Exists(), want == namesNoProgram);
+        if (file.Exists())
+            file.Delete();
+        EXPECT_FALSE(server.requests.empty());
+    };
+    const QByteArray newer = "Tallyvane\n1.1.8\n";
+    const QByteArray announced = "HTTP/1.1 200 OK\r\nContent-Length: 500\r\n\r\n";
+    check("newer", page("200 OK", newer), Server::End::hangsUp, offer);
+    check("newer, and the line stays open", page("200 OK", newer), Server::End::waits, offer);
+    check("equal", page("200 OK", "Tallyvane\n1.1.7\n"), Server::End::hangsUp, complete);
+    check("older", page("200 OK", "Tallyvane\n1.1\n"), Server::End::hangsUp, complete);
+    check("empty", page("200 OK", ""), Server::End::hangsUp, namesNoProgram);
+    check("an error page", page("404 Not Found", "<html>\n<p>not here\n"), Server::End::hangsUp, complete);
+    check("an error page of a newer version", page("500 Oh no", newer), Server::End::hangsUp, offer);
+    check("cut off", announced + newer, Server::End::hangsUp, nothing);
+    check("slow", announced + newer, Server::End::waits, nothing);
+    check("endless", "HTTP/1.1 200 OK\r\n\r\n" + newer, Server::End::goesOn, nothing);
+    check("too long", page("200 OK", newer + QByteArray(70'000, 'x')), Server::End::hangsUp, nothing);
+    check("no answer", "", Server::End::hangsUp, nothing);
 }
 
 TEST_F(VersionCheckTest, ARedirectOnTheSameServerIsFollowed) {
@@ -133,11 +127,7 @@ TEST_F(VersionCheckTest, AnotherHostIsNotAsked) {
 }
 
 TEST_F(VersionCheckTest, NobodyThere) {
-    std::string address;
-    {
-        const Server server({}, Server::End::waits);
-        address = server.address();
-    }
+    const std::string address = Server({}, Server::End::waits).address();
     Socket socket;
     VersionCheck::doVersionCheck(socket, address);
     QTest::qWait(300);

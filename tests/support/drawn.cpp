@@ -1,7 +1,6 @@
 #include "support/drawn.h"
 
 #include <algorithm>
-#include <initializer_list>
 #include <iterator>
 #include <map>
 #include <sstream>
@@ -10,15 +9,15 @@ namespace tallyvane {
 
 namespace {
 
-std::string joined(const std::string& word, std::initializer_list<double> numbers, const std::string& text = {}) {
+std::string joined(const std::string& word, const std::vector<double>& numbers) {
     std::ostringstream line;
     line << word;
     for (const double number : numbers)
         line << ' ' << number;
-    if (!text.empty())
-        line << " '" << text << "'";
     return line.str();
 }
+
+std::string quoted(const std::string& text) { return " '" + text + "'"; }
 
 struct Describe {
     std::string operator()(const RectShape& s) const { return joined("square", {s.X, s.Y, s.Width}); }
@@ -32,7 +31,8 @@ struct Describe {
         return sides;
     }
     std::string operator()(const StringShape& s) const {
-        return joined("string", {s.X, s.Y}, s.Text) + (s.Rotation == 0 ? "" : s.Rotation < 0 ? " up" : " down");
+        const char* turned = s.Rotation == 0 ? "" : s.Rotation < 0 ? " up" : " down";
+        return joined("string", {s.X, s.Y}) + quoted(s.Text) + turned;
     }
 };
 
@@ -51,13 +51,9 @@ std::vector<std::string> drawn(const std::vector<GraphicsRecorder::Call>& calls)
         {"DrawPicture", "picture"}, {"DrawObject", "object"}, {"NextPage", "page"}};
     std::vector<std::string> lines;
     for (const GraphicsRecorder::Call& call : calls) {
-        std::ostringstream line;
-        line << words.at(call.operation);
-        for (const double number : call.numbers)
-            line << ' ' << number;
+        lines.push_back(joined(words.at(call.operation), call.numbers));
         if (call.operation == "DrawString")
-            line << " '" << call.text << "'";
-        lines.push_back(line.str());
+            lines.back() += quoted(call.text);
         for (const std::string& shape : drawn(call.shapes))
             lines.push_back("  " + shape);
     }
