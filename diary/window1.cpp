@@ -186,7 +186,8 @@ std::string Window1::columnName(int column) const {
     const std::array<const StaticText*, 3> meals{&StaticText13, &StaticText14, &StaticText15};
     const auto meal = static_cast<std::size_t>((column - DayTable::firstReading) / 2);
     const bool isUnderMeal = column >= DayTable::firstReading && meal < meals.size();
-    return ListBox1.Heading(column) + (isUnderMeal ? " " + meals[meal]->Text() : "");
+    const std::string& heading = ListBox1.Heading(column);
+    return isUnderMeal ? tr("%1 %2", {heading, meals[meal]->Text()}) : heading;
 }
 
 // Days

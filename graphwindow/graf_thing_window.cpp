@@ -1,6 +1,7 @@
 #include "graphwindow/graf_thing_window.h"
 
 #include "platform/printing.h"
+#include "platform/translation.h"
 #include "platform/while_true.h"
 #include "settings/globals.h"
 #include "settings/headings.h"
@@ -33,9 +34,9 @@ void GrafThingWindow::getheadings() {
     constexpr std::size_t periodsAMeal = 2;
     constexpr std::size_t meals = 3;
     const auto captioned = boxes();
-    CheckBox13.Caption(DayGraph::periods.front().caption);
+    CheckBox13.Caption(tr(DayGraph::periods.front().caption));
     for (std::size_t i = 0; i < meals * periodsAMeal; ++i)
-        captioned[i + 1]->Caption((*headings)[headingGroups + i] + " " + (*headings)[i / periodsAMeal]);
+        captioned[i + 1]->Caption(tr("%1 %2", {(*headings)[headingGroups + i], (*headings)[i / periodsAMeal]}));
     CheckBox6.Caption((*headings)[headingGroups + meals * periodsAMeal]);
 }
 

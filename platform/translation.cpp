@@ -1,5 +1,7 @@
 #include "platform/translation.h"
 
+#include <iterator>
+
 namespace tallyvane {
 
 std::function<std::string(std::string_view english)> Translation::lookup;
@@ -12,14 +14,13 @@ std::string tr(std::string_view english, std::initializer_list<std::string_view>
     const std::string text = tr(english);
     std::string filled;
     for (std::size_t i = 0; i < text.size(); ++i) {
-        const std::size_t place =
-            text[i] == '%' && i + 1 < text.size() ? static_cast<std::size_t>(text[i + 1]) - '1' : values.size();
-        if (place < values.size()) {
-            filled += values.begin()[place];
-            ++i;
-        } else {
+        const char number = text[i] == '%' && i + 1 < text.size() ? text[i + 1] : '0';
+        if (number < '1' || number > '9' || number - '1' >= std::ssize(values)) {
             filled += text[i];
+            continue;
         }
+        filled += values.begin()[number - '1'];
+        ++i;
     }
     return filled;
 }

@@ -34,12 +34,21 @@ void useDefaultFolder() {
     gDataLocation = defaultLocation;
 }
 
+/// Whether the files were brought here from a computer where the user's home has another path.
+bool isApplicationFolderOfAnotherHome(std::string_view path) {
+    const std::optional<FolderItem> folder = DataFiles::applicationFolder();
+    const std::string home = SpecialFolder::UserHome ? SpecialFolder::UserHome->AbsolutePath() : "";
+    const std::string own = folder ? folder->AbsolutePath() : "";
+    return !home.empty() && own.starts_with(home + "/") && path.ends_with(own.substr(home.size()));
+}
+
 /// Takes the folder that the preferences name; an empty path names the application's folder.
 void settleDataFolder(std::string_view path) {
     StartupGlobals::gDataFolder = path.empty() ? DataFiles::applicationFolder() : GetFolderItem(path, 0);
     if (StartupGlobals::gDataFolder && StartupGlobals::gDataFolder->Directory())
         return;
-    StartupGlobals::gMissingDataFolder = path;
+    if (!isApplicationFolderOfAnotherHome(path))
+        StartupGlobals::gMissingDataFolder = path;
     StartupGlobals::gDataFolder = DataFiles::applicationFolder();
 }
 

@@ -11,13 +11,14 @@ newVersionWindow::newVersionWindow(Window& owner, const std::string& appName) {
     Title("Tallyvane");
     place({
         {&StaticText1, {20, 16, 440, 70}},
-        {&PushButton1, {310, 104, 150, 30}},
+        // The harmless button is the first to have the keys: the offer can come while somebody types.
         {&PushButton2, {150, 104, 150, 30}},
+        {&PushButton1, {310, 104, 150, 30}},
     });
     StaticText1.Text(tr("There is a newer version of %1 available. Would you like to download it now?", {appName}));
     StaticText1.Multiline(true);
     PushButton1.Caption(tr("Download Now"));
-    PushButton2.Caption(tr("Download Later")); // Return presses neither: the offer can come while somebody types
+    PushButton2.Caption(tr("Download Later"));
     PushButton2.Cancel(true);
     PushButton1.Action = [this] { PushButton1_Action(); };
     PushButton2.Action = [this] { Close(); };

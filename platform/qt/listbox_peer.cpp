@@ -9,7 +9,12 @@
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QTimer>
+#include <QToolTip>
 #include <QUrl>
+
+#include <algorithm>
+#include <utility>
 
 #include "platform/qt/event_guard.h"
 
@@ -156,6 +161,16 @@ void ListboxPeer::selectionChanged(const QItemSelection& selected, const QItemSe
     viewport()->update();
 }
 
+void ListboxPeer::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QTableView::currentChanged(current, previous);
+    const bool isLeft = !previous.data(Qt::ToolTipRole).toString().isEmpty();
+    const QModelIndex& doubtful = isLeft ? previous : current;
+    const QString help = doubtful.data(Qt::ToolTipRole).toString();
+    const QPoint place = viewport()->mapToGlobal(visualRect(doubtful).bottomLeft());
+    if (!help.isEmpty()) // shown once the focus has gone where it goes, which would hide it
+        QTimer::singleShot(0, this, [=, this] { QToolTip::showText(place, help, viewport()); });
+}
+
 QItemSelectionModel::SelectionFlags ListboxPeer::selectionCommand(const QModelIndex& index, const QEvent* event) const {
     if (event == nullptr || event->type() != QEvent::KeyPress)
         return QTableView::selectionCommand(index, event);
@@ -197,14 +212,17 @@ void ListboxPeer::commandClick(const QModelIndex& cell) {
     deliver([&] { control_->CellCommandClick(cell.row(), cell.column()); });
 }
 
+bool ListboxPeer::takes(const QMimeData& content) const {
+    return control_ != nullptr && control_->DropObject &&
+           (content.hasUrls() ? control_->acceptsFiles() : control_->acceptsTexts());
+}
+
 /// A drop is a copy, whatever the other side proposes: it would take a moved text or file away from where it was.
 bool ListboxPeer::takesDrop(QDropEvent& event) const {
-    const bool wanted = control_ != nullptr && control_->DropObject &&
-                        (event.mimeData()->hasUrls() ? control_->acceptsFiles() : control_->acceptsTexts());
-    const bool takes = wanted && (event.possibleActions() & Qt::CopyAction) != 0;
-    event.setDropAction(takes ? Qt::CopyAction : Qt::IgnoreAction);
-    event.setAccepted(takes);
-    return takes;
+    const bool isTaken = takes(*event.mimeData()) && (event.possibleActions() & Qt::CopyAction) != 0;
+    event.setDropAction(isTaken ? Qt::CopyAction : Qt::IgnoreAction);
+    event.setAccepted(isTaken);
+    return isTaken;
 }
 
 void ListboxPeer::dragEnterEvent(QDragEnterEvent* event) { takesDrop(*event); }
@@ -212,21 +230,24 @@ void ListboxPeer::dragEnterEvent(QDragEnterEvent* event) { takesDrop(*event); }
 void ListboxPeer::dragMoveEvent(QDragMoveEvent* event) { takesDrop(*event); }
 
 void ListboxPeer::dropEvent(QDropEvent* event) {
-    if (!takesDrop(*event))
-        return;
+    if (takesDrop(*event))
+        drop(*event->mimeData());
+}
+
+void ListboxPeer::drop(const QMimeData& content) {
     bool anyFile = false;
-    for (const QUrl& url : event->mimeData()->urls())
+    for (const QUrl& url : content.urls())
         if (url.isLocalFile()) {
             anyFile = true;
             const QString path = url.adjusted(QUrl::StripTrailingSlash).toLocalFile();
-            drop({GetFolderItem(QFile::encodeName(path).toStdString()), std::nullopt});
+            drop(DragItem{GetFolderItem(QFile::encodeName(path).toStdString()), std::nullopt});
         }
     if (anyFile)
         return;
-    if (event->mimeData()->hasText())
-        drop({std::nullopt, fromQt(event->mimeData()->text())});
+    if (content.hasText())
+        drop(DragItem{std::nullopt, fromQt(content.text())});
     else
-        drop({});
+        drop(DragItem{});
 }
 
 void ListboxPeer::drop(const DragItem& item) {
@@ -237,6 +258,16 @@ void ListboxPeer::drop(const DragItem& item) {
 void ListboxPeer::copyRows() const {
     if (control_ != nullptr && control_->SelectedCount() > 0)
         QGuiApplication::clipboard()->setText(tallyvane::toQt(control_->selectedText(model_->columnCount())));
+}
+
+bool ListboxPeer::canPaste() const {
+    return control_ != nullptr && control_->DropObject && (control_->acceptsFiles() || control_->acceptsTexts());
+}
+
+void ListboxPeer::paste() {
+    const QMimeData* content = QGuiApplication::clipboard()->mimeData();
+    if (content != nullptr && (content->hasText() || content->hasUrls()) && takes(*content))
+        drop(*content);
 }
 
 void ListboxPeer::click(const QModelIndex& cell, const QPoint& place) {
@@ -250,18 +281,27 @@ void ListboxPeer::click(const QModelIndex& cell, const QPoint& place) {
 }
 
 void ListboxPeer::keyPressEvent(QKeyEvent* event) {
-    const bool opens = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_F2;
     const QModelIndex cell = currentIndex();
-    if (!opens || control_ == nullptr || !cell.isValid()) {
+    const bool isOurs = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_F2 ||
+                        event->key() == Qt::Key_F3;
+    if (isOurs && control_ != nullptr && cell.isValid())
+        pressKey(event->key(), cell);
+    else
         QTableView::keyPressEvent(event);
+}
+
+/// Return stands for a click or a double click, F2 for a click with Ctrl, F3 for one on the heading.
+void ListboxPeer::pressKey(int key, const QModelIndex& cell) {
+    if (key == Qt::Key_F3) {
+        deliver([&] { control_->pressHeader(cell.column()); });
         return;
     }
     deliver([&] { control_->ListIndex(cell.row()); }); // as a click does
     if (control_ == nullptr)
         return;
-    if (event->key() == Qt::Key_F2 && control_->CellCommandClick)
+    if (key == Qt::Key_F2 && control_->CellCommandClick)
         commandClick(cell);
-    else if (event->key() != Qt::Key_F2 && control_->DoubleClick)
+    else if (key != Qt::Key_F2 && control_->DoubleClick)
         deliver([this] { control_->DoubleClick(); });
     else
         click(cell, QPoint());

@@ -26,6 +26,9 @@ public:
 
     /// Copies the selected rows with their visible columns to the clipboard; nothing without a selection.
     void copyRows() const;
+    /// Takes what is on the clipboard as if it were dropped here.
+    void paste();
+    bool canPaste() const;
 
     /// Paints a cell, also of a row that does not exist.
     void paintCell(QPainter& painter, const QRect& area, int row, int column);
@@ -46,6 +49,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+    /// Tells what a doubtful text counts as, to those who see it and use no pointer.
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     /// Ctrl+Shift+Home and Ctrl+Shift+End select the rows up to the first and last; Qt alone only goes there.
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
 
@@ -58,7 +63,10 @@ private:
     void click(const QModelIndex& cell, const QPoint& place);
     void commandClick(const QModelIndex& cell);
     bool takesDrop(QDropEvent& event) const;
+    bool takes(const QMimeData& content) const;
+    void drop(const QMimeData& content);
     void drop(const DragItem& item);
+    void pressKey(int key, const QModelIndex& cell);
     void nameEditor();
     void placeEditor();
     void drawText(QPainter& painter, const QRect& area, int row, int column);

@@ -42,10 +42,13 @@ void editField(Field& field, MenuRole role) {
     }
 }
 
-/// Whole rows can be copied and selected; their cells are changed one by one.
+/// Whole rows can be copied and selected, and what can be dropped on a list can be pasted; cells are changed one by
+/// one.
 void editList(ListboxPeer& list, MenuRole role) {
     if (role == MenuRole::copy)
         list.copyRows();
+    else if (role == MenuRole::paste)
+        list.paste();
     else if (role == MenuRole::selectAll)
         list.selectAll();
 }
@@ -61,8 +64,8 @@ void edit(QWidget* focus, MenuRole role) {
 }
 
 bool canEdit(const QWidget* focus, MenuRole role) {
-    if (dynamic_cast<const ListboxPeer*>(focus) != nullptr)
-        return role == MenuRole::copy || role == MenuRole::selectAll;
+    if (const auto* list = dynamic_cast<const ListboxPeer*>(focus))
+        return role == MenuRole::copy || role == MenuRole::selectAll || (role == MenuRole::paste && list->canPaste());
     return qobject_cast<const QLineEdit*>(focus) != nullptr || qobject_cast<const QPlainTextEdit*>(focus) != nullptr;
 }
 

@@ -42,7 +42,7 @@ std::string chosenPath(QFileDialog& dialog) {
 }
 
 QStringList nameFilters(const std::string& endings) {
-    const QString all = toQt(tr("All files (*)"));
+    const QString all = toQt(tr("All files")) + QStringLiteral(" (*)");
     if (endings == "all" || endings == "text")
         return {all};
     QStringList patterns;
@@ -53,7 +53,7 @@ QStringList nameFilters(const std::string& endings) {
 
 /// The desktop's own settings are not asked: finding them can hold up the program for seconds.
 QNetworkProxy proxyOfEnvironment() {
-    const QUrl proxy(qEnvironmentVariable("http_proxy"));
+    const QUrl proxy = QUrl::fromUserInput(qEnvironmentVariable("http_proxy"));
     if (proxy.host().isEmpty())
         return QNetworkProxy(QNetworkProxy::NoProxy);
     constexpr int usualPort = 80;

@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QShortcut>
 
 #include "platform/qt/calendar_peer.h"
 #include "platform/qt/event_guard.h"
@@ -120,15 +121,18 @@ void ContentArea::resizeEvent(QResizeEvent* event) {
 // WindowFrame
 
 WindowFrame::WindowFrame(Window& window, QWidget* owner, std::function<Window*()> front)
-    : QMainWindow(owner, flagsOf(window.kind())), window_(&window), content_(new ContentArea(
-                                                                        window, [this] { tellBounds(); }, this)) {
+    : QMainWindow(owner, flagsOf(window.kind())), window_(&window) {
+    content_ = new ContentArea(
+        window, [this] { tellBounds(); }, this);
     // Frames count from the left. A table that Qt turned around would have its readings under the wrong headings.
     setLayoutDirection(Qt::LeftToRight);
     setContextMenuPolicy(Qt::NoContextMenu); // Qt's own would hide the toolbar
     if (window.kind() == Window::Kind::dialog)
-        setWindowModality(Qt::WindowModal);
+        setWindowModality(Qt::ApplicationModal);
     if (MenuBar* bar = window.menuBar())
         setMenuBar(new MenuPeer(*bar, std::move(front), this));
+    else if (window.kind() != Window::Kind::splash)
+        connect(new QShortcut(QKeySequence::Close, this), &QShortcut::activated, this, &QWidget::close);
     if (Toolbar* toolbar = window.toolbar()) {
         auto* peer = new ToolbarPeer(*toolbar, this);
         toolbar_ = peer;

@@ -1,6 +1,7 @@
 /// What assistive programs see of the windows.
 #include <QAccessible>
 #include <QTabWidget>
+#include <QToolTip>
 
 #include "qt/qt_desk.h"
 
@@ -33,6 +34,8 @@ private:
         const bool takesKeys = widget != nullptr && widget->focusPolicy() != Qt::NoFocus &&
                                qobject_cast<const QTabWidget*>(widget) == nullptr; // its bar has the tabs
         const bool isOurs = item->role() != QAccessible::Client || takesKeys;
+        if (item->role() == QAccessible::Button && !isWithinQt(widget))
+            EXPECT_TRUE(takesKeys) << "out of reach of the keyboard: " << fromQt(item->text(QAccessible::Name));
         if (role != roles.end() && isOurs)
             all.push_back(std::string(role->second) + ": " + fromQt(item->text(QAccessible::Name)));
         if (item->role() == QAccessible::Table)
@@ -81,6 +84,10 @@ TEST_F(AccessibilityTest, CellsAreReadWithAllThatBelongsToThem) {
     list().ActiveCell().SelectAll();
     QTest::keyClicks(editor(), "1O");
     EXPECT_EQ(editor()->accessibleName(), "Before Breakfast, 1/1/2026, 1O, counts as 1, too low");
+    QCoreApplication::processEvents(); // the window has come to the front
+    QTest::keyClick(editor(), Qt::Key_Tab);
+    EXPECT_TRUE(QTest::qWaitFor([] { return QToolTip::text() == "counts as 1"; }))
+        << "also when no pointer rests on the cell";
 }
 
 TEST_F(AccessibilityTest, APictureButtonCanBePressedFromOutside) {

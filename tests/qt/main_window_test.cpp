@@ -254,11 +254,13 @@ TEST_F(MainWindowTest, TheGraphGrowsWithItsWindowAndAnswersThePrintItem) {
 }
 
 TEST_F(MainWindowTest, ReadingsStandUnderTheirHeadingsWhereOneWritesFromTheRight) {
-    startOn("1/1/2026@#@5.6@#@7@#@@#@13.1\n");
+    const std::string days = "1/1/2026@#@5.6@#@7@#@@#@13.1\n";
+    startOn(days);
     const QImage before = frame_->grab().toImage();
-    app_.reset();
+    TearDown();
+    SetUp();
     QGuiApplication::setLayoutDirection(Qt::RightToLeft);
-    start();
+    startOn(days);
     const QImage after = frame_->grab().toImage();
     QGuiApplication::setLayoutDirection(Qt::LeftToRight);
     EXPECT_EQ(after, before);

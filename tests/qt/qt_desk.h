@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QApplication>
+#include <QCalendarWidget>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QTabBar>
 #include <QTest>
 #include <QToolButton>
 
@@ -80,6 +82,13 @@ protected:
                 frame != nullptr && frame->isVisible() && frame->windowTitle() == title)
                 return frame;
         return nullptr;
+    }
+    /// Parts of a calendar and the arrows beside tabs, with texts and keys of Qt's.
+    static bool isWithinQt(const QWidget* widget) {
+        for (const QWidget* parent = widget->parentWidget(); parent != nullptr; parent = parent->parentWidget())
+            if (qobject_cast<const QCalendarWidget*>(parent) || qobject_cast<const QTabBar*>(parent))
+                return true;
+        return false;
     }
     /// The button with that text.
     template <class Button>

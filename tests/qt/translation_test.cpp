@@ -1,9 +1,7 @@
 #include <QAbstractButton>
-#include <QCalendarWidget>
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
-#include <QTabBar>
 
 #include "qt/qt_desk.h"
 #include "support/pseudo_locale.h"
@@ -34,14 +32,6 @@ QStringList textsOf(const QWidget* widget) {
     return texts;
 }
 
-/// Days and months in a calendar, and the arrows beside tabs.
-bool bringsTextsOfQt(const QWidget* widget) {
-    for (const QWidget* parent = widget->parentWidget(); parent != nullptr; parent = parent->parentWidget())
-        if (qobject_cast<const QCalendarWidget*>(parent) || qobject_cast<const QTabBar*>(parent))
-            return true;
-    return false;
-}
-
 class TranslationTest : public QtDesk {
 protected:
     PseudoLocale pseudo_;
@@ -57,7 +47,7 @@ TEST_F(TranslationTest, EveryTextOfEveryWindowCameOutOfTheLookup) {
         QList<QWidget*> widgets = frame->findChildren<QWidget*>();
         widgets << frame;
         for (const QWidget* widget : widgets)
-            for (const QString& text : bringsTextsOfQt(widget) ? QStringList() : textsOf(widget))
+            for (const QString& text : isWithinQt(widget) ? QStringList() : textsOf(widget))
                 if (text != QStringLiteral("Tallyvane"))
                     EXPECT_EQ(PseudoLocale::untranslated(fromQt(text)), "") << fromQt(frame->windowTitle());
     }

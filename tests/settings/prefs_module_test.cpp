@@ -109,6 +109,13 @@ TEST_F(PrefsTest, AMissingDataFolderGivesWayToTheApplicationFolder) {
     check(folder_ / "gone", false);
     check(folder_ / "file", false);
     check("days", false); // no path
+
+    // Files that were brought from a computer where the user's home is another.
+    SpecialFolder::UserHome = GetFolderItem(folder_.string());
+    StartupGlobals::gMissingDataFolder.clear();
+    readPreferences("true\n1\n2\n3\n4\n\n\n\n/home/once/Tallyvane\nword\n");
+    EXPECT_EQ(dataFolder(), (folder_ / "Tallyvane").string());
+    EXPECT_EQ(StartupGlobals::gMissingDataFolder, "");
 }
 
 TEST_F(PrefsTest, SavesTenLinesIntoTheDataFolderAndReadsThemBack) {

@@ -1,0 +1,71 @@
+#!/usr/bin/env bash
+# Kills the program in the middle of saving a large table, again and again, and looks at what is left of the days.
+# Usage: killed_while_saving.sh PROGRAM [ROUNDS [DAYS]]
+# The days lie on the disk in a form that the program writes anew from the first line on: every save is a whole one.
+set -euo pipefail
+program=$1
+rounds=${2:-15}
+days=${3:-20000}
+
+home=$(mktemp -d)
+trap 'kill -KILL "${pid:-}" 2>/dev/null || true; rm -rf "$home"' EXIT
+mkdir -p "$home/data/Tallyvane" "$home/run"
+chmod 700 "$home/run"
+export XDG_DATA_HOME="$home/data" XDG_RUNTIME_DIR="$home/run" QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8
+export http_proxy=http://127.0.0.1:9 # nobody listens there
+folder="$home/data/Tallyvane"
+file="$folder/7VXData"
+
+fail() {
+    echo "FAILED: $*" >&2
+    exit 1
+}
+
+awk -v days="$days" 'BEGIN {
+    for (day = 0; day < days; ++day)
+        printf "%04d-%02d-%02d@#@%.1f@#@%.1f\r\n", 2300 - int(day / 336), 12 - int(day / 28) % 12, 28 - day % 28,
+            4 + day % 9, 5 + day % 7
+}' >"$home/before"
+
+# Starts the program, and as soon as it has claimed its folder asks it to end, which makes it load, save and end.
+start_and_end() {
+    cp "$home/before" "$file"
+    "$program" 2>/dev/null &
+    pid=$!
+    until readlink /proc/"$pid"/fd/* 2>/dev/null | grep -qx "$folder"; do sleep 0.01; done
+    kill -TERM "$pid"
+}
+
+milliseconds() { date +%s%3N; }
+
+start_and_end
+begin=$(milliseconds)
+wait "$pid" || fail "an undisturbed end fails"
+length=$(($(milliseconds) - begin))
+cp "$file" "$home/after"
+! cmp -s "$home/before" "$home/after" || fail "nothing was saved"
+
+old=0 new=0 mixed=0 lost=0 worst=0
+for ((round = 0; round < rounds; ++round)); do
+    start_and_end
+    delay=$((RANDOM * length / 32768))
+    sleep "$(printf '0.%03d' "$delay")"
+    kill -KILL "$pid" 2>/dev/null || true
+    wait "$pid" 2>/dev/null || true
+    flock "$folder" true # until nobody holds it any more
+    if cmp -s "$file" "$home/after"; then
+        new=$((new + 1))
+    elif cmp -s "$file" "$home/before"; then
+        old=$((old + 1))
+    else
+        mixed=$((mixed + 1))
+        damaged=$(awk 'FNR == NR || FILENAME != ARGV[3] { known[$0]; next } !($0 in known)' \
+            "$home/before" "$home/after" "$file" | wc -l)
+        missing=$(awk -F@ 'FILENAME == ARGV[1] { there[$1]; next } !($1 in there)' "$file" "$home/before" | wc -l)
+        lost=$((lost + missing))
+        ((missing <= worst)) || worst=$missing
+        echo "round $round, killed after $delay ms: $damaged damaged lines, $missing days not there"
+    fi
+done
+echo "$rounds kills within $length ms: $old old, $new new, $mixed mixed; $lost days lost, $worst at most in one"
+((mixed == 0)) || fail "the file was caught half written"
