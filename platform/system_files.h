@@ -47,7 +47,8 @@ public:
     ~Replacement();
 
     /// Makes `text` the content of the file and sees it to the disk. Only the range that differs is written, after
-    /// room for it was reserved. Throws IOException, with the old content back in place, when any step fails.
+    /// room for it was reserved, and it is written to its end even if the program is killed meanwhile. Throws
+    /// IOException, with the old content back in place, when any step fails.
     void replace(const std::string& text);
 
 private:

@@ -5,6 +5,7 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -137,6 +138,45 @@ void restore(int file, const std::string& content) {
     static_cast<void>(back && cut && flushed); // the caller already reports the failure
 }
 
+/// Turns the file into `after`, or leaves it as it was.
+bool overwriteOrRestore(int file, const std::string& before, const std::string& after) {
+    if (overwrite(file, before, after))
+        return true;
+    restore(file, before);
+    return false;
+}
+
+/// Reads the writer's answer: true for "done". Nothing when it ended without one.
+std::optional<bool> answerOf(int pipe) {
+    char answer = 0;
+    ssize_t got = 0;
+    do
+        got = ::read(pipe, &answer, 1);
+    while (got < 0 && errno == EINTR);
+    return got == 1 ? std::optional(answer == 'y') : std::nullopt;
+}
+
+/// Does the same in a process of its own session, which ends its work when this one is killed in the middle. It may
+/// use nothing that another thread could hold a lock on, memory above all. Where no process can be had, the work is
+/// done here.
+bool overwriteInWriter(int file, const std::string& before, const std::string& after) {
+    int ends[2];
+    if (::pipe2(ends, O_CLOEXEC) != 0)
+        return overwriteOrRestore(file, before, after);
+    const pid_t writer = ::fork();
+    if (writer == 0) {
+        ::setsid();
+        const char answer = overwriteOrRestore(file, before, after) ? 'y' : 'n';
+        ::_exit(::write(ends[1], &answer, 1) == 1 ? 0 : 1);
+    }
+    ::close(ends[1]);
+    std::optional<bool> done = writer > 0 ? answerOf(ends[0]) : std::nullopt;
+    ::close(ends[0]);
+    while (writer > 0 && ::waitpid(writer, nullptr, 0) < 0 && errno == EINTR) {
+    }
+    return done ? *done : overwriteOrRestore(file, before, after); // also where the writer alone was killed
+}
+
 } // namespace
 
 Kind kindOf(const std::string& path) {
@@ -197,10 +237,8 @@ void Replacement::replace(const std::string& text) {
         const bool released = cutAt(file_, before->size());
         throw IOException((released ? "no room for " : "no room, and none given back, for ") + path_);
     }
-    if (!overwrite(file_, *before, text)) {
-        restore(file_, *before);
+    if (*before != text && !overwriteInWriter(file_, *before, text))
         throw IOException("can't write " + path_);
-    }
     if (std::exchange(made_, false) && !flushFolderOf(path_))
         throw IOException("can't enter " + path_ + " into its folder");
     if (::close(std::exchange(file_, -1)) != 0)
@@ -210,10 +248,16 @@ void Replacement::replace(const std::string& text) {
 FolderClaim::FolderClaim(int file) : file_(file) {}
 
 std::unique_ptr<FolderClaim> FolderClaim::take(const std::string& path) {
+    // The writer of a program that was killed holds the folder for moments more.
+    constexpr int mostTries = 20;
+    constexpr useconds_t pauseMicroseconds = 20'000;
     const int folder = ::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (folder >= 0 && ::flock(folder, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
-        ::close(folder);
-        return nullptr;
+    for (int tries = 1; folder >= 0 && ::flock(folder, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK; ++tries) {
+        if (tries == mostTries) {
+            ::close(folder);
+            return nullptr;
+        }
+        ::usleep(pauseMicroseconds);
     }
     return std::unique_ptr<FolderClaim>(new FolderClaim(folder));
 }

@@ -22,6 +22,10 @@ void MsgBox(const std::string& text) {
         theToolkit->message(text);
 }
 
+bool Ask(const std::string& question, const std::string& yes, const std::string& no) {
+    return theToolkit != nullptr && theToolkit->ask(question, yes, no);
+}
+
 void Beep() {
     if (theToolkit != nullptr)
         theToolkit->beep();

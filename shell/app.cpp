@@ -10,6 +10,7 @@
 #include "settings/data_files.h"
 #include "settings/globals.h"
 #include "settings/prefs_module.h"
+#include "settings/snapshots.h"
 #include "shell/menu_bar1.h"
 
 namespace tallyvane {
@@ -93,6 +94,16 @@ void App::giveWay() {
     Quit(0);
 }
 
+/// A table that the disk or the power took away is not brought back, or given up, without a word.
+void App::offerCopyOfDays() {
+    const std::optional<Snapshots::Copy> copy = Snapshots::fullerThanTable();
+    if (copy &&
+        Ask(tr("The file with your days is empty or cut off. The copy of %1 holds %2 days. Do you want it back?",
+               {copy->day.ShortDate(), std::to_string(copy->days)}),
+            tr("Bring It Back"), tr("Go On Without It")))
+        Snapshots::bringBack(*copy);
+}
+
 void App::bringUpMainWindow() {
     if (!claim(StartupGlobals::gDataFolder)) {
         MsgBox(tr("The days in \u201c%1\u201d are open in another Tallyvane. Close that one first, then start again.",
@@ -100,6 +111,8 @@ void App::bringUpMainWindow() {
         giveWay();
         return;
     }
+    offerCopyOfDays();
+    Snapshots::take(Date()); // before anything is saved
     auto window = std::make_unique<Window1>(toolbar_, menuBar);
     joinWindows(*window);
     joinMenus(*window);
