@@ -113,8 +113,11 @@ void GTGraph::Draw(Graphics& g) {
         (first->XAxis().top() ? top : bottom) += first->XAxisHeight(truncated(g.Height()));
         (first->YAxis().left() ? left : right) += first->YAxisWidth(truncated(g.Width()));
     }
-    const int plotHeight = (isPrintingOn() ? printedHeight : truncated(g.Height())) - top - bottom;
-    const int plotWidth = truncated(g.Width()) - left - right;
+    // Negative margins move the plot; they don't make it larger than the surface.
+    const int height = isPrintingOn() ? printedHeight : truncated(g.Height());
+    const int width = truncated(g.Width());
+    const int plotHeight = std::min(height, height - top - bottom);
+    const int plotWidth = std::min(width, width - left - right);
     if (plotHeight < 1 || plotWidth < 1)
         return;
 

@@ -2,16 +2,14 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 namespace tallyvane {
 
 int truncated(double value) {
     if (std::isnan(value))
         return 0;
-    constexpr double lowest = std::numeric_limits<int>::min();
-    constexpr double highest = std::numeric_limits<int>::max();
-    return static_cast<int>(std::clamp(value, lowest, highest));
+    constexpr double farthest = 100'000'000; // beyond every surface, and sums of a few still fit
+    return static_cast<int>(std::clamp(value, -farthest, farthest));
 }
 
 int truncatedPlace(double steppedTo) {

@@ -3,7 +3,8 @@
 
 namespace tallyvane {
 
-/// The whole part, towards zero; the nearest int for a number beyond it, 0 for no number.
+/// The whole part, towards zero; a hundred millions for a number beyond it, so that sums of a few places still fit, 0
+/// for no number.
 int truncated(double value);
 /// The same for a place that was reached by many small steps: one that only the rounding of the steps holds back from a
 /// whole number is that number.

@@ -30,9 +30,9 @@ std::string storableName(std::string name) {
 }
 
 /// A target in which no separator can be found: inside, its characters are encoded as addresses allow it. A "#" at its
-/// end leads nowhere, and would become part of the separator that follows.
+/// end leads nowhere, and would become part of the separator that follows; line ends there are not kept.
 std::string storableTarget(std::string_view target) {
-    target = target.substr(0, target.find_last_not_of('#') + 1);
+    target = target.substr(0, target.find_last_not_of("#\r\n") + 1);
     return ReplaceAll(ReplaceAll(target, DataFiles::entrySeparator, "%23%23%23"), DataFiles::subfieldSeparator,
                       "%40%40%40");
 }
