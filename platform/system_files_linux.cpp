@@ -3,7 +3,6 @@
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
-#include <sched.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -11,9 +10,7 @@
 
 #include <algorithm>
 #include <csignal>
-#include <cstdint>
 #include <utility>
-#include <vector>
 
 namespace tallyvane::SystemFiles {
 
@@ -150,37 +147,42 @@ bool overwriteOrRestore(int file, const std::string& before, const std::string& 
     return false;
 }
 
-/// A save as its writer gets it.
-struct Save {
-    int file;
-    const std::string& before;
-    const std::string& after;
-    enum { unanswered, done, failed } answer = unanswered;
-};
+/// Reads the writer's answer: true for "done". Nothing when it ended without one.
+std::optional<bool> answerOf(int pipe) {
+    char answer = 0;
+    ssize_t got = 0;
+    do
+        got = ::read(pipe, &answer, 1);
+    while (got < 0 && errno == EINTR);
+    return got == 1 ? std::optional(answer == 'y') : std::nullopt;
+}
 
-/// The writer. It shares the memory of the program, of which the thread that waits for it stands still; the others go
-/// on, so it may take no lock, and no memory.
-int writeInOwnSession(void* argument) {
-    Save& save = *static_cast<Save*>(argument);
+/// What the writer does: it may use nothing that another thread of the program could have held a lock on when it was
+/// copied, memory above all. No signal but a kill of its own ends it.
+[[noreturn]] void writeAndAnswer(int file, const std::string& before, const std::string& after, int pipe) {
+    sigset_t all;
+    ::sigfillset(&all);
+    ::sigprocmask(SIG_BLOCK, &all, nullptr);
     ::setsid();
-    save.answer = overwriteOrRestore(save.file, save.before, save.after) ? Save::done : Save::failed;
-    return 0;
+    const char answer = overwriteOrRestore(file, before, after) ? 'y' : 'n';
+    ::_exit(::write(pipe, &answer, 1) == 1 ? 0 : 1);
 }
 
 /// Does the same in a process of its own session, which ends its work when this one is killed in the middle. Where no
 /// process can be had, the work is done here.
 bool overwriteInWriter(int file, const std::string& before, const std::string& after) {
-    constexpr std::size_t stackSize = 256 * 1024;
-    std::vector<char> stack(stackSize);
-    const auto end = reinterpret_cast<std::uintptr_t>(stack.data() + stack.size()) & ~std::uintptr_t{15};
-    Save save{file, before, after};
-    const pid_t writer =
-        ::clone(writeInOwnSession, reinterpret_cast<void*>(end), CLONE_VM | CLONE_VFORK | SIGCHLD, &save);
+    int ends[2];
+    if (::pipe2(ends, O_CLOEXEC) != 0)
+        return overwriteOrRestore(file, before, after);
+    const pid_t writer = ::fork();
+    if (writer == 0)
+        writeAndAnswer(file, before, after, ends[1]);
+    ::close(ends[1]);
+    std::optional<bool> done = writer > 0 ? answerOf(ends[0]) : std::nullopt;
+    ::close(ends[0]);
     while (writer > 0 && ::waitpid(writer, nullptr, 0) < 0 && errno == EINTR) {
     }
-    if (save.answer == Save::unanswered) // also where the writer alone was killed
-        return overwriteOrRestore(file, before, after);
-    return save.answer == Save::done;
+    return done ? *done : overwriteOrRestore(file, before, after); // also where the writer alone was killed
 }
 
 } // namespace

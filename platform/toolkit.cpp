@@ -22,8 +22,8 @@ void MsgBox(const std::string& text) {
         theToolkit->message(text);
 }
 
-bool Ask(const std::string& question, const std::string& yes, const std::string& no) {
-    return theToolkit != nullptr && theToolkit->ask(question, yes, no);
+Answer Ask(const std::string& question, const std::string& yes, const std::string& no) {
+    return theToolkit != nullptr ? theToolkit->ask(question, yes, no) : Answer::none;
 }
 
 void Beep() {

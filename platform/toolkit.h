@@ -12,6 +12,9 @@
 
 namespace tallyvane {
 
+/// To a question. None when the program was ended meanwhile.
+enum class Answer { yes, no, none };
+
 /// What the program asks of the desktop that it runs on. One is in force at a time; with none, windows work unseen
 /// and messages go nowhere.
 class Toolkit {
@@ -29,8 +32,8 @@ public:
     virtual std::shared_ptr<Bitmap> makeBitmap(int width, int height) = 0;
     /// A modal message with one button; returns when the user has pressed it.
     virtual void message(const std::string& text) = 0;
-    /// A modal question with a button for each answer; true for the first. Escape gives the second.
-    virtual bool ask(const std::string& question, const std::string& yes, const std::string& no) = 0;
+    /// A modal question with a button for each answer. Escape gives the second.
+    virtual Answer ask(const std::string& question, const std::string& yes, const std::string& no) = 0;
     virtual void beep() = 0;
     /// The absolute path that the user chose; "" when the dialog was cancelled.
     virtual std::string askWhereToSave(const SaveAsDialog& dialog) = 0;
@@ -59,8 +62,8 @@ public:
 
 /// A modal message with one button.
 void MsgBox(const std::string& text);
-/// A modal question; true for the first answer. Nobody there to answer gives the second.
-[[nodiscard]] bool Ask(const std::string& question, const std::string& yes, const std::string& no);
+/// A modal question.
+[[nodiscard]] Answer Ask(const std::string& question, const std::string& yes, const std::string& no);
 /// The system sound.
 void Beep();
 /// Hands a "http:", "https:" or "mailto:" address to the desktop, and a text that begins with "www" as one of "http:".

@@ -39,7 +39,11 @@ bool isApplicationFolderOfAnotherHome(std::string_view path) {
     const std::optional<FolderItem> folder = DataFiles::applicationFolder();
     const std::string home = SpecialFolder::UserHome ? SpecialFolder::UserHome->AbsolutePath() : "";
     const std::string own = folder ? folder->AbsolutePath() : "";
-    return !home.empty() && own.starts_with(home + "/") && path.ends_with(own.substr(home.size()));
+    if (home.empty() || !own.starts_with(home + "/") || !path.ends_with(own.substr(home.size())))
+        return false;
+    const std::string_view otherHome = path.substr(0, path.size() - (own.size() - home.size()));
+    const auto placeOf = [](std::string_view folderPath) { return folderPath.substr(0, folderPath.rfind('/')); };
+    return placeOf(otherHome) == placeOf(home);
 }
 
 /// Takes the folder that the preferences name; an empty path names the application's folder.

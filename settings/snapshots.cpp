@@ -16,11 +16,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Of the files in the application's folder; the table can lie elsewhere. Details are not ours to write, and not lost.
-constexpr std::array<std::string_view, 8> files{DataFiles::preferences, DataFiles::headings,   DataFiles::runningLogs,
-                                                DataFiles::journal,     DataFiles::windowData, DataFiles::contacts,
-                                                DataFiles::medications, DataFiles::dayTable};
+/// Of the application's folder. Details are not ours to write, and not lost.
+constexpr std::array<std::string_view, 7> outerFiles{
+    DataFiles::preferences, DataFiles::headings, DataFiles::runningLogs, DataFiles::journal,
+    DataFiles::windowData,  DataFiles::contacts, DataFiles::medications};
 constexpr std::array<std::string_view, 2> innerFiles{DataFiles::runningLogs, DataFiles::resources};
+/// Names the folder of the table in a set, if that was not the application's.
+constexpr std::string_view tableFolderFile = "Folder of 7VXData";
 
 std::string tablePath() {
     const std::optional<FolderItem>& folder = StartupGlobals::gDataFolder;
@@ -28,66 +30,108 @@ std::string tablePath() {
     return table ? table->AbsolutePath() : "";
 }
 
+/// "" for the application's folder.
+std::string tableFolder() {
+    const std::optional<FolderItem>& folder = StartupGlobals::gDataFolder;
+    return !folder || folder == DataFiles::applicationFolder() ? "" : folder->AbsolutePath();
+}
+
 std::optional<fs::path> snapshotsFolder() {
     const std::optional<FolderItem> folder = DataFiles::applicationFile("Snapshots");
-    return folder ? std::optional<fs::path>(folder->AbsolutePath()) : std::nullopt;
+    const bool isOfTheUsersTable = StartupGlobals::gMissingDataFolder.empty() && !tablePath().empty();
+    return folder && isOfTheUsersTable ? std::optional<fs::path>(folder->AbsolutePath()) : std::nullopt;
 }
 
 std::string nameOf(const Date& day) {
     return Format(day.Year(), "0000") + "-" + Format(day.Month(), "00") + "-" + Format(day.Day(), "00");
 }
 
-/// The days of which there is a set, the newest first.
-std::vector<Date> daysKept(const fs::path& folder) {
+/// The day of a set; nothing for any other name.
+std::optional<Date> dayOf(const std::string& name) {
+    const auto number = [&name](std::size_t from, std::size_t count) {
+        return static_cast<int>(from < name.size() ? Val(name.substr(from, count)) : 0);
+    };
+    const int year = number(0, 4);
+    const int month = number(5, 2);
+    const int day = number(8, 2);
+    if (!Date::isDay(year, month, day) || nameOf(Date(year, month, day)) != name)
+        return std::nullopt;
+    return Date(year, month, day);
+}
+
+/// The days of which there is a set, the newest first, those after today last.
+std::vector<Date> daysKept(const fs::path& folder, const Date& today) {
     std::vector<Date> days;
-    std::error_code noFolder;
-    for (const auto& entry : fs::directory_iterator(folder, noFolder)) {
-        const std::string name = entry.path().filename();
-        if (const std::optional<Date> day = ParseDate(name); day && nameOf(*day) == name)
+    std::error_code failed;
+    for (fs::directory_iterator entry(folder, failed); !failed && entry != fs::directory_iterator();
+         entry.increment(failed))
+        if (const std::optional<Date> day = dayOf(entry->path().filename()))
             days.push_back(*day);
-    }
-    std::sort(days.begin(), days.end(),
-              [](const Date& a, const Date& b) { return a.TotalSeconds() > b.TotalSeconds(); });
+    const auto isToCome = [&today](const Date& day) { return day.TotalSeconds() > today.TotalSeconds(); };
+    std::sort(days.begin(), days.end(), [&](const Date& a, const Date& b) {
+        return isToCome(a) != isToCome(b) ? isToCome(b) : a.TotalSeconds() > b.TotalSeconds();
+    });
     return days;
 }
 
-void write(const fs::path& path, const std::string& content) {
+void writeFile(const fs::path& path, const std::string& content) {
     const auto file = SystemFiles::Replacement::open(path);
     if (!file)
         throw IOException("can't write " + path.string());
     file->replace(content);
 }
 
-/// A file that is not there is not missed.
-void copyFile(const fs::path& from, const fs::path& to) {
+/// A file that is not there is not missed; one that is and can't be read is.
+void copyIfThere(const fs::path& from, const fs::path& to) {
     if (const std::optional<std::string> content = SystemFiles::read(from))
-        write(to, *content);
+        writeFile(to, *content);
+    else if (SystemFiles::kindOf(from) == SystemFiles::Kind::file)
+        throw IOException("can't read " + from.string());
 }
 
 void copyAll(const fs::path& source, const fs::path& target) {
     const std::string inner(DataFiles::applicationName);
+    fs::remove_all(target); // of a start that was killed
     for (const fs::path& folder : {target, target / inner})
-        if (!fs::is_directory(folder) && !SystemFiles::makeFolder(folder))
+        if (!SystemFiles::makeFolder(folder))
             throw IOException("can't make " + folder.string());
-    for (const std::string_view name : files)
-        copyFile(name == DataFiles::dayTable ? fs::path(tablePath()) : source / name, target / name);
+    copyIfThere(tablePath(), target / DataFiles::dayTable);
+    for (const std::string_view name : outerFiles)
+        copyIfThere(source / name, target / name);
     for (const std::string_view name : innerFiles)
-        copyFile(source / inner / name, target / inner / name);
+        copyIfThere(source / inner / name, target / inner / name);
+    if (!tableFolder().empty())
+        writeFile(target / tableFolderFile, tableFolder());
 }
 
-int countDays(std::string_view table) { return static_cast<int>(std::count(table.begin(), table.end(), '\n')); }
+/// Lines that have an end, and something before it.
+int countDays(std::string_view table) {
+    int days = 0;
+    bool isEmpty = true;
+    for (const char c : table) {
+        const bool isEnd = c == '\n' || c == '\r';
+        days += isEnd && !isEmpty;
+        isEmpty = isEnd;
+    }
+    return days;
+}
+
+/// A power cut leaves blocks of zeros; our own last line has an end.
+bool isWhole(std::string_view table) {
+    return (table.ends_with('\n') || table.ends_with('\r')) && table.find('\0') == std::string_view::npos;
+}
 
 } // namespace
 
 void take(const Date& today) {
     const std::optional<fs::path> folder = snapshotsFolder();
-    if (!folder || !StartupGlobals::gMissingDataFolder.empty() || SystemFiles::read(tablePath()).value_or("").empty())
+    if (!folder || SystemFiles::read(tablePath()).value_or("").empty())
         return;
     const fs::path set = *folder / nameOf(today);
-    const fs::path unfinished = *folder / "unfinished";
-    std::error_code failed; // leaves things as they were
+    std::error_code failed;
     if (fs::exists(set, failed) || (!fs::is_directory(*folder, failed) && !SystemFiles::makeFolder(*folder)))
         return;
+    const fs::path unfinished = *folder / "unfinished";
     try {
         copyAll(folder->parent_path(), unfinished);
         fs::rename(unfinished, set);
@@ -95,33 +139,44 @@ void take(const Date& today) {
         fs::remove_all(unfinished, failed);
         return;
     }
-    const std::vector<Date> days = daysKept(*folder);
-    for (std::size_t i = mostKept; i < days.size(); ++i)
-        fs::remove_all(*folder / nameOf(days[i]), failed);
+    std::vector<Date> days = daysKept(*folder, today);
+    for (; days.size() > mostKept; days.pop_back())
+        fs::remove_all(*folder / nameOf(days.back()), failed);
 }
 
-std::optional<Copy> fullerThanTable() {
-    const std::string path = tablePath();
+bool tableIsUnreadable() {
+    return SystemFiles::kindOf(tablePath()) == SystemFiles::Kind::file && !SystemFiles::read(tablePath());
+}
+
+std::optional<Copy> fullerThanTable(const Date& today) {
     const std::optional<fs::path> folder = snapshotsFolder();
-    if (path.empty() || !folder || !StartupGlobals::gMissingDataFolder.empty())
+    const SystemFiles::Kind kind = SystemFiles::kindOf(tablePath());
+    if (!folder || (kind != SystemFiles::Kind::none && kind != SystemFiles::Kind::file))
         return std::nullopt;
-    const std::optional<std::string> content = SystemFiles::read(path);
-    if (!content && SystemFiles::kindOf(path) != SystemFiles::Kind::none) // it is there, and nobody knows what it holds
+    const std::string table = SystemFiles::read(tablePath()).value_or("");
+    if (isWhole(table))
         return std::nullopt;
-    const std::string table = content.value_or("");
-    if (table.ends_with('\n'))
-        return std::nullopt;
-    for (const Date& day : daysKept(*folder)) {
-        const fs::path copy = *folder / nameOf(day) / DataFiles::dayTable;
-        if (const int days = countDays(SystemFiles::read(copy).value_or("")); days > countDays(table))
-            return Copy{day, days, copy};
+    for (const Date& day : daysKept(*folder, today)) {
+        const fs::path set = *folder / nameOf(day);
+        const int days = countDays(SystemFiles::read(set / DataFiles::dayTable).value_or(""));
+        const bool isOfThisTable = SystemFiles::read(set / tableFolderFile).value_or("") == tableFolder();
+        if (isOfThisTable && days > countDays(table))
+            return Copy{day, days, countDays(table), set / DataFiles::dayTable};
     }
     return std::nullopt;
 }
 
+std::string keepDamagedTable(const Date& today) {
+    const fs::path kept = tablePath() + " damaged " + nameOf(today);
+    copyIfThere(tablePath(), kept);
+    return kept.filename();
+}
+
 void bringBack(const Copy& copy) {
-    copyFile(tablePath(), tablePath() + " damaged");
-    copyFile(copy.path, tablePath());
+    const std::optional<std::string> days = SystemFiles::read(copy.path);
+    if (!days)
+        throw IOException("can't read " + copy.path);
+    writeFile(tablePath(), *days);
 }
 
 } // namespace tallyvane::Snapshots

@@ -11,23 +11,33 @@ namespace tallyvane::Snapshots {
 inline constexpr int mostKept = 30;
 
 /// Copies the files into a folder named after the day, such as "Snapshots/2026-11-22" in the application's folder, if
-/// it has none yet and the table holds anything; older sets than the newest thirty go. A set is whole or not there.
-/// Nothing is told of a disk that takes no copies: the files themselves are unharmed.
+/// it has none yet and the table holds anything. Of the sets the newest thirty are kept, today's among them; those of
+/// days to come, from a clock that was wrong, go first. A set is whole or not there. Nothing is told of a disk that
+/// takes no copies: the files themselves are unharmed.
 void take(const Date& today);
+
+/// Whether the table is there and can't be read, so that nobody knows what it holds.
+[[nodiscard]] bool tableIsUnreadable();
 
 /// A copy of the day table.
 struct Copy {
     Date day;
     int days = 0; // that it holds
+    int daysOfTable = 0; // that the table holds, whole ones
     std::string path;
 };
 
-/// The newest copy that holds more days than the table, if the table is missing, empty or ends within a line. Nothing
-/// for a table that is whole, and while the user's data folder is away.
-[[nodiscard]] std::optional<Copy> fullerThanTable();
+/// The newest copy up to today, by the days of the sets, that holds more days than the table, if the table is missing,
+/// empty, ends within a line or has lost blocks. Nothing for a table that is whole, while the user's data folder is
+/// away, and of copies of a table in another folder.
+[[nodiscard]] std::optional<Copy> fullerThanTable(const Date& today);
 
-/// Makes the copy the table. What the table held is kept as "7VXData damaged" beside it. Throws IOException when the
-/// disk fails; the table then is as it was.
+/// Keeps what the table holds now under another name beside it, such as "7VXData damaged 2026-11-22", and tells that
+/// name. Throws IOException when the disk fails.
+std::string keepDamagedTable(const Date& today);
+
+/// Makes the copy the table. Throws IOException when the copy can't be read or the disk fails; the table then is as it
+/// was.
 void bringBack(const Copy& copy);
 
 } // namespace tallyvane::Snapshots

@@ -94,14 +94,28 @@ void App::giveWay() {
     Quit(0);
 }
 
-/// A table that the disk or the power took away is not brought back, or given up, without a word.
-void App::offerCopyOfDays() {
-    const std::optional<Snapshots::Copy> copy = Snapshots::fullerThanTable();
-    if (copy &&
-        Ask(tr("The file with your days is empty or cut off. The copy of %1 holds %2 days. Do you want it back?",
-               {copy->day.ShortDate(), std::to_string(copy->days)}),
-            tr("Bring It Back"), tr("Go On Without It")))
+/// A table that can't be read must not be replaced by an empty one. One that the disk or the power took away is not
+/// brought back without a word. False when nothing is to be opened.
+bool App::tableIsReady() {
+    if (Snapshots::tableIsUnreadable()) {
+        MsgBox(
+            tr("The file with your days is there and can't be read, in \u201c%1\u201d. Nothing is opened, so that it "
+               "stays as it is.",
+               {StartupGlobals::gDataFolder->AbsolutePath()}));
+        return false;
+    }
+    const std::optional<Snapshots::Copy> copy = Snapshots::fullerThanTable(Date());
+    if (!copy)
+        return true;
+    const std::string kept = Snapshots::keepDamagedTable(Date());
+    const Answer answer = Ask(
+        tr("The file with your days is empty or cut off: it holds %1 whole days. The copy of %2 holds %3 days. Do you "
+           "want it back in its place? What the file holds now is kept as \u201c%4\u201d.",
+           {std::to_string(copy->daysOfTable), copy->day.ShortDate(), std::to_string(copy->days), kept}),
+        tr("Bring It Back"), tr("Go On Without It"));
+    if (answer == Answer::yes)
         Snapshots::bringBack(*copy);
+    return answer != Answer::none;
 }
 
 void App::bringUpMainWindow() {
@@ -111,7 +125,10 @@ void App::bringUpMainWindow() {
         giveWay();
         return;
     }
-    offerCopyOfDays();
+    if (!tableIsReady()) {
+        Quit(1);
+        return;
+    }
     Snapshots::take(Date()); // before anything is saved
     auto window = std::make_unique<Window1>(toolbar_, menuBar);
     joinWindows(*window);

@@ -79,7 +79,7 @@ public:
 
 private:
     bool claim(const std::optional<FolderItem>& folder);
-    void offerCopyOfDays();
+    bool tableIsReady();
     void bringUpMainWindow();
     void tellMissingDataFolder();
     void offerNewVersion(std::function<void()> done);

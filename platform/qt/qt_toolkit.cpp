@@ -101,13 +101,15 @@ void QtToolkit::message(const std::string& text) {
     delete box;
 }
 
-bool QtToolkit::ask(const std::string& question, const std::string& yes, const std::string& no) {
+Answer QtToolkit::ask(const std::string& question, const std::string& yes, const std::string& no) {
     QMessageBox box(QMessageBox::NoIcon, QStringLiteral("Tallyvane"), toQt(question));
     box.setTextFormat(Qt::PlainText);
     const QAbstractButton* accept = box.addButton(toQt(yes), QMessageBox::AcceptRole);
     box.setEscapeButton(box.addButton(toQt(no), QMessageBox::RejectRole));
     box.exec();
-    return box.clickedButton() == accept;
+    if (quitAsked_ || box.clickedButton() == nullptr)
+        return Answer::none;
+    return box.clickedButton() == accept ? Answer::yes : Answer::no;
 }
 
 void QtToolkit::beep() { QApplication::beep(); }

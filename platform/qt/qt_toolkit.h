@@ -18,7 +18,7 @@ public:
     Rect placeFor(const Window& window) override;
     std::shared_ptr<Bitmap> makeBitmap(int width, int height) override;
     void message(const std::string& text) override;
-    bool ask(const std::string& question, const std::string& yes, const std::string& no) override;
+    Answer ask(const std::string& question, const std::string& yes, const std::string& no) override;
     void beep() override;
     std::string askWhereToSave(const SaveAsDialog& dialog) override;
     std::string askForFile(const OpenDialog& dialog) override;

@@ -3,6 +3,7 @@
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QMimeData>
 #include <QTextBlock>
 
 #include <limits>
@@ -119,6 +120,11 @@ void TextAreaPeer::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 /// Puts what may have been meant by a misspelled word at the top of the menu.
+void TextAreaPeer::insertFromMimeData(const QMimeData* source) {
+    if (source != nullptr && !source->formats().isEmpty())
+        QPlainTextEdit::insertFromMimeData(source);
+}
+
 void TextAreaPeer::offerSpellings(QMenu& menu, QTextCursor place) {
     constexpr int most = 6;
     const QString line = place.block().text();

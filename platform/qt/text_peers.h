@@ -34,6 +34,8 @@ public:
 protected:
     void sync() override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+    /// Qt ends the program on a clipboard whose owner is gone: it then has no form at all.
+    void insertFromMimeData(const QMimeData* source) override;
 
 private:
     void offerSpellings(QMenu& menu, QTextCursor place);

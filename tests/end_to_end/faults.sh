@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# A disk that is full, breaks in the middle of a write, turns read-only or goes away, and a clock that jumps, all while a
-# day is being typed: what is in the file, what the user is told, and that the next save brings everything.
+# A disk that is full, breaks in the middle of a write, turns read-only or goes away, a clock that jumps, all while a day
+# is being typed, and a kill in the middle of a write: what is in the file, what the user is told, and that the next save
+# brings everything.
 # Usage: faults.sh PROGRAM FAULTY_DESKTOP_LIBRARY
 source "$(dirname "$0")/desk.sh"
 library=$2
@@ -28,6 +29,9 @@ is_silent() {
     [[ $(xdotool getwindowfocus getwindowname) == xmessage ]] || fail "$1: something is said"
 }
 
+# The first half of the new form is there, and the second is not.
+half_written() { ! head -1 "$days" | grep -q $'\r' && tail -1 "$days" | grep -q $'\r'; }
+
 saved() { grep -q "@#@$1@#@" "$days"; }
 
 report() { printf '%-26s %-42s %s\n' "$1" "$2" "$3"; }
@@ -37,7 +41,8 @@ cp "$days" "$home/before"
 
 # A disk that fails with a message: the file stays as it was, what was typed stays in the window.
 for disk in full broken; do
-    type_day "$([[ $disk == full ]] && echo 11.1 || echo 12.2)"
+    reading=$([[ $disk == full ]] && echo 11.1 || echo 12.2)
+    type_day "$reading"
     cp "$days" "$home/before"
     becomes "$disk"
     xmessage "another program" &
@@ -49,7 +54,7 @@ for disk in full broken; do
     kill "$other"
     in_front
     go_to_another_program
-    until_true saved "$([[ $disk == full ]] && echo 11.1 || echo 12.2)"
+    until_true saved "$reading"
     come_back
     report "disk $disk" "old file whole; error message" "typed day saved after the fault"
 done
@@ -73,7 +78,7 @@ type_day 14.4
 mv "$folder" "$home/away"
 go_to_another_program
 is_silent "folder away"
-[[ ! -e $days ]] || fail "folder away: a new file appeared"
+[[ ! -e $days ]] || fail "folder away: a new table appeared"
 rm -rf "$folder"
 mv "$home/away" "$folder"
 come_back
@@ -82,20 +87,39 @@ until_true saved 14.4
 come_back
 report "folder away" "old file whole; silence" "typed day saved after its return"
 
-# A clock that jumps a year ahead, and back behind the start.
-for seconds in 31536000 -31536000; do
+# A clock that jumps a year ahead, and back behind the start: days are saved, and the journal's date is the clock's.
+for jump in '31536000 15.5 +1' '-31536000 16.6 -1'; do
+    read -r seconds reading years <<<"$jump"
     becomes "clock $seconds"
-    type_day 15.5
+    type_day "$reading"
+    click_from_bottom 708 140 # the date into the journal
     go_to_another_program
-    until_true saved 15.5
+    until_true saved "$reading"
     come_back
     report "clock by $seconds s" "saved as ever; silence" "no day lost"
 done
 becomes
+xdotool key ctrl+q
+ends_well
+for years in 1 -1; do
+    grep -q "$(date -d "$years year" +%Y)" "$folder/QVXLogData" || fail "the clock did not jump: $(cat "$folder/QVXLogData")"
+done
+
+# Killed in the middle of a write, after its first half: the writer brings it to its end.
+cp "$days" "$home/before"
+sed -i 's/@#@5\.5@#@/@#@5.5@#@/; s/$/\r/' "$days" # a form that is written anew from the first line on
+LD_PRELOAD="$library" start
+becomes slow
+kill -TERM "$pid"
+until_true half_written
+kill -KILL "$pid"
+wait "$pid" 2>/dev/null || true
+! cmp -s "$days" "$home/before" || fail "killed: it was not in the middle"
+flock "$folder" true # which the writer holds
+cmp "$days" "$home/before" || fail "killed: the table is not whole"
+report "killed inside a write" "new table whole" "no day lost"
 
 for ((day = 1; day <= 28; ++day)); do
     grep -q "^2026-01-$(printf %02d "$day")@#@5.5@#@6@#@" "$days" || fail "day $day is lost"
 done
-xdotool key ctrl+q
-ends_well
 echo "no day was lost"

@@ -1,5 +1,6 @@
 /// Preloaded into the program, it makes disk and clock misbehave while it runs. What is wrong stands as words in the
-/// file that FAULTS names: "full" (no room for what grows), "broken" (writes fail after a part), "read-only", and
+/// file that FAULTS names: "full" (no room for what grows), "broken" (the second
+/// half of a write fails), "slow" (it waits for a second), "read-only", and
 /// "clock" with the seconds by which the clock is off.
 #include <cerrno>
 #include <cstdarg>
@@ -55,9 +56,17 @@ int fallocate(int file, int mode, off_t place, off_t size) {
 }
 
 ssize_t pwrite(int file, const void* bytes, std::size_t count, off_t place) {
-    static bool wasCut = false;
-    if (fault("broken") == nullptr || (wasCut = !wasCut))
-        return ::syscall(SYS_pwrite64, file, bytes, wasCut && count > 1 ? count / 2 : count, place);
+    static int calls = 0; // with a fault; each save has a process of its own, and counts from 0
+    const bool breaks = fault("broken") != nullptr;
+    const bool waits = fault("slow") != nullptr;
+    if (!breaks && !waits)
+        return ::syscall(SYS_pwrite64, file, bytes, count, place);
+    if (++calls == 1)
+        return ::syscall(SYS_pwrite64, file, bytes, count > 1 ? count / 2 : count, place);
+    if (calls == 2 && waits)
+        ::sleep(1);
+    if (calls > 2 || waits)
+        return ::syscall(SYS_pwrite64, file, bytes, count, place);
     errno = EIO;
     return -1;
 }
@@ -68,5 +77,13 @@ int clock_gettime(clockid_t clock, timespec* time) noexcept {
         if (const char* seconds = fault("clock"))
             time->tv_sec += std::atol(seconds);
     return result;
+}
+
+time_t time(time_t* result) noexcept {
+    timespec now{};
+    clock_gettime(CLOCK_REALTIME, &now);
+    if (result != nullptr)
+        *result = now.tv_sec;
+    return now.tv_sec;
 }
 }

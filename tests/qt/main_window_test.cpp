@@ -2,6 +2,7 @@
 #include <QClipboard>
 #include <QHeaderView>
 #include <QMenu>
+#include <QMimeData>
 #include <QScreen>
 
 #include <set>
@@ -124,6 +125,9 @@ TEST_F(MainWindowTest, TheEditMenuActsOnTheFocusedField) {
     choose("EditClear");
     EXPECT_EQ(Globals::gJournal, "");
     choose("EditUndo");
+    EXPECT_EQ(Globals::gJournal, "felt well");
+    QGuiApplication::clipboard()->setMimeData(new QMimeData); // its owner is gone
+    choose("EditPaste");
     EXPECT_EQ(Globals::gJournal, "felt well");
 }
 

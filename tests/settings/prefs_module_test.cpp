@@ -111,9 +111,10 @@ TEST_F(PrefsTest, AMissingDataFolderGivesWayToTheApplicationFolder) {
     check("days", false); // no path
 
     // Files that were brought from a computer where the user's home is another.
+    const std::filesystem::path home = folder_.parent_path();
     SpecialFolder::UserHome = GetFolderItem(folder_.string());
     StartupGlobals::gMissingDataFolder.clear();
-    readPreferences("true\n1\n2\n3\n4\n\n\n\n/home/once/Tallyvane\nword\n");
+    readPreferences("true\n1\n2\n3\n4\n\n\n\n" + (home / "once" / "Tallyvane").string() + "\nword\n");
     EXPECT_EQ(dataFolder(), (folder_ / "Tallyvane").string());
     EXPECT_EQ(StartupGlobals::gMissingDataFolder, "");
 }

@@ -57,12 +57,18 @@ TEST_F(SnapshotsTest, ThirtySetsAreKeptAndNothingElseIsTouched) {
     for (int day = 1; day <= 30; ++day)
         Snapshots::take(Date(2026, 6, day));
     write(applicationFile("Snapshots") / "my own" / "7VXData", "1");
-    Snapshots::take(Date(2025, 1, 1)); // the clock was wrong: older than all, and the one to go
     Snapshots::take(Date(2026, 7, 1));
-    const Texts names = sets();
+    Texts names = sets();
     EXPECT_EQ(names.size(), 31U);
     EXPECT_EQ(names.front(), "2026-06-02");
     EXPECT_EQ(names.back(), "my own");
+
+    Snapshots::take(Date(1970, 1, 1)); // the clock is wrong: today's set stays all the same
+    names = sets();
+    EXPECT_EQ(names.front(), "1970-01-01");
+    EXPECT_EQ(names.size(), 31U);
+    Snapshots::take(Date(2026, 6, 20)); // is there already, and of the past; those to come went first
+    EXPECT_EQ(sets(), names);
 }
 
 TEST_F(SnapshotsTest, AnEmptyTableIsNoDayWorthKeeping) {
@@ -80,10 +86,11 @@ TEST_F(SnapshotsTest, ADiskThatIsFullGetsNoHalfSet) {
     }
     EXPECT_EQ(sets(), Texts());
     EXPECT_EQ(read(table()), threeDays);
-    write(applicationFile("Snapshots") / "unfinished" / "7VXData", "of a start that was killed");
+    write(applicationFile("Snapshots") / "unfinished" / "QVXContacts", "of a start that was killed");
     Snapshots::take(Date(2026, 11, 22));
     EXPECT_EQ(sets(), Texts{"2026-11-22"});
     EXPECT_EQ(read(copyOf("2026-11-22", "7VXData")), threeDays);
+    EXPECT_FALSE(std::filesystem::exists(copyOf("2026-11-22", "QVXContacts")));
 }
 
 TEST_F(SnapshotsTest, AFullerCopyIsFoundForATableThatIsNotWhole) {
@@ -91,40 +98,65 @@ TEST_F(SnapshotsTest, AFullerCopyIsFoundForATableThatIsNotWhole) {
     Snapshots::take(Date(2026, 11, 20));
     write(table(), "1/1/2026@#@5\n");
     Snapshots::take(Date(2026, 11, 21));
-    const auto found = [this](const char* content) {
+    write(table(), threeDays);
+    Snapshots::take(Date(2026, 12, 1)); // the clock was wrong
+    const Date today(2026, 11, 22);
+    const auto found = [&](const std::string& content) {
         write(table(), content);
-        const std::optional<Snapshots::Copy> copy = Snapshots::fullerThanTable();
+        const std::optional<Snapshots::Copy> copy = Snapshots::fullerThanTable(today);
         return copy ? copy->day.Day() : 0;
     };
     EXPECT_EQ(found(""), 21) << "the newest that holds more";
     EXPECT_EQ(found("1/1/2026@#@5\n1/2/20"), 20);
+    EXPECT_EQ(found("1/1/2026@#@5\n\n\n\n\n1/2/20"), 20) << "empty lines are no days";
+    EXPECT_EQ(found("1/1/2026@#@5\n" + std::string(4096, '\0') + "\n"), 20) << "a block was lost";
     EXPECT_EQ(found("1/1/2026@#@5\n1/2/2026\n1/3/2026\n1/4/2026"), 0) << "none holds more";
     EXPECT_EQ(found("1/1/2026@#@5\n"), 0) << "days were taken out, and the table is whole";
+    EXPECT_EQ(found("1/1/2026@#@5\r"), 0) << "line ends of another system";
     std::filesystem::remove(table());
-    EXPECT_EQ(Snapshots::fullerThanTable()->days, 1);
+    EXPECT_EQ(Snapshots::fullerThanTable(today)->days, 1);
+
     StartupGlobals::gMissingDataFolder = "/no/such/folder";
-    EXPECT_FALSE(Snapshots::fullerThanTable()) << "the table is somewhere else";
+    EXPECT_FALSE(Snapshots::fullerThanTable(today)) << "the table is somewhere else";
     StartupGlobals::gMissingDataFolder.clear();
+    StartupGlobals::gDataFolder = GetFolderItem(folder_.string());
+    EXPECT_FALSE(Snapshots::fullerThanTable(today)) << "the copies are of a table in another folder";
+    StartupGlobals::gDataFolder = DataFiles::applicationFolder();
     std::filesystem::create_directory(table());
-    EXPECT_FALSE(Snapshots::fullerThanTable()) << "what stands there is not ours";
+    EXPECT_FALSE(Snapshots::fullerThanTable(today)) << "what stands there is not ours";
 }
 
 TEST_F(SnapshotsTest, TheUserIsAskedBeforeACopyComesBack) {
-    for (const bool saysYes : {false, true}) {
-        write(applicationFile("Snapshots") / "2026-11-20" / "7VXData", threeDays);
-        write(table(), "1/1/2026@#@5\n1/2/20");
+    const std::string cut = "1/1/2026@#@5\n1/2/20";
+    for (const Answer answer : {Answer::none, Answer::no, Answer::yes}) {
+        SCOPED_TRACE(static_cast<int>(answer));
+        write(copyOf("2026-11-20", "7VXData"), threeDays);
+        write(table(), cut);
         toolkit_.questions.clear();
-        toolkit_.saysYes = saysYes;
+        toolkit_.answerToQuestion = answer;
         App app;
         app.Event_Open();
-        EXPECT_EQ(toolkit_.questions,
-                  Texts{"The file with your days is empty or cut off. The copy of 11/20/2026 holds 3 "
-                        "days. Do you want it back?"});
-        EXPECT_EQ(app.window1()->ListBox1.ListCount(), saysYes ? 3 : 2);
-        EXPECT_EQ(std::filesystem::exists(applicationFile("7VXData damaged")), saysYes);
+        EXPECT_EQ(
+            toolkit_.questions,
+            Texts{"The file with your days is empty or cut off: it holds 1 whole days. The copy of 11/20/2026 holds "
+                  "3 days. Do you want it back in its place? What the file holds now is kept as \u201c7VXData "
+                  "damaged 2026-11-22\u201d."});
+        EXPECT_EQ(read(applicationFile("7VXData damaged 2026-11-22")), cut);
+        if (answer == Answer::none) {
+            EXPECT_EQ(app.window1(), nullptr) << "nobody has answered: nothing is opened, and nothing saved";
+            app.Event_Close();
+            EXPECT_EQ(read(table()), cut);
+            continue;
+        }
+        EXPECT_EQ(app.window1()->ListBox1.ListCount(), answer == Answer::yes ? 3 : 2);
         app.window1()->Close();
     }
-    EXPECT_EQ(read(applicationFile("7VXData damaged")), "1/1/2026@#@5\n1/2/20");
+}
+
+TEST_F(SnapshotsTest, ACopyThatCannotBeReadLeavesTheTableAlone) {
+    write(table(), "1/1/2026@#@5\n1/2/20");
+    EXPECT_THROW(Snapshots::bringBack({Date(2026, 11, 20), 3, 1, copyOf("2026-11-20", "7VXData")}), IOException);
+    EXPECT_EQ(read(table()), "1/1/2026@#@5\n1/2/20");
 }
 
 } // namespace

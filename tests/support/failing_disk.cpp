@@ -1,50 +1,53 @@
 #include "support/failing_disk.h"
 
 #include <cerrno>
+#include <sys/mman.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
 #include <algorithm>
-#include <optional>
+#include <new>
 
 namespace tallyvane {
 
 namespace {
 
 struct Fault {
-    FailingDisk::Call call;
-    std::size_t bytesLeft;
-    bool once;
+    bool isSet = false;
+    FailingDisk::Call call{};
+    std::size_t bytesLeft = 0;
+    bool once = false;
     bool failed = false;
 };
 
-std::optional<Fault> fault;
+/// In memory that the writer of a save shares.
+Fault& fault = *new (::mmap(nullptr, sizeof(Fault), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0)) Fault;
 
 /// Whether the call is to fail now.
 bool strikes(FailingDisk::Call call) {
-    if (!fault || fault->call != call || (fault->once && fault->failed) || fault->bytesLeft > 0)
+    if (!fault.isSet || fault.call != call || (fault.once && fault.failed) || fault.bytesLeft > 0)
         return false;
-    fault->failed = true;
+    fault.failed = true;
     errno = ENOSPC;
     return true;
 }
 
 /// Bytes of a write that the disk still takes.
 std::size_t taken(std::size_t count) {
-    if (!fault || fault->call != FailingDisk::Call::write || fault->failed)
+    if (!fault.isSet || fault.call != FailingDisk::Call::write || fault.failed)
         return count;
-    const std::size_t part = std::min(count, fault->bytesLeft);
-    fault->bytesLeft -= part;
+    const std::size_t part = std::min(count, fault.bytesLeft);
+    fault.bytesLeft -= part;
     return part;
 }
 
 } // namespace
 
-FailingDisk::FailingDisk(Call call, std::size_t afterBytes, bool once) { fault = Fault{call, afterBytes, once}; }
+FailingDisk::FailingDisk(Call call, std::size_t afterBytes, bool once) { fault = Fault{true, call, afterBytes, once}; }
 
-FailingDisk::~FailingDisk() { fault.reset(); }
+FailingDisk::~FailingDisk() { fault.isSet = false; }
 
-bool FailingDisk::hasFailed() const { return fault->failed; }
+bool FailingDisk::hasFailed() const { return fault.failed; }
 
 } // namespace tallyvane
 

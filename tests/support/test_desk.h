@@ -26,9 +26,9 @@ public:
         return std::make_shared<RecordedBitmap>(width, height);
     }
     void message(const std::string& text) override { messages.push_back(text); }
-    bool ask(const std::string& question, const std::string& /*yes*/, const std::string& /*no*/) override {
+    Answer ask(const std::string& question, const std::string& /*yes*/, const std::string& /*no*/) override {
         questions.push_back(question);
-        return saysYes;
+        return answerToQuestion;
     }
     void beep() override { ++beeps; }
     std::string askWhereToSave(const SaveAsDialog& dialog) override {
@@ -65,7 +65,7 @@ public:
     std::vector<int> quits;
     std::vector<std::string> dialogs;
     std::vector<std::string> questions;
-    bool saysYes = false;
+    Answer answerToQuestion = Answer::no;
     std::string answer; // the path that the user chooses; "" cancels
     bool pageSetupReady = true; // false: the user cancels the page set-up
     bool printerReady = true; // false: the user cancels the print dialog
