@@ -26,8 +26,8 @@ namespace fs = std::filesystem;
 
 struct Desk {
     Desk() {
-        std::string folder =
-            (fs::exists("/dev/shm") ? "/dev/shm" : fs::temp_directory_path()) / fs::path("fuzz-XXXXXX");
+        const fs::path memory = fs::exists("/dev/shm") ? "/dev/shm" : fs::temp_directory_path();
+        std::string folder = memory / ("fuzz-" + std::string(6, 'X')); // which mkdtemp fills in
         if (::mkdtemp(folder.data()) == nullptr)
             std::abort();
         home = folder;

@@ -62,7 +62,7 @@ private:
 /// Holds a folder for this program as long as it lives. Ends with the process, however that ends.
 class FolderClaim {
 public:
-    /// Nil when another process holds the folder. Where the folder's disk knows no claims, it is given to everyone.
+    /// Nil when another process holds the folder for 0.4 seconds more. A disk that knows no claims gives it to all.
     [[nodiscard]] static std::unique_ptr<FolderClaim> take(const std::string& path);
 
     /// Whether that path leads to the folder that is held, by whatever way.

@@ -178,7 +178,7 @@ bool overwriteInWriter(int file, const std::string& before, const std::string& a
     if (writer == 0)
         writeAndAnswer(file, before, after, ends[1]);
     ::close(ends[1]);
-    std::optional<bool> done = writer > 0 ? answerOf(ends[0]) : std::nullopt;
+    const std::optional<bool> done = writer > 0 ? answerOf(ends[0]) : std::nullopt;
     ::close(ends[0]);
     while (writer > 0 && ::waitpid(writer, nullptr, 0) < 0 && errno == EINTR) {
     }

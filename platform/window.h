@@ -51,7 +51,7 @@ public:
     enum class Kind {
         document, // resizable as far as the limits let it
         fixed,
-        dialog, // fixed, and modal to its owner
+        dialog, // fixed, and modal
         splash, // fixed, without title and close button
     };
 

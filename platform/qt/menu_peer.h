@@ -34,7 +34,7 @@ private:
     MenuBar& bar_;
     std::function<Window*()> front_;
     std::vector<Entry> entries_;
-    QPointer<QWidget> focus_; // an open menu takes it away, and is not noted
+    QPointer<QWidget> focus_; // the last control that had it; menus are passed over
 };
 
 } // namespace tallyvane

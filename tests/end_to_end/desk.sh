@@ -77,6 +77,25 @@ come_back() {
 
 active() { [[ $(xdotool getwindowfocus) == "$1" ]]; }
 
+has_keys() { [[ $(xdotool getwindowfocus getwindowname) == "$1" ]]; }
+
+# Chooses the item of the File menu that is so many below the first one that is enabled.
+choose() {
+    local key
+    in_front
+    xdotool key alt+f
+    for ((key = 0; key < $1; ++key)); do xdotool key Down; done
+    xdotool key Return
+}
+
+# Answers a dialog for a file, once it is there.
+answer() {
+    until_true has_keys "$1"
+    xdotool key ctrl+a
+    xdotool type "$2"
+    xdotool key Return
+}
+
 # Clicks at a place of the table and what lies below it: points from the left, and from the bottom of the window, since
 # the height of menus and toolbar is the theme's.
 click_from_bottom() {

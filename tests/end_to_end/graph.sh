@@ -8,7 +8,6 @@ mkdir -p "$home/data/Tallyvane"
 sed -n '1,16s/,/@#@/gp' "$(dirname "$0")/../data/patient-01.csv" >"$days"
 
 graph_window() { graph=$(xdotool search --onlyvisible --name '^Graph$' | tail -1) && [[ -n $graph ]]; }
-has_keys() { [[ $(xdotool getwindowfocus getwindowname) == "$1" ]]; }
 picture() { import -window "$graph" -crop 499x397+20+14 rgb:- | md5sum; }
 differs() { [[ $(picture) != "$1" ]]; }
 click_in_graph() { xdotool mousemove --window "$graph" "$1" "$2" click 1; }
