@@ -8,13 +8,6 @@
 
 namespace tallyvane {
 
-namespace {
-
-/// Units of the surface from one automatic tick to the next, at any resolution.
-constexpr int automaticStep = 20;
-
-} // namespace
-
 void GTAxis::SetRange(double min, double max) {
     myMin = min;
     myMax = max;
@@ -74,7 +67,7 @@ GTAxis::TickSteps GTAxis::evenSteps(int length) const {
     figureIncrement(myMax, myMin, length, steps.increment, count, steps.unit);
     if (myTickIncrementIsSet) {
         steps.increment = myTickIncrement;
-        count = truncated((myMax - myMin) / myTickIncrement);
+        count = truncatedSteps((myMax - myMin) / myTickIncrement);
     }
     steps.step = std::max(1.0, length / static_cast<double>(count));
     return steps;

@@ -7,6 +7,7 @@
 
 #include "charting/gt_custom_tick_formatter.h"
 #include "charting/gt_data_point.h"
+#include "charting/truncated.h"
 #include "platform/graphics.h"
 
 namespace tallyvane {
@@ -61,9 +62,15 @@ public:
     // Range
     double minimum() const { return myMin; }
     double maximum() const { return myMax; }
+    /// Stands until the series settles its range anew: when a point comes or goes, when its range is set, and for
+    /// columns and bars at each drawing.
     void SetRange(double min, double max);
 
     // Ticks
+
+    /// Units of the surface from one automatic tick to the next, at any resolution.
+    static constexpr int automaticStep = 20;
+
     int majorTickSize() const { return myMajorTickSize; }
     void majorTickSize(int points) { myMajorTickSize = points; }
     int tickSpacing() const { return myTickSpacing; }
@@ -74,6 +81,8 @@ public:
     void clearTickIncrement() { myTickIncrementIsSet = false; }
     bool hasCustomTickIncrement() const { return myTickIncrementIsSet; }
     int tickCount() const { return myTickCount; }
+    /// Sets the number of ticks, both ends among them. Columns set it on their X axis and bars on their Y axis at each
+    /// drawing, and it stays set after that.
     void tickCount(int count);
     void clearTickCount() { myManualTickCount = false; }
     /// Whether ticks and grid lines stand at the values of TickValues alone.
@@ -107,6 +116,7 @@ public:
     void GridPenSize(int points) { myGridPenSize = points; }
     double baseLine() const { return myBaseLine; }
     void baseLine(double value) { myBaseLine = value; }
+    /// A series draws the base line of an axis only where that axis's grid is visible too.
     bool baseLineVisible() const { return myBaselineVisible; }
     void baseLineVisible(bool on) { myBaselineVisible = on; }
     Color baseLineColor() const { return myBaseLineColor; }
@@ -152,16 +162,19 @@ private:
     TickSteps xAxisSteps(int width) const;
     TickSteps evenSteps(int length) const;
     /// Calls `visit` with each value from the minimum up to the maximum, which is left out, and gives the first one
-    /// that is not below the maximum. No step is smaller than a unit of the surface, so it visits no more values than
-    /// there are units and one, however small the increment.
+    /// that is not below the maximum. A value that lies below it by no more than rounding is the maximum. No step is
+    /// smaller than a unit of the surface, so it visits no more values than there are units and one, however small the
+    /// increment.
     template <class Visit>
     double walk(double increment, int length, Visit visit) const {
+        const auto isBelowMaximum = [&](double v) { return myMax - v > mostRounding * increment; };
         double v = myMin;
-        for (int i = 0; i <= length && myMax > v; ++i) {
+        for (int steps = 0; steps <= length && isBelowMaximum(v);) {
             visit(v);
-            v += increment;
+            ++steps;
+            v = myMin + steps * increment;
         }
-        return myMax > v ? myMin + std::ceil((myMax - myMin) / increment) * increment : v;
+        return isBelowMaximum(v) ? myMin + std::ceil((myMax - myMin) / increment) * increment : v;
     }
     bool isInRange(double v) const { return v >= myMin && v <= myMax; }
 

@@ -61,7 +61,7 @@ void GTAxis::renderXAxis(Graphics& g, int x, int y, int width) const {
     }
     double position = x;
     const double closing = walk(steps.increment, width, [&](double v) {
-        const int tickX = truncatedPlace(position);
+        const int tickX = truncatedSteps(position);
         if (tickX < x + width)
             tick(tickX, v, myTickLabelsVisible);
         position += steps.step;
@@ -119,7 +119,7 @@ void GTAxis::renderYAxis(Graphics& g, int x, int y, int height) const {
     }
     double position = y + height;
     const double closing = walk(steps.increment, height, [&](double v) {
-        const int tickY = truncatedPlace(position);
+        const int tickY = truncatedSteps(position);
         // The closing tick stands at the top; labels near it would run into its own.
         if (tickY != y)
             tick(tickY, formatTickLabel(v), myTickLabelsVisible && tickY - g.TextHeight() > g.TextHeight());

@@ -31,6 +31,16 @@ Color backdropColor(int row, int plotHeight) {
 
 } // namespace
 
+void GTGraph::addSeries(std::shared_ptr<GTSeries> s) {
+    if (s)
+        mySeries.push_back(std::move(s));
+}
+
+void GTGraph::addLabel(std::shared_ptr<GTLabel> l) {
+    if (l)
+        myLabels.push_back(std::move(l));
+}
+
 std::shared_ptr<GTSeries> GTGraph::Series(int index) const {
     return index < 0 || index >= count() ? nullptr : mySeries[static_cast<std::size_t>(index)];
 }
@@ -101,36 +111,42 @@ void GTGraph::renderBackdrop(Graphics& g, int left, int top, int plotWidth, int 
     }
 }
 
-void GTGraph::Draw(Graphics& g) {
+GTGraph::Room GTGraph::roomAroundPlot(const Graphics& g) {
     Resolution(myResolution);
-    GTGeneralPurpose::GTResetDateNames();
-
-    int top = marginTop + measureMyTitleHeight();
-    int bottom = marginBottom;
-    int left = marginLeft;
-    int right = marginRight;
+    Room room{marginTop + measureMyTitleHeight(), marginBottom, marginLeft, marginRight};
     if (const auto first = Series(0)) {
-        (first->XAxis().top() ? top : bottom) += first->XAxisHeight(truncated(g.Height()));
-        (first->YAxis().left() ? left : right) += first->YAxisWidth(truncated(g.Width()));
+        (first->XAxis().top() ? room.top : room.bottom) += first->XAxisHeight(truncated(g.Height()));
+        (first->YAxis().left() ? room.left : room.right) += first->YAxisWidth(truncated(g.Width()));
     }
-    // Negative margins move the plot; they don't make it larger than the surface.
-    const int height = isPrintingOn() ? printedHeight : truncated(g.Height());
-    const int width = truncated(g.Width());
-    const int plotHeight = std::min(height, height - top - bottom);
-    const int plotWidth = std::min(width, width - left - right);
-    if (plotHeight < 1 || plotWidth < 1)
+    return room;
+}
+
+int GTGraph::usableHeight(const Graphics& g) { return isPrintingOn() ? printedHeight : truncated(g.Height()); }
+
+// Negative margins move the plot; they don't make it larger than the surface.
+
+int GTGraph::heightWithin(const Room& room, const Graphics& g) {
+    return std::min(usableHeight(g), usableHeight(g) - room.top - room.bottom);
+}
+
+int GTGraph::plotHeight(const Graphics& g) { return heightWithin(roomAroundPlot(g), g); }
+
+void GTGraph::Draw(Graphics& g) {
+    GTGeneralPurpose::GTResetDateNames();
+    const Room room = roomAroundPlot(g);
+    const int height = heightWithin(room, g);
+    const int width = std::min(truncated(g.Width()), truncated(g.Width()) - room.left - room.right);
+    if (height < 1 || width < 1)
         return;
 
-    renderBackdrop(g, left, top, plotWidth, plotHeight);
-    RenderMyTitle(g, left, 0, plotWidth, plotHeight);
+    renderBackdrop(g, room.left, room.top, width, height);
+    RenderMyTitle(g, room.left, 0, width, height);
 
-    const int plotLeft = left;
-    const int plotTop = top;
-    left = top = right = bottom = 0; // from here on the room that axes have taken
+    Room axes{}; // that those drawn so far have taken
     for (const auto& series : mySeries)
-        series->Render(g, plotLeft, plotTop, left, top, right, bottom, plotWidth, plotHeight);
+        series->Render(g, room.left, room.top, axes.left, axes.top, axes.right, axes.bottom, width, height);
     for (const auto& label : myLabels)
-        label->Render(g, left, top, plotWidth, plotHeight);
+        label->Render(g, axes.left, axes.top, width, height);
 }
 
 } // namespace tallyvane

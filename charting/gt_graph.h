@@ -24,8 +24,9 @@ public:
     GTGraph& operator=(const GTGraph&) = delete;
 
     // Content, drawn in the order of adding, labels after all series
-    void addSeries(std::shared_ptr<GTSeries> s) { mySeries.push_back(std::move(s)); }
-    void addLabel(std::shared_ptr<GTLabel> l) { myLabels.push_back(std::move(l)); }
+    /// Null is not added.
+    void addSeries(std::shared_ptr<GTSeries> s);
+    void addLabel(std::shared_ptr<GTLabel> l);
     int count() const { return static_cast<int>(mySeries.size()); }
     /// Nil for an index that no series has.
     std::shared_ptr<GTSeries> Series(int index) const;
@@ -64,13 +65,30 @@ public:
     void Resolution(int dotsPerInch);
     /// Draws everything. Axes outside of the first series' axes lie in room that nobody keeps free for them. A surface
     /// that is too small for a plot stays as it is.
+    ///
+    /// What a drawing leaves behind: all series, points, axes and labels have the graph's resolution, columns and bars
+    /// the range and the count of ticks that their data ask for, axes whose ticks are values have those of the points,
+    /// and vertical labels of an X axis keep the most room that they have ever taken.
     void Draw(Graphics& g);
+    /// The height of the plot on a surface, in its units; below 1 when there is no room for one. A whole multiple of
+    /// GTAxis::automaticStep has each automatic label of a Y axis stand at its value; margins can make it one.
+    int plotHeight(const Graphics& g);
 
     int measureMyTitleHeight() const;
     int measureMyTitleWidth() const;
     void RenderMyTitle(Graphics& g, int x, int y, int w, int h) const;
 
 private:
+    /// What a drawing keeps free on each side of the plot.
+    struct Room {
+        int top = 0;
+        int bottom = 0;
+        int left = 0;
+        int right = 0;
+    };
+    Room roomAroundPlot(const Graphics& g);
+    static int usableHeight(const Graphics& g);
+    static int heightWithin(const Room& room, const Graphics& g);
     void setTitleFont(Graphics& g) const;
     static void renderBackdrop(Graphics& g, int left, int top, int plotWidth, int plotHeight);
 

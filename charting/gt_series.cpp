@@ -19,6 +19,8 @@ GTSeries::~GTSeries() {
 void GTSeries::AddDataValue(double x, double y) { AddDataPoint(std::make_shared<GTDataPoint>(x, y)); }
 
 void GTSeries::AddDataPoint(std::shared_ptr<GTDataPoint> p) {
+    if (!p)
+        return;
     p->reportTo(tally_);
     myDataPoints.push_back(std::move(p));
     fixRanges();

@@ -46,6 +46,7 @@ public:
 
     // Points. Each change makes the ranges those of the points again.
     void AddDataValue(double x, double y);
+    /// Null is not added.
     void AddDataPoint(std::shared_ptr<GTDataPoint> p);
     /// Nothing happens for an index that no point has.
     void RemoveDataValue(int index);

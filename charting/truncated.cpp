@@ -12,8 +12,7 @@ int truncated(double value) {
     return static_cast<int>(std::clamp(value, -farthest, farthest));
 }
 
-int truncatedPlace(double steppedTo) {
-    constexpr double mostRounding = 1e-6;
+int truncatedSteps(double steppedTo) {
     const double whole = std::round(steppedTo);
     return truncated(std::abs(steppedTo - whole) < mostRounding ? whole : steppedTo);
 }

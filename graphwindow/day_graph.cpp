@@ -90,4 +90,11 @@ std::unique_ptr<GTGraph> ofWeights(const SelectedDays& days) {
     return graph;
 }
 
+void draw(GTGraph& graph, Graphics& g) {
+    graph.marginBottom = 0;
+    if (const int height = graph.plotHeight(g); height >= GTAxis::automaticStep)
+        graph.marginBottom = height % GTAxis::automaticStep;
+    graph.Draw(g);
+}
+
 } // namespace tallyvane::DayGraph

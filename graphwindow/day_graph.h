@@ -42,4 +42,8 @@ std::unique_ptr<GTGraph> ofPeriods(const SelectedDays& days, const Shown& shown)
 /// One series of weights, from 2 below the lowest. It reaches 2 above the highest, or higher if the readings do.
 std::unique_ptr<GTGraph> ofWeights(const SelectedDays& days);
 
+/// Draws a graph on a surface, a little lower where needed: the plot is as high as a whole number of ticks, so that
+/// each label of the values stands at its value.
+void draw(GTGraph& graph, Graphics& g);
+
 } // namespace tallyvane::DayGraph

@@ -70,7 +70,7 @@ void GrafThingWindow::Canvas1_Paint(Graphics& g) {
 void GrafThingWindow::drawOnWhite(Graphics& g) const {
     g.ForeColor(RGB(255, 255, 255));
     g.FillRect(0, 0, g.Width(), g.Height());
-    grafThing1->Draw(g);
+    DayGraph::draw(*grafThing1, g);
 }
 
 // Printing
@@ -82,7 +82,7 @@ void GrafThingWindow::Canvas2_Action() {
         return;
     {
         const WhileTrue printing(Globals::gPrintingOn);
-        grafThing1->Draw(*g);
+        DayGraph::draw(*grafThing1, *g);
     }
     if (!graphWeight)
         drawLegend(*g);
@@ -114,7 +114,7 @@ void GrafThingWindow::filePrint_Action() {
     if (!g)
         return;
     grafThing1->Resolution(setup.HorizontalResolution());
-    grafThing1->Draw(*g);
+    DayGraph::draw(*grafThing1, *g);
     grafThing1->Resolution(screenResolution);
 }
 

@@ -20,9 +20,9 @@ public:
 
     double width() const override { return layout_.paintRect(QPageLayout::Point).width(); }
     double height() const override { return layout_.paintRect(QPageLayout::Point).height(); }
-    /// What every printer has. The pages themselves are as fine as the printer; only distances that are told in dots
-    /// would get lost on a finer count.
-    int resolution() const override { return 300; }
+    /// What is drawn is as fine as the printer has it, whatever is counted in. Distances that are told in dots, such as
+    /// that of a graph's ticks, need dots that can be seen.
+    int resolution() const override { return 96; }
     bool ask() override;
 
     const QPageLayout& layout() const { return layout_; }

@@ -69,12 +69,19 @@ double reachable(double place) {
 QPen outlinePen(const OutlinedShape& shape, const QPainter& painter) {
     if (shape.Border <= 0 || shape.BorderWidth <= 0)
         return Qt::NoPen;
-    // Round ends join well. On pixels square ones do nearly as well, and Qt paints them ten times faster.
-    const Qt::PenCapStyle cap = paintsPixels(painter) ? Qt::SquareCap : Qt::RoundCap;
+    // Round ends join well. On pixels square ones of thin lines do nearly as well, and Qt paints them ten times faster;
+    // those of thick lines stick out where a line bends.
+    const bool isSquare = paintsPixels(painter) && !isThick(shape.BorderWidth, painter);
+    const Qt::PenCapStyle cap = isSquare ? Qt::SquareCap : Qt::RoundCap;
     return {seenThrough(shape.BorderColor, shape.Border), shape.BorderWidth, Qt::SolidLine, cap, Qt::MiterJoin};
 }
 
 bool paintsPixels(const QPainter& painter) { return painter.paintEngine()->type() == QPaintEngine::Raster; }
+
+bool isThick(double pen, const QPainter& painter) {
+    constexpr double thick = 4; // pixels
+    return pen * std::abs(painter.deviceTransform().m11()) > thick;
+}
 
 ShapePainter::ShapePainter(QPainter& painter, QPointF origin) : painter_(painter), origin_(origin) {
     const double all = reachable(std::numeric_limits<double>::infinity());

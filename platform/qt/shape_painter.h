@@ -44,6 +44,8 @@ private:
 
 /// The pen of a shape's outline on that painter.
 QPen outlinePen(const OutlinedShape& shape, const QPainter& painter);
+/// Whether a pen of that width paints lines so thick that the form of their ends is seen.
+bool isThick(double pen, const QPainter& painter);
 /// A screen or a bitmap, not paper.
 bool paintsPixels(const QPainter& painter);
 

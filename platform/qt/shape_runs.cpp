@@ -41,7 +41,7 @@ void ShapeRuns::paint(const Group2D& shapes) {
 }
 
 void ShapeRuns::operator()(const CurveShape& curve) {
-    if (!inRuns_ || curve.Rotation != 0) {
+    if (!inRuns_ || curve.Rotation != 0 || isThick(curve.BorderWidth, painter_)) {
         alone(curve);
         return;
     }

@@ -348,6 +348,32 @@ TEST(AxisTicks, EveryWalkEnds) {
             }
 }
 
+TEST(AxisTicks, StepsThatNoBinaryNumberHoldsEndWhereTheyShould) {
+    const auto labels = [](double max, double increment, int length) {
+        GTAxis axis(vertical);
+        axis.SetRange(0, max);
+        axis.tickIncrement(increment);
+        axis.tickLabelFormat("0.0");
+        GraphicsRecorder g(400, 2000);
+        axis.render(g, 0, 0, length);
+        std::string texts;
+        for (const auto& call : g.calls())
+            texts += call.operation == "DrawString" ? call.text + ' ' : "";
+        return texts;
+    };
+    EXPECT_EQ(labels(1, 0.1, 1000), "0.0 0.1 0.2 0.3 0.4 0.5 0.6 0.7 0.8 0.9 1.0 ");
+    EXPECT_EQ(labels(0.3, 0.1, 300), "0.0 0.1 0.2 0.3 ");
+    EXPECT_EQ(labels(0.7, 0.1, 700), "0.0 0.1 0.2 0.3 0.4 0.5 0.6 0.7 ");
+    for (int steps = 2; steps <= 100; ++steps) { // automatic ones, 20 units each
+        GTAxis axis(vertical);
+        axis.SetRange(0, 184.92);
+        axis.tickLabelFormat("0.00");
+        GraphicsRecorder g(400, 4000);
+        axis.render(g, 0, 0, 20 * steps);
+        EXPECT_EQ(g.calls().back().text, "184.92") << steps;
+    }
+}
+
 TEST(AxisTicks, WhatWasSetCanBeCleared) {
     const Way clear = [](GTAxis& a) {
         a.clearTickIncrement();

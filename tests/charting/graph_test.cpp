@@ -158,6 +158,18 @@ TEST_F(GraphTest, SeriesByPlaceAndByName) {
     EXPECT_EQ(graph_.Series(-1), nullptr);
 }
 
+TEST_F(GraphTest, NullIsNotAdded) {
+    graph_.addSeries(nullptr);
+    graph_.addLabel(nullptr);
+    GTSeries series(GTSeries::line);
+    series.AddDataPoint(nullptr);
+    EXPECT_EQ(graph_.count(), 0);
+    EXPECT_EQ(series.Count(), 0);
+    GraphicsRecorder g(400, 300);
+    graph_.Draw(g);
+    EXPECT_FALSE(g.calls().empty());
+}
+
 TEST_F(GraphTest, OneRangeForAll) {
     graph_.NormalizeRanges(); // of nothing
     GTSeries& first = add(10);
@@ -188,7 +200,7 @@ TEST(Truncation, CutsTowardsZeroAndForgivesTheRoundingOfSteps) {
                                              {-5.0000000001, -5},    {-4.9999999999, -5}, {-5.9, -5},
                                              {infinite, 100'000'000}};
     for (const auto& [value, want] : places)
-        EXPECT_EQ(truncatedPlace(value), want) << value;
+        EXPECT_EQ(truncatedSteps(value), want) << value;
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <sstream>
+#include <tuple>
 
 #include "platform/number.h"
 #include "settings/globals.h"
@@ -58,6 +59,29 @@ protected:
     static Boxes boxesOf(GrafThingWindow& w) {
         return {&w.CheckBox13, &w.CheckBox12, &w.CheckBox11, &w.CheckBox10,
                 &w.CheckBox9,  &w.CheckBox8,  &w.CheckBox7,  &w.CheckBox6};
+    }
+    /// Each label of the value axis stands within a unit of where its value belongs. At least `fewest` are there.
+    static void expectLabelsAtTheirValues(const std::vector<GraphicsRecorder::Call>& calls, Extent range,
+                                          std::size_t fewest) {
+        std::vector<std::pair<double, double>> labels; // place and value
+        double top = 0;
+        double bottom = 0;
+        for (std::size_t i = 1; i < calls.size(); ++i) {
+            const auto& line = calls[i - 1];
+            if (line.operation != "DrawLine")
+                continue;
+            const auto& [x1, y1, x2, y2] = std::tie(line.numbers[0], line.numbers[1], line.numbers[2], line.numbers[3]);
+            constexpr double longestTick = 30;
+            if (y1 == y2 && x2 - x1 < longestTick && calls[i].operation == "DrawString")
+                labels.emplace_back(y1, Val(calls[i].text));
+            if (x1 == x2 && y2 - y1 > bottom - top && labels.empty()) // the axis is the longest line before them
+                std::tie(top, bottom) = std::pair(y1, y2);
+        }
+        ASSERT_GE(labels.size(), fewest);
+        for (const auto& [place, value] : labels) {
+            const double want = bottom - (value - range.low) / (range.high - range.low) * (bottom - top);
+            EXPECT_NEAR(place, want, 1.01) << value << " on a plot of " << bottom - top;
+        }
     }
     static void press(CheckBox& box) { box.userToggled(!box.Value()); }
     std::string points(int series) { return pointsOf(*window_.grafThing1->Series(series)); }
@@ -195,6 +219,29 @@ TEST_F(GrafThingWindowTest, CaptionsFollowTheHeadings) {
     EXPECT_EQ(captions()[1] + ", " + captions()[7], "Before Breakfast, Bedtime") << "without a file";
     write(applicationFile("7VXHeadings"), "Dawn\nNoon\nDusk\nWeight\npre\n"); // too short
     EXPECT_EQ(captions(), (Texts{"Daily Averages", "pre Dawn", " Dawn", " Noon", " Noon", " Dusk", " Dusk", ""}));
+}
+
+TEST_F(GrafThingWindowTest, AtEveryHeightAndOnPaperEachLabelStandsAtItsValue) {
+    fill({{"11/1/2026", "99", "", "", "", "", "", "", "120", "81"},
+          {"11/2/2026", "160.8", "", "", "", "", "", "", "153", "82.5"}});
+    window_.Open();
+    constexpr int lowestWindow = 431;
+    constexpr int highestWindow = 1400;
+    const Extent ranges[] = {{0, 160.8 * 1.15}, {79, 160.8 * 1.15 + 2}};
+    for (const Extent& range : ranges) {
+        for (int height = lowestWindow; height <= highestWindow; ++height) {
+            window_.Height(height);
+            GraphicsRecorder g(window_.Canvas1.Width(), window_.Canvas1.Height());
+            DayGraph::draw(*window_.grafThing1, g);
+            expectLabelsAtTheirValues(g.calls(), range, 10);
+            ASSERT_FALSE(HasFailure()) << "window height " << height;
+        }
+        window_.Canvas2_Action();
+        expectLabelsAtTheirValues(toolkit_.printed, range, 10);
+        window_.filePrint_Action();
+        expectLabelsAtTheirValues(toolkit_.printed, range, 10);
+        window_.Canvas3_Action(); // the weights
+    }
 }
 
 // Printing
