@@ -1,5 +1,7 @@
 #include "platform/graphics_recorder.h"
 
+#include <algorithm>
+
 #include "platform/text.h"
 
 namespace tallyvane {
@@ -36,6 +38,12 @@ void GraphicsRecorder::DrawObject(const Object2D& shape, double x, double y) {
     Group2D alone;
     alone.Append(shape);
     calls_.push_back({"DrawObject", 0, {}, {x, y}, std::move(alone)});
+}
+
+void GraphicsRecorder::shrinkToFit(double width, double height) {
+    const double times = std::max({1.0, width / width_, height / height_});
+    width_ *= times;
+    height_ *= times;
 }
 
 } // namespace tallyvane

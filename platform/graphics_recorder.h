@@ -40,6 +40,7 @@ public:
     void DrawPicture(const Picture& picture, double x, double y) override;
     void DrawObject(const Object2D& shape, double x, double y) override;
     void NextPage() override { calls_.push_back({"NextPage"}); }
+    void shrinkToFit(double width, double height) override;
 
     const std::vector<Call>& calls() const { return calls_; }
 

@@ -11,6 +11,7 @@ void printText(const std::string& text, const std::string& title) {
     constexpr double left = 50;
     constexpr double titleBaseline = 50;
     constexpr double mostHeight = 648;
+    constexpr double width = 475;
     const double top = title.empty() ? 50 : 60;
     const std::unique_ptr<Graphics> g = OpenPrinterDialog();
     if (!g)
@@ -20,9 +21,10 @@ void printText(const std::string& text, const std::string& title) {
         g->DrawString(title, left, titleBaseline);
         g->Bold(false);
     }
+    g->shrinkToFit(left + width, 0);
     const double blockHeight = std::min(mostHeight, g->Height() - top); // paper can be lower
     StyledTextPrinter printer(*g, text, 540);
-    printer.Width(475);
+    printer.Width(width);
     while (!printer.EndOfText()) {
         printer.DrawBlock(left, top, blockHeight);
         if (!printer.EndOfText())

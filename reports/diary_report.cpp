@@ -103,7 +103,7 @@ void DiaryReport::printDetails(ReportPage& page, const Graphics& g) {
         page.makeRoom(0);
         if (!included)
             return;
-        const int lines = countLines2(text, ReportPage::detailWidth, g);
+        const int lines = countLines2(text, page.detailWidth(), g);
         page.makeRoom(lines);
         if (!text.empty())
             page.drawDetail(label, text, lines);

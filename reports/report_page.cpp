@@ -1,5 +1,7 @@
 #include "reports/report_page.h"
 
+#include <algorithm>
+
 #include "platform/translation.h"
 #include "platform/wrapped_text.h"
 
@@ -12,6 +14,7 @@ constexpr double titleBaseline = 40;
 constexpr double headingsTop = 60;
 constexpr double linesTop = 80;
 constexpr double detailLeft = 120;
+constexpr double shadedWidth = 480;
 constexpr std::array<double, ReportPage::columns> columnLefts{left, 150, 200, 250, 300, 350, 400, 450, 500};
 
 constexpr Color black = RGB(0, 0, 0);
@@ -20,6 +23,13 @@ constexpr Color headingColor = RGB(128, 0, 0);
 constexpr Color ground = RGB(209, 229, 255);
 
 } // namespace
+
+ReportPage::ReportPage(Graphics& g, int limit) : g_(g), limit_(limit) {
+    constexpr int linesOfAverages = 2; // that may stand below the last line of a page
+    g_.shrinkToFit(left + shadedWidth, linesTop + g_.TextHeight() * (limit_ + linesOfAverages + 1) - g_.TextAscent());
+}
+
+double ReportPage::detailWidth() const { return std::min(450.0, g_.Width() - detailLeft); }
 
 double ReportPage::baseline() const { return linesTop + g_.TextHeight() * line_; }
 
@@ -59,15 +69,15 @@ void ReportPage::drawCells(const Cells& cells) {
 
 void ReportPage::drawDay(const Cells& cells) {
     g_.ForeColor(ground);
-    g_.FillRect(left, baseline() - 12, 480, 15);
+    g_.FillRect(left, baseline() - 12, shadedWidth, 15);
     g_.ForeColor(black);
     drawCells(cells);
     ++line_;
 }
 
 void ReportPage::drawDetail(const std::string& label, const std::string& text, int lines) {
-    DrawString(g_, label, left, baseline(), detailWidth);
-    DrawString(g_, text, detailLeft, baseline(), detailWidth);
+    DrawString(g_, label, left, baseline(), detailWidth());
+    DrawString(g_, text, detailLeft, baseline(), detailWidth());
     line_ += lines;
 }
 

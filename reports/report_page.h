@@ -14,11 +14,12 @@ public:
     static constexpr std::size_t columns = 9;
     using Cells = std::array<std::string, columns>;
 
-    /// Width of the texts of a day, in points.
-    static constexpr double detailWidth = 450;
+    /// Pages of so many lines in the font now set. What a page lacks in width or height for them is made up by drawing
+    /// all of it smaller.
+    ReportPage(Graphics& g, int limit);
 
-    /// Pages of so many lines.
-    ReportPage(Graphics& g, int limit) : g_(g), limit_(limit) {}
+    /// Width of the texts of a day, in points: 450, or what the page has.
+    double detailWidth() const;
 
     /// Title and headings, at the top of the first page.
     void drawHead(const std::string& title);

@@ -106,6 +106,12 @@ void PainterGraphics::DrawObject(const Object2D& shape, double x, double y) {
     std::visit(ShapePainter(painter_, {reachable(x), reachable(y)}), shape);
 }
 
+void PainterGraphics::shrinkToFit(double width, double height) {
+    const double times = std::max({1.0, width / Width(), height / Height()});
+    painter_.scale(1 / times, 1 / times);
+    area_.setSize(area_.size() * times);
+}
+
 void PainterGraphics::paintShapes(const Group2D& shapes, QPointF origin) {
     if (paintsPixels(painter_))
         ShapeRuns(painter_, origin).paint(shapes);

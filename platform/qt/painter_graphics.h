@@ -32,6 +32,7 @@ public:
     void DrawString(std::string_view text, double x, double y) override;
     void DrawPicture(const Picture& picture, double x, double y) override;
     void DrawObject(const Object2D& shape, double x, double y) override;
+    void shrinkToFit(double width, double height) override;
 
     /// From here on fills are mixed half and half with that colour; pictures are not. A list marks its selected rows
     /// so: the ground changes, the lights stay as they are.
@@ -43,7 +44,7 @@ private:
     void paintShapes(const Group2D& shapes, QPointF origin);
 
     QPainter& painter_;
-    QRect area_;
+    QRectF area_;
     std::optional<QColor> tint_;
     mutable FontInUse font_;
 };

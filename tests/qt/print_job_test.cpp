@@ -51,6 +51,25 @@ TEST(PrintJob, AnythingPrintedIsTextInThePdf) {
     EXPECT_EQ(std::count(text.begin(), text.end(), '\f'), 3) << "pages";
 }
 
+TEST(PrintJob, APageShrinksForWhatIsHigher) {
+    const QTemporaryDir folder;
+    const std::unique_ptr<PrintJob> job = PrintJob::begin(printerTo(folder.filePath("page.pdf")), 72);
+    ASSERT_NE(job, nullptr);
+    job->shrinkToFit(100, 100);
+    EXPECT_DOUBLE_EQ(job->Height(), 756) << "there is room";
+    job->shrinkToFit(0, 1512);
+    EXPECT_DOUBLE_EQ(job->Width(), 2 * 576);
+    EXPECT_DOUBLE_EQ(job->Height(), 1512);
+    job->NextPage();
+    EXPECT_DOUBLE_EQ(job->Height(), 1512);
+}
+
+TEST(PrintJob, TicksOnPaperCanBeTold) {
+    const QtPaper paper;
+    EXPECT_GE(paper.resolution(), 72);
+    EXPECT_LE(paper.resolution(), 100) << "20 dots hold a label of 12 points";
+}
+
 TEST(PrintJob, APrinterThatTakesNothingGivesNoPages) {
     EXPECT_EQ(PrintJob::begin(printerTo("/proc/no such folder/journal.pdf"), 72), nullptr);
 }

@@ -113,14 +113,40 @@ TEST_F(DiaryReportTest, LandscapePagesAreLower) {
         int resolution() const override { return 72; }
         bool ask() override { return true; }
     };
-    addDays(18); // 37 lines a page
+    addDays(30); // 37 lines a page
     toolkit_.nextPaper = [] { return std::make_unique<Landscape>(); };
     FilePrintSetup_Action();
     report_.PrintAll();
     EXPECT_EQ(toolkit_.pageBreaks(), 1);
-    table_.select(std::vector<bool>(18, true));
+    table_.select(std::vector<bool>(30, true));
     report_.FilePrintSelected_Action();
-    EXPECT_EQ(toolkit_.pageBreaks(), 0) << "the selected days are printed as on upright paper";
+    EXPECT_EQ(toolkit_.pageBreaks(), 1) << "the selected days are printed as on upright paper";
+    EXPECT_EQ(body()[25], "704: 50 'day 25'") << "and that is drawn smaller";
+    EXPECT_GE(toolkit_.lastPage.height, 755);
+    EXPECT_DOUBLE_EQ(toolkit_.lastPage.width / toolkit_.lastPage.height, 756.0 / 576) << "in both directions alike";
+}
+
+TEST_F(DiaryReportTest, DetailsEndWhereThePageDoes) {
+    class A4 : public Paper {
+        double width() const override { return 559; }
+        double height() const override { return 806; }
+        int resolution() const override { return 72; }
+        bool ask() override { return true; }
+    };
+    // 73 letters of 6 points: they would fit in 450 points, but not in the 439 that are left beside 120.
+    const std::string ten = "abcdefghi ";
+    std::string food;
+    for (int word = 0; word < 7; ++word)
+        food += ten;
+    writeDetails("endofmeds\n" + food + "abc d\nwalk\n");
+    Globals::gIncludeFood = true;
+    table_.AddRows({{"11/2/2026"}});
+    Globals::ps.reset();
+    toolkit_.nextPaper = [] { return std::make_unique<A4>(); };
+    report_.PrintAll();
+    EXPECT_EQ(body(), (Texts{"104: 50 '11/2/2026'", "116: 50 'Food: ' 120 '" + food + "abc '", "128: 120 'd'",
+                             "164: 50 'Averages: '"}));
+    EXPECT_EQ(toolkit_.lastPage.width, 559);
 }
 
 TEST_F(DiaryReportTest, DetailsFollowTheirDay) {
