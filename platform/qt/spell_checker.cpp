@@ -22,18 +22,30 @@ QString dictionaryPath(const QString& language, const char* ending) {
     return {};
 }
 
+/// The name that Qt knows for an encoding as dictionaries name it.
+std::string commonName(std::string encoding) {
+    constexpr std::string_view maker = "microsoft-"; // before "cp1251"
+    if (encoding.starts_with(maker))
+        encoding.erase(0, maker.size());
+    if (encoding == "TIS620-2533") // the year of the standard, by another calendar
+        return "TIS-620";
+    return encoding;
+}
+
 } // namespace
 
-Dictionary::Dictionary(const QString& language) {
-    const QString affixes = dictionaryPath(language, ".aff");
-    const QString words = dictionaryPath(language, ".dic");
+Dictionary::Dictionary(const QString& language)
+    : Dictionary(dictionaryPath(language, ".aff"), dictionaryPath(language, ".dic")) {}
+
+Dictionary::Dictionary(const QString& affixes, const QString& words) {
     if (affixes.isEmpty() || words.isEmpty())
         return;
     auto dictionary =
         std::make_unique<Hunspell>(QFile::encodeName(affixes).constData(), QFile::encodeName(words).constData());
-    const std::string encoding = dictionary->get_dict_encoding();
-    utf8_ = encoding == "UTF-8";
-    if (utf8_ || encoding == "ISO8859-1")
+    const std::string encoding = commonName(dictionary->get_dict_encoding());
+    encode_ = QStringEncoder(encoding.c_str());
+    decode_ = QStringDecoder(encoding.c_str());
+    if (encode_.isValid() && decode_.isValid())
         words_ = std::move(dictionary);
 }
 
@@ -47,7 +59,8 @@ const Dictionary& Dictionary::ofDesktop() {
 std::string Dictionary::encoded(const QString& word) const {
     QString plain = word;
     plain.replace(QChar(0x2019), QLatin1Char('\'')); // dictionaries know the straight apostrophe
-    return utf8_ ? plain.toStdString() : plain.toLatin1().toStdString();
+    const QByteArray bytes = encode_.encode(plain);
+    return bytes.toStdString();
 }
 
 bool Dictionary::knows(const QString& word) const {
@@ -63,7 +76,7 @@ QStringList Dictionary::suggestions(const QString& word) const {
     QStringList result;
     if (isThere())
         for (const std::string& suggestion : words_->suggest(encoded(word)))
-            result += utf8_ ? QString::fromStdString(suggestion) : QString::fromLatin1(suggestion.c_str());
+            result += QString(decode_.decode(suggestion));
     return result;
 }
 

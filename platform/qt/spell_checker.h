@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QHash>
+#include <QStringConverter>
 #include <QStringList>
 #include <QSyntaxHighlighter>
 
@@ -16,6 +17,8 @@ class Dictionary {
 public:
     /// The dictionary of that language, such as "en_US", in one of the folders where desktops keep them.
     explicit Dictionary(const QString& language);
+    /// The dictionary in these two files, if they are there and in an encoding that Qt knows.
+    Dictionary(const QString& affixes, const QString& words);
     ~Dictionary();
     Dictionary(const Dictionary&) = delete;
     Dictionary& operator=(const Dictionary&) = delete;
@@ -32,7 +35,9 @@ private:
     std::string encoded(const QString& word) const;
 
     std::unique_ptr<Hunspell> words_;
-    bool utf8_ = false; // else Latin-1
+    // Between texts and the dictionary's own encoding
+    mutable QStringEncoder encode_;
+    mutable QStringDecoder decode_;
     mutable QHash<QString, bool> known_; // what was asked before
 };
 

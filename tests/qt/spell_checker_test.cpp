@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QPlainTextEdit>
+#include <QTemporaryDir>
 #include <QTextBlock>
 #include <QTextLayout>
 
@@ -30,6 +32,30 @@ TEST(SpellChecker, AnInstalledDictionaryKnowsAndSuggests) {
     EXPECT_TRUE(english.knows("didn\u2019t"));
     EXPECT_FALSE(english.knows("brekfast"));
     EXPECT_TRUE(english.suggestions("brekfast").contains("breakfast"));
+}
+
+TEST(SpellChecker, DictionariesInOtherEncodings) {
+    const QTemporaryDir folder;
+    const auto check = [&](const QByteArray& encoding, const QByteArray& bytes, const QString& word) {
+        const auto write = [&](const char* name, const QByteArray& content) {
+            QFile file(folder.filePath(name));
+            ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+            file.write(content);
+        };
+        write("d.aff", "SET " + encoding + "\n");
+        write("d.dic", "1\n" + bytes + "\n");
+        const Dictionary dictionary(folder.filePath("d.aff"), folder.filePath("d.dic"));
+        ASSERT_TRUE(dictionary.isThere()) << encoding.toStdString();
+        EXPECT_TRUE(dictionary.knows(word)) << encoding.toStdString();
+        EXPECT_FALSE(dictionary.knows(word + 'x')) << encoding.toStdString();
+        EXPECT_TRUE(dictionary.suggestions(word + 'x').contains(word)) << encoding.toStdString();
+    };
+    check("ISO8859-1", "caf\xE9", "caf\u00e9");
+    check("ISO8859-2", "\xB6niadanie", "\u015bniadanie");
+    check("ISO8859-15", "c\xBDur", "c\u0153ur");
+    check("KOI8-R", "\xDA\xC1\xD7\xD4\xD2\xC1\xCB", "\u0437\u0430\u0432\u0442\u0440\u0430\u043a");
+    check("microsoft-cp1251", "\xEE\xE1\xB3\xE4", "\u043e\u0431\u0456\u0434");
+    check("UTF-8", "fr\u00fchst\u00fcck", "fr\u00fchst\u00fcck");
 }
 
 TEST(SpellChecker, WithoutADictionaryEveryWordIsGood) {
