@@ -2,8 +2,10 @@
 
 #include <optional>
 
+#include "diary/cell_words.h"
 #include "diary/day_table.h"
 #include "platform/text.h"
+#include "platform/toolkit.h"
 
 namespace tallyvane {
 
@@ -29,6 +31,15 @@ std::optional<Target> targetOf(const Listbox& table, int row, int column, std::s
     return std::nullopt;
 }
 
+/// What was typed is taken in, as a move takes it in. Since it is selected too, the next digit would replace it: the
+/// user hears that, and learns the way to the weight where the next key would have been expected to lead there.
+void stayAtEdge(Listbox& table, int column, std::string_view key) {
+    table.confirmCell();
+    Beep();
+    if (column == DayTable::lastReading && (key == Chr(29) || key == Chr(9)))
+        table.giveHint(CellWords::wayToWeight(table));
+}
+
 } // namespace
 
 bool moveByKey(Listbox& table, int row, int column, std::string_view key) {
@@ -37,6 +48,8 @@ bool moveByKey(Listbox& table, int row, int column, std::string_view key) {
         return false;
     if (target->reachable)
         table.EditCell(target->row, target->column);
+    else
+        stayAtEdge(table, column, key);
     table.ActiveCell().SelectAll();
     return true;
 }

@@ -188,6 +188,11 @@ void Listbox::select(const std::vector<bool>& rows) {
         raiseChange();
 }
 
+void Listbox::bringIntoView(int row) {
+    if (list_ != nullptr && contains(row, 0))
+        list_->bringIntoView(row);
+}
+
 void Listbox::raiseChange() {
     if (list_ != nullptr)
         list_->selectionChanged();

@@ -27,6 +27,9 @@ public:
     virtual void selectionChanged() = 0;
     /// A cell was opened, or the open one was closed.
     virtual void openCellChanged() = 0;
+    /// A line is to show at the open cell.
+    virtual void hintGiven(const std::string& hint) = 0;
+    virtual void bringIntoView(int row) = 0;
 };
 
 /// What the user drops: a file, a text, or neither of them.
@@ -124,6 +127,8 @@ public:
     std::string selectedText(int columns) const;
     /// Selects these rows and no other. Raises Change once when the selection differs.
     void select(const std::vector<bool>& rows);
+    /// Scrolls so that the row and as many as possible of those after it can be seen.
+    void bringIntoView(int row);
 
     // What may be dropped on the list
 
@@ -135,8 +140,8 @@ public:
 
     // Editing in place
 
-    /// Opens a cell, whatever its column's type, with its row selected alone. A row or column that does not exist
-    /// leaves things as they are.
+    /// Opens a cell, whatever its column's type, with its row selected alone; for the open cell this is confirmCell. A
+    /// row or column that does not exist leaves things as they are.
     void EditCell(int row, int column);
     /// The field of the open cell; it keeps its last state when none is open.
     TextField& ActiveCell() { return activeCell_; }
@@ -148,9 +153,15 @@ public:
     void userTyped(std::string text, int selStart, int selLength);
     /// Ends the editing; the cell keeps what was typed.
     void closeCell();
-    /// Ends the editing and puts the text back as it was when the cell was opened, and with it the other cells of the
-    /// row, which may have followed what was typed. CellTextChange if anything was typed.
+    /// The cell stays open and keeps what was typed, also if it is reverted later.
+    void confirmCell() { cellsBeforeTyping_.clear(); }
+    /// Ends the editing and puts the text back as it was when the cell was opened or confirmed last, and with it the
+    /// other cells of the row, which may have followed what was typed. CellTextChange if anything was typed.
     void revertCell();
+    /// Moves the editing by so many rows, down if positive, as far as there are rows, and selects the whole text.
+    void moveCell(int rows);
+    /// Shows a line at the open cell, for a few seconds or until another cell is opened.
+    void giveHint(const std::string& hint);
 
     // Sorting
 
@@ -240,7 +251,7 @@ private:
     TextField activeCell_;
     int openRow_ = -1;
     int openColumn_ = -1;
-    std::vector<std::string> cellsBeforeTyping_; // of the open cell's row; empty until the first key
+    std::vector<std::string> cellsBeforeTyping_; // of the open cell's row; empty while there is nothing to revert
     ListboxObserver* list_ = nullptr;
 };
 

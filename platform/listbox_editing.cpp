@@ -1,4 +1,7 @@
 #include "platform/listbox.h"
+
+#include <algorithm>
+
 #include "platform/text.h"
 
 namespace tallyvane {
@@ -17,12 +20,12 @@ void Listbox::EditCell(int row, int column) {
     if (!contains(row, column))
         return;
     ListIndex(row);
+    confirmCell();
     if (row == openRow_ && column == openColumn_)
         return;
     closeCell();
     openRow_ = row;
     openColumn_ = column;
-    cellsBeforeTyping_.clear();
     activeCell_.userChanged(Cell(row, column), 0, Len(Cell(row, column)));
     if (list_ != nullptr)
         list_->openCellChanged();
@@ -60,6 +63,18 @@ void Listbox::revertCell() {
     for (int followed = 0; followed < ColumnCount(); ++followed)
         Cell(row, followed, cellsBeforeTyping_[index(followed)]);
     raiseTextChange(row, column);
+}
+
+void Listbox::moveCell(int rows) {
+    if (openRow_ < 0)
+        return;
+    EditCell(std::clamp(openRow_ + rows, 0, ListCount() - 1), openColumn_);
+    activeCell_.SelectAll();
+}
+
+void Listbox::giveHint(const std::string& hint) {
+    if (list_ != nullptr && openRow_ >= 0)
+        list_->hintGiven(hint);
 }
 
 void Listbox::raiseTextChange(int row, int column) {

@@ -1,5 +1,6 @@
 #include "platform/qt/cell_editor.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 
 #include <limits>
@@ -81,9 +82,21 @@ bool CellEditor::takesKey(const QKeyEvent& key) {
         deliver([this] { list_->closeCell(); });
     else if (name == Chr(27))
         deliver([this] { list_->revertCell(); });
+    else if (name == Chr(11)) // Page Up
+        movePages(-1);
+    else if (name == Chr(12)) // Page Down
+        movePages(1);
     else
         return false;
     return true;
+}
+
+void CellEditor::movePages(int pages) {
+    const int before = list_->openRow();
+    const int rowsAPage = parentWidget()->height() / list_->DefaultRowHeight();
+    deliver([&] { list_->moveCell(pages * rowsAPage); });
+    if (list_ != nullptr && list_->openRow() == before)
+        QApplication::beep();
 }
 
 bool CellEditor::event(QEvent* event) {
@@ -92,8 +105,12 @@ bool CellEditor::event(QEvent* event) {
     if (!open || !isKey)
         return QLineEdit::event(event);
     const auto& key = *static_cast<QKeyEvent*>(event);
-    if (event->type() == QEvent::KeyPress)
-        return takesKey(key) || QLineEdit::event(event);
+    if (event->type() == QEvent::KeyPress) {
+        if (!takesKey(key))
+            QLineEdit::event(event);
+        event->accept(); // a key that climbed on would move the list's selection away from the open cell
+        return true;
+    }
     if (isShortcut(key))
         return QLineEdit::event(event);
     event->accept(); // Return and Escape are for the cell, not for the window's buttons

@@ -24,6 +24,7 @@ protected:
 
 private:
     bool takesKey(const QKeyEvent& key);
+    void movePages(int pages);
     bool raiseKeyDown(const std::string& key);
     void textTyped();
     void selectionMoved();

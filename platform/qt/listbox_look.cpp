@@ -71,6 +71,7 @@ void ListboxPeer::setUpLook() {
     horizontalHeader()->setMinimumSectionSize(1);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setTextElideMode(Qt::ElideRight);
     QFont headings = font();
     headings.setPixelSize(headingLetters);
     horizontalHeader()->setFont(headings);
@@ -87,10 +88,16 @@ void ListboxPeer::setLetters() {
     editor_->setFont(letters);
 }
 
-/// Columns that share the list's width leave the scroll bar its room.
+bool ListboxPeer::isHeadingCut(int column) const {
+    const int margins = 2 * style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, horizontalHeader());
+    const QString heading = model_->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+    return horizontalHeader()->fontMetrics().horizontalAdvance(heading) > columnWidth(column) - margins;
+}
+
+/// The last column leaves the scroll bar its room, whatever widths were set.
 void ListboxPeer::fitLastColumn() {
     const int last = model_->columnCount() - 1;
-    if (control_ == nullptr || last < 0 || !control_->ColumnWidths().ends_with('%'))
+    if (control_ == nullptr || last < 0)
         return;
     const int room = viewport()->width() - horizontalHeader()->sectionPosition(last);
     horizontalHeader()->resizeSection(last, std::min(control_->WidthActual(last), room));

@@ -51,7 +51,8 @@ std::string ListboxModel::spoken(int row, int column) const {
 }
 
 QVariant ListboxModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation == Qt::Horizontal && role == Qt::DisplayRole)
+    const bool isTip = role == Qt::ToolTipRole && isHeadingCut && isHeadingCut(section);
+    if (orientation == Qt::Horizontal && (role == Qt::DisplayRole || isTip))
         return toQt(shown(list_.Heading(section)));
     return {};
 }

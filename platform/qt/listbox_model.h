@@ -2,6 +2,8 @@
 
 #include <QAbstractTableModel>
 
+#include <functional>
+
 #include "platform/listbox.h"
 
 namespace tallyvane {
@@ -24,6 +26,8 @@ public:
     void tellCellChanged(int row, int column);
     /// Widths, their number and the headings.
     void tellColumnsChanged();
+    /// Whether a heading does not show whole; it has a tool tip then.
+    std::function<bool(int column)> isHeadingCut;
     /// Of the columns that are shown.
     const std::vector<int>& widths() const { return widths_; }
 

@@ -22,8 +22,12 @@ namespace tallyvane {
 
 ListboxPeer::ListboxPeer(Listbox& list, QWidget* parent)
     : Peer(list, parent), model_(new ListboxModel(list, this)), editor_(new CellEditor(list, viewport())) {
-    setModel(model_);
+    {
+        const QScopedValueRollback bringing(bringingSelection_, true); // a new model clears the view's selection
+        setModel(model_);
+    }
     setUpLook();
+    model_->isHeadingCut = [this](int column) { return isHeadingCut(column); };
     setEditTriggers(NoEditTriggers);
     setSelectionBehavior(SelectRows);
     setTabKeyNavigation(false);
@@ -116,7 +120,18 @@ void ListboxPeer::bringSelection() {
     viewport()->update();
 }
 
+void ListboxPeer::hintGiven(const std::string& hint) {
+    editor_->setAccessibleDescription(tallyvane::toQt(hint));
+    QToolTip::showText(editor_->mapToGlobal(editor_->rect().bottomLeft()), tallyvane::toQt(hint), editor_);
+}
+
+void ListboxPeer::bringIntoView(int row) { scrollTo(model_->index(row, 0), PositionAtTop); }
+
 void ListboxPeer::openCellChanged() {
+    if (!editor_->accessibleDescription().isEmpty()) {
+        editor_->setAccessibleDescription({});
+        QToolTip::hideText();
+    }
     const QModelIndex cell = model_->index(control_->openRow(), control_->openColumn());
     if (!cell.isValid()) {
         if (editor_->hasFocus())

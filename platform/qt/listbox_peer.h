@@ -23,6 +23,8 @@ public:
     void cellChanged(int row, int column) override;
     void selectionChanged() override;
     void openCellChanged() override;
+    void hintGiven(const std::string& hint) override;
+    void bringIntoView(int row) override;
 
     /// Copies the selected rows with their visible columns to the clipboard; nothing without a selection.
     void copyRows() const;
@@ -58,6 +60,7 @@ private:
     void setUpLook();
     void setLetters();
     void fitLastColumn();
+    bool isHeadingCut(int column) const;
     Qt::Alignment alignmentOf(int column) const;
     void bringSelection();
     void click(const QModelIndex& cell, const QPoint& place);

@@ -1,6 +1,7 @@
 #include "diary/cell_words.h"
 
 #include "diary/day_table.h"
+#include "settings/globals.h"
 #include "support/test_desk.h"
 
 namespace tallyvane {
@@ -10,7 +11,8 @@ namespace {
 class CellWordsTest : public DiaryDesk {};
 
 TEST_F(CellWordsTest, ACellSaysWhatItIsAndWhereItStands) {
-    const auto check = [this](int column, const char* text, const char* spoken, const char* helpTag = "") {
+    const auto check = [this](int column, const char* text, const std::string& spoken,
+                              const std::string& helpTag = "") {
         table_.Cell(0, column, text);
         EXPECT_EQ(table_.CellDescription(0, column), spoken) << text;
         EXPECT_EQ(table_.CellHelpTag(0, column), helpTag) << text;
@@ -27,9 +29,16 @@ TEST_F(CellWordsTest, ACellSaysWhatItIsAndWhereItStands) {
     check(3, "", "Before Lunch, 11/22/2026");
     check(2, "5,6", "After Breakfast, 11/22/2026, 5,6, counts as 5, in target zone", "counts as 5");
     check(5, "7.2x", "Before Supper, 11/22/2026, 7.2x, counts as 7.2, in target zone", "counts as 7.2");
-    check(5, "ill", "Before Supper, 11/22/2026, ill, does not count, too low", "does not count");
-    check(5, "-5x", "Before Supper, 11/22/2026, -5x, counts as -5, too low", "counts as -5");
+    const std::string noNumber = "no number: does not count, and its light does not mean \u201ctoo low\u201d";
+    check(5, "HI", "Before Supper, 11/22/2026, HI, " + noNumber, noNumber);
+    const std::string negative = "below 0: lowers the day's average without being counted";
+    check(5, "-5", "Before Supper, 11/22/2026, -5, " + negative + ", too low", negative);
     check(9, "80 kg", "Weight, 11/22/2026, 80 kg, counts as 80", "counts as 80");
+    check(9, "-80", "Weight, 11/22/2026, -80, does not count", "does not count");
+    check(0, "22.11.2026", "Date, 22.11.2026, can't be read as a date", "can't be read as a date");
+    Globals::gShowIndicators = false;
+    table_.Cell(0, 0, "11/22/2026");
+    check(5, "LO", "Before Supper, 11/22/2026, LO, no number: does not count", "no number: does not count");
 }
 
 } // namespace

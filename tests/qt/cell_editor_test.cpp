@@ -46,13 +46,51 @@ TEST_F(CellEditorTest, ColumnsWithoutTypingDoNotOpen) {
     EXPECT_EQ(list().openColumn(), 9);
 }
 
-TEST_F(CellEditorTest, AtAnEdgeTheTextIsSelectedAnew) {
+TEST_F(CellEditorTest, AMoveAtAnEdgeTakesInWhatWasTypedAndTellsTheWayToTheWeight) {
+    click(0, 7);
+    QTest::keyClicks(editor(), "8.8");
+    QTest::keyClick(editor(), Qt::Key_Tab);
+    EXPECT_EQ(list().openColumn(), 7);
+    EXPECT_EQ(editor()->selectedText(), "8.8");
+    EXPECT_NE(editor()->accessibleDescription().indexOf("Weight: "), -1);
+    QTest::keyClicks(editor(), "9");
+    QTest::keyClick(editor(), Qt::Key_Escape);
+    EXPECT_EQ(list().Cell(0, 7), "8.8") << "what was typed after that is taken back";
+    EXPECT_EQ(list().Cell(0, 8), "6.6");
+
     click(0, 1);
-    QTest::keyClick(editor(), Qt::Key_End);
-    EXPECT_FALSE(editor()->hasSelectedText());
-    QTest::keyClick(editor(), Qt::Key_Left);
-    EXPECT_EQ(list().openColumn(), 1);
+    EXPECT_EQ(editor()->accessibleDescription(), "");
+    QTest::keyClicks(editor(), "7");
+    for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Left, Qt::Key_PageUp})
+        QTest::keyClick(editor(), key);
+    QTest::keyClick(editor(), Qt::Key_Escape);
+    EXPECT_EQ(list().Cell(0, 1), "7");
+}
+
+TEST_F(CellEditorTest, NoKeyReachesTheListWhileACellIsOpen) {
+    click(3, 1);
+    for (const Qt::Key key : {Qt::Key_Home, Qt::Key_End, Qt::Key_Space, Qt::Key_Up, Qt::Key_PageDown})
+        for (const Qt::KeyboardModifiers also : {Qt::NoModifier, Qt::ShiftModifier})
+            QTest::keyClick(editor(), key, Qt::ControlModifier | also);
+    QTest::keyClick(editor(), Qt::Key_F3);
+    EXPECT_EQ(list().openRow(), 3);
+    EXPECT_EQ(list().ListIndex(), 3);
+    EXPECT_EQ(list().SelectedCount(), 1);
+    QTest::keyClick(editor(), Qt::Key_PageDown);
+    EXPECT_EQ(list().openRow(), 3 + table_->viewport()->height() / 15) << "a page further down";
+    EXPECT_EQ(list().ListIndex(), list().openRow());
     EXPECT_EQ(editor()->selectedText(), "5");
+    QTest::keyClick(editor(), Qt::Key_PageUp);
+    EXPECT_EQ(list().openRow(), 3);
+}
+
+TEST_F(CellEditorTest, AScrollBarCoversNoWeight) {
+    list().select(std::vector<bool>(40, true));
+    app_->window1()->BevelButton2_Action();
+    list().AddRows(std::vector<std::vector<std::string>>(40, {"1/1/2026"})); // as an import adds them
+    QCoreApplication::processEvents();
+    EXPECT_EQ(list().WidthActual(9), 87) << "the widths are as they were";
+    EXPECT_EQ(table_->columnViewportPosition(9) + table_->columnWidth(9), table_->viewport()->width());
 }
 
 TEST_F(CellEditorTest, EscapeTakesTheTypingBack) {
