@@ -1,6 +1,7 @@
 /// The simple controls: labels, buttons, canvases, timers.
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <initializer_list>
 #include <optional>
@@ -164,6 +165,11 @@ public:
     static void join(std::initializer_list<RadioButton*> buttons) {
         for (RadioButton* button : buttons)
             button->choices_ = buttons;
+    }
+
+    /// Whether the two are choices of one question.
+    bool excludes(const RadioButton& other) const {
+        return std::find(choices_.begin(), choices_.end(), &other) != choices_.end();
     }
 
     const std::string& Caption() const { return caption_; }

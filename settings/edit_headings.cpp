@@ -15,10 +15,13 @@ constexpr int columnLeft(int column) { return fieldLeft + columnWidth * (column 
 constexpr Rect columnField(int column) { return {columnLeft(column), 126, columnWidth - 4, 26}; }
 constexpr Rect groupField(int first, int columns) { return {columnLeft(first), 56, columnWidth * columns - 4, 26}; }
 
-/// The heading bar of the table, with its columns where the fields are.
+/// The bar over the table, in the main window's colours and with a light edge, so that it stands out on any ground; its
+/// columns are where the fields are.
 void paintBar(Graphics& g) {
-    g.ForeColor(RGB(36, 37, 40));
+    g.ForeColor(RGB(150, 152, 158));
     g.FillRect(0, 0, g.Width(), g.Height());
+    g.ForeColor(RGB(36, 37, 40));
+    g.FillRect(1, 1, g.Width() - 2, g.Height() - 2);
     g.ForeColor(RGB(150, 152, 158));
     for (const int column : {3, 5, 7, 8, 9})
         g.FillRect(columnLeft(column) - fieldLeft - 2, 0, 1, g.Height());

@@ -1,6 +1,7 @@
 #include "platform/qt/simple_peers.h"
 
 #include <QApplication>
+#include <QButtonGroup>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -44,7 +45,6 @@ StaticTextPeer::StaticTextPeer(StaticText& text, QWidget* parent) : Peer(text, p
 }
 
 void StaticTextPeer::sync() {
-    setText(tallyvane::toQt(Left(control_->Text(), mostCharacters)));
     setAlignment(toQt(control_->Align()) | Qt::AlignVCenter);
     setWordWrap(control_->Multiline());
     QFont font = parentWidget()->font();
@@ -55,11 +55,24 @@ void StaticTextPeer::sync() {
     font.setBold(control_->Bold());
     if (font != this->font())
         setFont(font);
+    showText();
     QPalette colors = parentWidget()->palette();
     if (const auto& color = control_->TextColor())
         colors.setColor(QPalette::WindowText, tallyvane::toQt(*color));
     if (colors != palette())
         setPalette(colors);
+}
+
+/// A line that is too long ends in dots, and shows whole in the tool tip.
+void StaticTextPeer::showText() {
+    const QString whole = tallyvane::toQt(Left(control_->Text(), mostCharacters));
+    setText(control_->Multiline() ? whole : fontMetrics().elidedText(whole, Qt::ElideRight, control_->Width()));
+    if (text() == whole)
+        return;
+    if (toolTip().isEmpty())
+        setToolTip(whole);
+    if (accessibleName().isEmpty())
+        setAccessibleName(whole);
 }
 
 // Canvas
@@ -81,6 +94,7 @@ void CanvasPeer::paintEvent(QPaintEvent* /*event*/) {
     if (hasFocus()) {
         QStyleOptionFocusRect focus;
         focus.initFrom(this);
+        focus.state |= QStyle::State_KeyboardFocusChange; // else a window that has just opened shows none
         style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
     }
 }
@@ -142,6 +156,7 @@ void GroupBoxPeer::sync() { setTitle(asItStands(control_->Caption())); }
 // PushButton
 
 PushButtonPeer::PushButtonPeer(PushButton& button, QWidget* parent) : Peer(button, parent) {
+    setAutoDefault(true); // Return presses it while it has the focus
     const auto press = [this] {
         if (control_ != nullptr)
             deliver(control_->Action);
@@ -176,6 +191,13 @@ BevelButtonPeer::BevelButtonPeer(BevelButton& button, QWidget* parent) : Peer(bu
             deliver(control_->Action);
     });
     controlChanged();
+}
+
+void BevelButtonPeer::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QToolButton::keyPressEvent(event);
 }
 
 void BevelButtonPeer::sync() { setText(tallyvane::toQt(control_->Caption())); }
@@ -220,14 +242,24 @@ bool CheckBoxPeer::isTooWide() const { return sizeHint().width() > control_->Wid
 // RadioButton
 
 RadioButtonPeer::RadioButtonPeer(RadioButton& button, QWidget* parent) : Peer(button, parent) {
-    setAutoExclusive(false); // the buttons themselves see to that
+    joinChoices(*parent);
     controlChanged();
     connect(this, &QRadioButton::clicked, this, [this] {
         if (control_ != nullptr)
             deliver([&] { control_->userChose(); });
-        if (control_ != nullptr)
-            setChecked(control_->Value()); // a second click would switch it off
     });
+}
+
+/// Choices of one question are one group to Qt: its arrow keys then move the choice together with the focus.
+void RadioButtonPeer::joinChoices(QWidget& parent) {
+    for (QRadioButton* other : parent.findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly)) {
+        const auto* peer = dynamic_cast<RadioButtonPeer*>(other);
+        if (peer != nullptr && peer != this && peer->control_->excludes(*control_)) {
+            peer->group()->addButton(this);
+            return;
+        }
+    }
+    (new QButtonGroup(&parent))->addButton(this);
 }
 
 void RadioButtonPeer::sync() {

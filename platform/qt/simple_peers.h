@@ -22,6 +22,9 @@ public:
 
 protected:
     void sync() override;
+
+private:
+    void showText();
 };
 
 class CanvasPeer : public Peer<QWidget, Canvas> {
@@ -75,6 +78,7 @@ public:
 
 protected:
     void sync() override;
+    void keyPressEvent(QKeyEvent* event) override;
 };
 
 class CheckBoxPeer : public Peer<QCheckBox, CheckBox> {
@@ -97,6 +101,9 @@ public:
 
 protected:
     void sync() override;
+
+private:
+    void joinChoices(QWidget& parent);
 };
 
 class ProgressBarPeer : public Peer<QProgressBar, ProgressBar> {

@@ -31,6 +31,12 @@ bool isForTheWindow(int key) {
            key == Qt::Key_Escape;
 }
 
+/// With Shift or Ctrl it does so too.
+bool movesCursor(int key) {
+    return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down ||
+           key == Qt::Key_Home || key == Qt::Key_End;
+}
+
 } // namespace
 
 // TextField
@@ -68,7 +74,8 @@ bool TextFieldPeer::consumes(const std::string& key) {
 
 void TextFieldPeer::keyPressEvent(QKeyEvent* event) {
     const std::string key = nameOf(*event);
-    const bool isForTheField = !key.empty() && !isShortcut(*event) && !isForTheWindow(event->key());
+    const bool isOffered = movesCursor(event->key()) || !isShortcut(*event);
+    const bool isForTheField = !key.empty() && isOffered && !isForTheWindow(event->key());
     if (!isForTheField || !consumes(key))
         QLineEdit::keyPressEvent(event);
 }

@@ -57,13 +57,17 @@ Qt::WindowFlags flagsOf(Window::Kind kind) {
     return Qt::Window;
 }
 
-/// The place for a window of that size, or another one where the middle of its title can be got hold of: the screen on
-/// which it stood may be gone.
+/// The place for a window of that size, or the middle of the screen when no part of its title bar that the mouse can
+/// get hold of lies on a screen: the one on which it stood may be gone.
 QPoint withinReach(QPoint place, QSize size) {
-    constexpr int inTheTitle = 10; // points below the frame's upper edge
-    for (const QScreen* screen : QGuiApplication::screens())
-        if (screen->geometry().contains(place + QPoint(size.width() / 2, inTheTitle)))
+    constexpr QSize hold(48, 16);
+    constexpr int titleHeight = 24;
+    const QRect title(place, QSize(size.width(), titleHeight));
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        const QSize seen = screen->geometry().intersected(title).size();
+        if (seen.expandedTo(hold) == seen)
             return place;
+    }
     QRect around(QPoint(0, 0), size);
     around.moveCenter(QGuiApplication::primaryScreen()->availableGeometry().center());
     return around.topLeft();

@@ -235,6 +235,13 @@ TEST_F(MainWindowTest, AWindowFromAScreenThatIsGoneComesBackIntoSight) {
     EXPECT_TRUE(QGuiApplication::primaryScreen()->geometry().contains(frame_->geometry().center()));
 }
 
+TEST_F(MainWindowTest, AWindowThatCanStillBeGotHoldOfStaysWhereItWas) {
+    const int left = QGuiApplication::primaryScreen()->geometry().right() - 60;
+    write(applicationFile("QVXWindowData"), std::to_string(left) + "\n100\n746\n518\n");
+    start();
+    EXPECT_EQ(frame_->x(), left);
+}
+
 TEST_F(MainWindowTest, TheGraphGrowsWithItsWindowAndAnswersThePrintItem) {
     startOn("1/1/2026@#@5\n1/2/2026@#@7\n");
     list().select({true, true});

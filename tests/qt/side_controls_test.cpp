@@ -33,8 +33,11 @@ TEST_F(SideControlsTest, AFieldRefusesKeysAndTakesAPasteInOneLine) {
     field->selectAll();
     QTest::keyClicks(field, "1x8,0");
     QTest::keyClick(field, Qt::Key_Home);
+    for (const Qt::KeyboardModifier held : {Qt::ShiftModifier, Qt::ControlModifier})
+        QTest::keyClick(field, Qt::Key_Left, held);
     EXPECT_EQ(prefs.EditField1.Text(), "180");
-    EXPECT_EQ(field->cursorPosition(), 3) << "the key was refused";
+    EXPECT_EQ(field->cursorPosition(), 3) << "the keys were refused";
+    EXPECT_FALSE(field->hasSelectedText());
     QTest::keyClick(field, Qt::Key_X, Qt::AltModifier);
     QInputMethodEvent composed;
     composed.setCommitString("\u00e9");
@@ -122,11 +125,34 @@ TEST_F(SideControlsTest, DropsAreCopies) {
     EXPECT_FALSE(table_->acceptDrops() && app_->window1()->ListBox1.DropObject) << "the table of days takes none";
 }
 
+TEST_F(SideControlsTest, WhatIsTooLongEndsInDotsAndShowsWholeInATip) {
+    const QString longName = "After the second breakfast";
+    Texts headings(13, fromQt(longName));
+    std::string file;
+    for (const std::string& heading : headings)
+        file += heading + "\n";
+    write(applicationFile("7VXHeadings"), file);
+    start();
+    QLabel* meal = nullptr;
+    for (auto* label : frame_->findChildren<QLabel*>())
+        if (label->accessibleName() == longName)
+            meal = label;
+    ASSERT_NE(meal, nullptr);
+    EXPECT_TRUE(meal->text().endsWith(QChar(0x2026))) << meal->text().toStdString();
+    EXPECT_EQ(meal->toolTip(), longName);
+    const auto tip = [&](int column) { return table_->model()->headerData(column, Qt::Horizontal, Qt::ToolTipRole); };
+    EXPECT_EQ(tip(1).toString(), longName);
+    EXPECT_FALSE(tip(0).isValid()) << "the date's heading shows whole";
+}
+
 TEST_F(SideControlsTest, ALongListShowsTheRowThatIsSelectedAndItsWholeWidth) {
+    write(applicationFile("QVXContacts"), "Nurse@#@Jane@#@@#@@#@\n");
     start();
     app_->window1()->showTeamAndMedications();
     auto* shown = frameTitled("Information")->findChild<ListboxPeer*>();
     Listbox& contacts = app_->infoWindow()->ListBox1;
+    EXPECT_EQ(contacts.ListIndex(), 0) << "as the window has selected it";
+    EXPECT_TRUE(shown->selectionModel()->isRowSelected(0));
     EXPECT_EQ(shown->columnWidth(0), shown->viewport()->width());
     for (int contact = 0; contact < 100; ++contact)
         contacts.AddRow("someone");
