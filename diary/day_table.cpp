@@ -1,8 +1,10 @@
 #include "diary/day_table.h"
 
 #include "platform/text.h"
+#include "platform/translation.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
+#include "settings/unsaved_files.h"
 
 namespace tallyvane::DayTable {
 
@@ -37,12 +39,13 @@ void addDay(Listbox& table, const Date& day) {
 }
 
 void save(const Listbox& table) {
-    std::optional<TextOutputStream> stream = DataFiles::createText(file());
-    if (!stream)
-        return;
+    TextWriter rows;
     for (int row = 0; row < table.ListCount(); ++row)
-        stream->WriteFields(table.cells(row).first(savedColumns), DataFiles::fieldSeparator);
-    stream->Close();
+        rows.WriteFields(table.cells(row).first(savedColumns), DataFiles::fieldSeparator);
+    const std::optional<FolderItem>& folder = StartupGlobals::gDataFolder;
+    UnsavedFiles::save({tr("Your days"), std::string(DataFiles::dayTable),
+                        folder ? DataFiles::placeIn(*folder, DataFiles::dayTable) : std::nullopt},
+                       rows.text());
 }
 
 bool load(Listbox& table) {

@@ -33,8 +33,9 @@ std::string columnWidths(int rows, int listHeight);
 /// Appends a day, selects it alone and opens its first reading.
 void addDay(Listbox& table, const Date& day);
 
-/// Replaces "7VXData" in the data folder by the table's rows in their present order. Nothing without that folder, or
-/// when the file can't be opened. Throws IOException when the disk fails; the old file is whole then.
+/// Replaces "7VXData" in the data folder by the table's rows in their present order. Without that folder, or when the
+/// file can't be opened, the rows wait among the unsaved files; so they do when the disk fails, which throws
+/// IOException and leaves the old file whole.
 void save(const Listbox& table);
 
 /// Appends the days of "7VXData" to the table. False when there is no such file or it can't be opened.

@@ -1,31 +1,66 @@
 #include "diary/running_logs.h"
 
+#include "platform/date.h"
+#include "platform/system_files.h"
+#include "platform/text.h"
+#include "platform/translation.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
 #include "settings/log_record.h"
+#include "settings/unsaved_files.h"
 
 namespace tallyvane::RunningLogs {
 
-void save() {
-    std::optional<TextOutputStream> stream =
-        DataFiles::createText(DataFiles::applicationFileToWrite(DataFiles::runningLogs));
-    if (!stream)
-        return;
-    writeLogRecord(*stream);
-    stream->Close();
+namespace {
+
+/// Keeps a journal in a dated file of the application's folder. Its path; "" when such a file holds the text already.
+/// Throws IOException when the disk fails.
+std::string keep(const std::string& journal) {
+    const std::string name = std::string(DataFiles::journal) + " " + Date().isoDate();
+    for (int number = 1;; ++number) {
+        const std::optional<FolderItem> place = DataFiles::applicationFile(DataFiles::numbered(name, number));
+        if (!place || SystemFiles::read(place->AbsolutePath()) == journal)
+            return "";
+        if (place->Exists())
+            continue;
+        SystemFiles::write(place->AbsolutePath(), journal);
+        return place->AbsolutePath();
+    }
 }
 
-void load(const std::function<void(std::string)>& showJournal) {
+} // namespace
+
+void save() {
+    UnsavedFiles::save({tr("The journal and the logs"), std::string(DataFiles::runningLogs),
+                        DataFiles::applicationFileToWrite(DataFiles::runningLogs)},
+                       logRecord());
+}
+
+std::string load(const std::function<void(std::string)>& showJournal) {
+    std::string journal;
     if (auto stream = DataFiles::openText(DataFiles::applicationFile(DataFiles::runningLogs))) {
         const LogRecord record = readLogRecord(*stream);
+        journal = withLineEnds(record.journal);
         Globals::gExercise = record.exercise;
         Globals::gFood = record.food;
         Globals::gJournal = record.journal;
-        showJournal(withLineEnds(record.journal));
+        showJournal(journal);
         Globals::gMedication = record.medication;
     }
-    if (auto stream = DataFiles::openText(DataFiles::applicationFile(DataFiles::journal)))
-        showJournal(std::string(stream->ReadAll()));
+    auto stream = DataFiles::openText(DataFiles::applicationFile(DataFiles::journal));
+    if (!stream)
+        return "";
+    const std::string text(stream->ReadAll());
+    const bool holdsAll = ReplaceLineEndings(text, EndOfLine).find(journal) != std::string::npos;
+    std::string kept;
+    try {
+        if (!holdsAll)
+            kept = keep(journal);
+    } catch (const IOException&) { // a full disk, say
+        return "";
+    }
+    showJournal(text);
+    return kept;
 }
 
 } // namespace tallyvane::RunningLogs

@@ -1,7 +1,5 @@
 #include "diary/window1.h"
 
-#include <exception>
-
 #include "diary/cell_navigation.h"
 #include "diary/cell_words.h"
 #include "diary/date_window.h"
@@ -12,11 +10,13 @@
 #include "diary/sort_keys.h"
 #include "diary/window_data.h"
 #include "platform/number.h"
+#include "platform/save_each.h"
 #include "platform/system_files.h"
 #include "platform/text_output.h"
 #include "platform/toolkit.h"
 #include "platform/translation.h"
 #include "settings/globals.h"
+#include "settings/log_record.h"
 
 namespace tallyvane {
 
@@ -38,21 +38,24 @@ void Window1::Event_Open() {
 }
 
 void Window1::Event_Close() {
-    saveAll();
+    try {
+        saveAll();
+    } catch (const IOException&) { // the user is asked about it before the program ends
+    }
     Quit(0);
 }
 
 void Window1::saveAll() {
-    std::exception_ptr failure;
-    for (const auto save : {&Window1::saveData, &Window1::saveLogs, &Window1::saveWindowData}) {
-        try {
-            (this->*save)();
-        } catch (const IOException&) {
-            failure = failure ? failure : std::current_exception();
-        }
-    }
-    if (failure)
-        std::rethrow_exception(failure);
+    saveEach({[this] { saveData(); }, [this] { saveLogs(); }, [this] { saveWindowData(); }});
+}
+
+void Window1::saveChanged() {
+    const auto saveChangedLogs = [this] {
+        if (logRecord() != savedLogs_)
+            saveLogs();
+    };
+    saveEach({[this] { saveData(); }, saveChangedLogs});
+    AutosaveTimer.Mode(Timer::ModeMultiple); // counts anew
 }
 
 void Window1::saveData() { DayTable::save(ListBox1); }
@@ -64,10 +67,14 @@ void Window1::getData() {
     doSortColumns();
 }
 
-void Window1::saveLogs() { RunningLogs::save(); }
+void Window1::saveLogs() {
+    RunningLogs::save();
+    savedLogs_ = logRecord();
+}
 
 void Window1::getLogs() {
-    RunningLogs::load([this](const std::string& journal) { JournalFld.Text(journal); });
+    keptJournal = RunningLogs::load([this](const std::string& journal) { JournalFld.Text(journal); });
+    savedLogs_ = logRecord();
 }
 
 void Window1::getDetails(int row) {

@@ -39,6 +39,7 @@ public:
     AutoButton AutoButton13, AutoButton14, AutoButton15; // date, print, save
     Toolbar& Toolbar11;
     Timer Timer1; // applies the indicator switch
+    Timer AutosaveTimer; // raises `autosave`
 
     /// Details of one day, as getDetails left them.
     std::string theMeds;
@@ -53,6 +54,11 @@ public:
     std::function<void()> showTeamAndMedications;
     std::function<void()> showGraph;
     std::function<void()> showHeadingsEditor;
+    /// Five minutes have gone without a save.
+    std::function<void()> autosave;
+
+    /// The file in which a journal was kept at opening, since the file "Tallyvane Journal" took its place; "" for none.
+    std::string keptJournal;
 
     void Event_Open() override;
     void Event_Close() override;
@@ -61,9 +67,11 @@ public:
     void Event_Resized() override {}
     void Event_Moved() override {}
 
-    /// The three saves of closing. What fails one file does not cost the others; the first failure is thrown at the
-    /// end.
+    /// The three saves of closing. What fails one file does not cost the others; the first failure of days or logs is
+    /// thrown at the end.
     void saveAll();
+    /// The days, and the logs if they have changed since they were read or saved.
+    void saveChanged();
     void saveData();
     void getData();
     void saveLogs();
@@ -120,6 +128,7 @@ private:
     std::array<Canvas*, 8> stripLights();
 
     Averages averages_{ListBox1};
+    std::string savedLogs_; // the record of the logs as it was read or saved last
     std::unique_ptr<DateWindow> dateWindow_;
 };
 

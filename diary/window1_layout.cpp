@@ -93,6 +93,7 @@ void Window1::layOut() {
         {&AutoButton14, {692, 392, 32, 32}, lockLeft | lockTop, &TabPanel1, 0},
         {&AutoButton15, {692, 432, 32, 32}, lockLeft | lockTop, &TabPanel1, 0},
         {&Timer1},
+        {&AutosaveTimer},
     });
 }
 
@@ -140,6 +141,9 @@ void Window1::build() {
         button->AccessibleName(button->HelpTag());
     JournalFld.SpellChecking(true);
     Timer1.Period(50);
+    constexpr int fiveMinutes = 5 * 60 * 1000;
+    AutosaveTimer.Period(fiveMinutes);
+    AutosaveTimer.Mode(Timer::ModeMultiple);
 }
 
 void Window1::wire() {
@@ -175,6 +179,10 @@ void Window1::wire() {
     JournalFld.TextChange = [this] { JournalFld_TextChange(); };
     Toolbar11.Action = [this](const ToolItem& item) { Toolbar11_Action(item); };
     Timer1.Action = [this] { Timer1_Action(); };
+    AutosaveTimer.Action = [this] {
+        if (autosave)
+            autosave();
+    };
 }
 
 } // namespace tallyvane

@@ -33,7 +33,10 @@ void save(const Rect& bounds) {
         return;
     for (const int value : {bounds.left, bounds.top, bounds.width, bounds.height})
         stream->WriteLine(Str(value));
-    stream->Close();
+    try {
+        stream->Close();
+    } catch (const IOException&) { // no loss worth a word
+    }
 }
 
 } // namespace tallyvane::WindowData

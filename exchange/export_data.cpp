@@ -5,12 +5,6 @@
 
 namespace tallyvane {
 
-namespace {
-
-constexpr std::string_view ending = ".txt";
-
-} // namespace
-
 void ExportData(const Listbox& days, const std::string& delimiter, const std::optional<FolderItem>& target) {
     std::optional<TextOutputStream> stream = target ? TextOutputStream::Create(*target) : std::nullopt;
     if (!stream)
@@ -19,8 +13,8 @@ void ExportData(const Listbox& days, const std::string& delimiter, const std::op
         stream->WriteFields(days.cells(row).first(DayTable::visibleColumns), delimiter);
     stream->Close();
     const std::string name = target->Name();
-    if (!name.ends_with(ending))
-        static_cast<void>(target->Name(name + std::string(ending))); // else it keeps the name that the user chose
+    if (!name.ends_with(exportEnding))
+        static_cast<void>(target->Name(name + exportEnding)); // else it keeps the name that the user chose
 }
 
 } // namespace tallyvane

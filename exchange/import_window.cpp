@@ -1,5 +1,8 @@
 #include "exchange/import_window.h"
 
+#include <algorithm>
+
+#include "diary/sort_keys.h"
 #include "platform/dialogs.h"
 #include "platform/text.h"
 #include "platform/translation.h"
@@ -13,7 +16,8 @@ importWindow::importWindow(Listbox& days) : days_(days) {
         {&StaticText1, {16, 14, 368, 26}},
         {&RadioButton1, {32, 50, 336, 28}},
         {&RadioButton2, {32, 84, 336, 28}},
-        {&ProgressBar1, {16, 130, 368, 24}},
+        {&StaticText2, {16, 112, 368, 24}},
+        {&ProgressBar1, {16, 138, 368, 24}},
         {&PushButton1, {278, 174, 106, 30}},
         {&PushButton2, {162, 174, 106, 30}},
         {&Timer1},
@@ -35,6 +39,11 @@ importWindow::importWindow(Listbox& days) : days_(days) {
     PushButton1.Action = [this] { PushButton1_Action(); };
     PushButton2.Action = [this] { Close(); };
     Timer1.Action = [this] { Timer1_Action(); };
+}
+
+void importWindow::offer(const FolderItem& file) {
+    offered_ = file;
+    StaticText2.Text(tr("File: %1", {file.DisplayName()}));
 }
 
 void importWindow::Event_Open() { theDelim = "comma"; }
@@ -59,7 +68,7 @@ void importWindow::PushButton1_Action() {
     constexpr ImportReader::Milliseconds patience(500); // of the user, without seeing progress
     theDelim = theDelim == "comma" ? "," : Chr(9);
     const OpenDialog dialog{tr("Select glucose readings data file"), "txt,csv"};
-    if (const std::optional<FolderItem> file = dialog.ShowModal())
+    if (const std::optional<FolderItem> file = offered_ ? offered_ : dialog.ShowModal())
         reader_ = ImportReader::open(*file, theDelim);
     if (reader_)
         readOn(patience);
@@ -79,8 +88,19 @@ void importWindow::readOn(ImportReader::Milliseconds time) {
         Timer1.Mode(Timer::ModeSingle);
         return;
     }
-    days_.AddRows(reader_->takeRows());
+    takeIn(reader_->takeRows());
     Close();
+}
+
+/// The change of the selection brings the averages of the new days.
+void importWindow::takeIn(std::vector<ImportReader::Row> rows) {
+    const int first = days_.ListCount();
+    days_.AddRows(std::move(rows));
+    SortKeys::rebuild(days_);
+    std::vector<bool> isNew(static_cast<std::size_t>(days_.ListCount()));
+    std::fill(isNew.begin() + first, isNew.end(), true);
+    days_.select(isNew);
+    days_.bringIntoView(first);
 }
 
 void importWindow::showProgress() {

@@ -11,7 +11,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             RowFile::load(list, file, true);
             return Fuzz::told(list, count);
         };
-        Fuzz::checkReader(name, Fuzz::textOf(data, size), load, [&, file = name] { RowFile::save(list, file); });
+        Fuzz::checkReader(name, Fuzz::textOf(data, size), load,
+                          [&, file = name] { RowFile::save(list, "A list", file); });
     }
     return 0;
 }

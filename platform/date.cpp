@@ -144,7 +144,7 @@ std::string isoText(const Date& date, DateSource::Form form) {
     switch (form) {
     case DateSource::Form::abbreviatedDate:
     case DateSource::Form::longDate:
-        return padded(date.Year(), 4) + '-' + padded(date.Month(), 2) + '-' + padded(date.Day(), 2);
+        return date.isoDate();
     case DateSource::Form::shortTime:
         return padded(date.Hour(), 2) + ':' + padded(date.Minute(), 2);
     case DateSource::Form::longTime:
@@ -208,6 +208,8 @@ std::string Date::AbbreviatedDate() const { return DateSource::text(*this, DateS
 std::string Date::LongDate() const { return DateSource::text(*this, DateSource::Form::longDate); }
 std::string Date::ShortTime() const { return DateSource::text(*this, DateSource::Form::shortTime); }
 std::string Date::LongTime() const { return DateSource::text(*this, DateSource::Form::longTime); }
+
+std::string Date::isoDate() const { return padded(Year(), 4) + '-' + padded(Month(), 2) + '-' + padded(Day(), 2); }
 
 double Date::TotalSeconds() const {
     const auto days = (sys_days(day_) - origin).count();

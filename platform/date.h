@@ -36,6 +36,8 @@ public:
     std::string LongTime() const;
     /// Seconds since the first midnight of the year 1; never negative, and below 10^12.
     double TotalSeconds() const;
+    /// "2026-11-22", in every locale.
+    std::string isoDate() const;
 
     int Hour() const { return secondsOfDay_ / 3600; }
     int Minute() const { return secondsOfDay_ / 60 % 60; }

@@ -14,4 +14,9 @@ std::optional<FolderItem> OpenDialog::ShowModal() const {
     return toolkit == nullptr ? std::nullopt : GetFolderItem(toolkit->askForFile(*this));
 }
 
+std::optional<FolderItem> SelectFolderDialog::ShowModal() const {
+    Toolkit* toolkit = Toolkit::inForce();
+    return toolkit == nullptr ? std::nullopt : GetFolderItem(toolkit->askForFolder(*this));
+}
+
 } // namespace tallyvane

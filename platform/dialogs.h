@@ -13,6 +13,8 @@ struct SaveAsDialog {
     std::string Title;
     std::string PromptText;
     std::string SuggestedFileName;
+    /// What the name ends in, such as ".txt": it is put behind a name without it. "" leaves names as they are.
+    std::string Suffix = {};
 
     /// Nil when the user cancelled.
     [[nodiscard]] std::optional<FolderItem> ShowModal() const;
@@ -24,6 +26,14 @@ struct OpenDialog {
     /// The endings of the names that are offered first, with "," between them ("txt,csv"); "all" and "text" stand for
     /// all files, since a text can have any name.
     std::string Filter = "all";
+
+    /// Nil when the user cancelled.
+    [[nodiscard]] std::optional<FolderItem> ShowModal() const;
+};
+
+/// Asks for a folder that exists.
+struct SelectFolderDialog {
+    std::string Title;
 
     /// Nil when the user cancelled.
     [[nodiscard]] std::optional<FolderItem> ShowModal() const;

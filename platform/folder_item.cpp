@@ -5,6 +5,7 @@
 
 #include "platform/system_files.h"
 #include "platform/toolkit.h"
+#include "platform/translation.h"
 
 namespace tallyvane {
 
@@ -80,8 +81,8 @@ std::optional<FolderItem> FolderItem::GetRelative(std::string_view saveInfo) {
 }
 
 void FolderItem::Launch() const {
-    if (Toolkit* toolkit = Toolkit::inForce(); toolkit != nullptr && Exists())
-        toolkit->openFile(path_);
+    if (Toolkit* toolkit = Toolkit::inForce(); toolkit != nullptr && Exists() && !toolkit->openFile(path_))
+        MsgBox(tr("\u201c%1\u201d can't be opened: this desktop has no program for it.", {path_}));
 }
 
 void FolderItem::Delete() const {

@@ -33,7 +33,8 @@ public:
     /// The file that such a text names. Nil for any other text, and for a file that is not there any more.
     [[nodiscard]] static std::optional<FolderItem> GetRelative(std::string_view saveInfo);
 
-    /// Opens the file in the desktop's program for it; nothing when it is not there.
+    /// Opens the file in the desktop's program for it; nothing when it is not there. A message tells when there is
+    /// none.
     void Launch() const;
     /// Takes the file away, if it is there and can go.
     void Delete() const;
@@ -61,6 +62,8 @@ inline std::optional<FolderItem> ApplicationData;
 inline std::optional<FolderItem> UserHome;
 /// Of the user alone.
 inline std::optional<FolderItem> Temporary;
+/// For what a program keeps from one run to the next and the user need not know. It may still have to be made.
+inline std::optional<FolderItem> State;
 } // namespace SpecialFolder
 
 } // namespace tallyvane

@@ -5,13 +5,21 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 namespace tallyvane {
 
 /// A write that failed after its file was opened. The file holds what it held before.
 class IOException : public std::runtime_error {
 public:
-    using std::runtime_error::runtime_error;
+    /// `why` is for the user, such as "No space left on device"; `what` names the path too.
+    explicit IOException(const std::string& what, std::string why = "")
+        : std::runtime_error(why.empty() ? what : what + ": " + why), why_(std::move(why)) {}
+
+    const std::string& why() const { return why_; }
+
+private:
+    std::string why_;
 };
 
 namespace SystemFiles {
@@ -27,6 +35,9 @@ Kind kindOf(const std::string& path);
 /// Takes a plain file away. False when there was none or it could not go.
 [[nodiscard]] bool remove(const std::string& path);
 
+/// Takes a folder away that holds nothing; leaves any other alone.
+void removeEmptyFolder(const std::string& path);
+
 /// Gives a file another path on the same disk. False when it can't have it, or when something stands there.
 [[nodiscard]] bool rename(const std::string& from, const std::string& to);
 
@@ -38,8 +49,8 @@ Kind kindOf(const std::string& path);
 class Replacement {
 public:
     /// Opens the file, and makes one for its owner alone where there is none. Nil for what is no plain file or
-    /// can't be opened for writing.
-    [[nodiscard]] static std::unique_ptr<Replacement> open(const std::string& path);
+    /// can't be opened for writing; `why` then gets the reason, for the user.
+    [[nodiscard]] static std::unique_ptr<Replacement> open(const std::string& path, std::string* why = nullptr);
 
     Replacement(const Replacement&) = delete;
     Replacement& operator=(const Replacement&) = delete;
@@ -58,6 +69,10 @@ private:
     std::string path_;
     bool made_;
 };
+
+/// Makes `text` the content of a file, which is made where there is none. Throws IOException when the file can't be
+/// had, or when writing fails; it then holds what it held before.
+void write(const std::string& path, const std::string& text);
 
 /// Holds a folder for this program as long as it lives. Ends with the process, however that ends.
 class FolderClaim {

@@ -10,7 +10,10 @@
 
 #include <algorithm>
 #include <csignal>
+#include <system_error>
 #include <utility>
+
+#include "platform/translation.h"
 
 namespace tallyvane::SystemFiles {
 
@@ -139,22 +142,27 @@ void restore(int file, const std::string& content) {
     static_cast<void>(back && cut && flushed); // the caller already reports the failure
 }
 
-/// Turns the file into `after`, or leaves it as it was.
-bool overwriteOrRestore(int file, const std::string& before, const std::string& after) {
+/// The error of a write that ended short without one.
+constexpr int unknownError = EIO;
+
+/// Turns the file into `after`, or leaves it as it was. 0, or the number of the error.
+int overwriteOrRestore(int file, const std::string& before, const std::string& after) {
+    errno = 0;
     if (overwrite(file, before, after))
-        return true;
+        return 0;
+    const int error = errno != 0 ? errno : unknownError;
     restore(file, before);
-    return false;
+    return error;
 }
 
-/// Reads the writer's answer: true for "done". Nothing when it ended without one.
-std::optional<bool> answerOf(int pipe) {
-    char answer = 0;
+/// Reads the writer's answer: 0, or the number of the error. Nothing when it ended without one.
+std::optional<int> answerOf(int pipe) {
+    int answer = 0;
     ssize_t got = 0;
     do
-        got = ::read(pipe, &answer, 1);
+        got = ::read(pipe, &answer, sizeof answer);
     while (got < 0 && errno == EINTR);
-    return got == 1 ? std::optional(answer == 'y') : std::nullopt;
+    return got == sizeof answer ? std::optional(answer) : std::nullopt;
 }
 
 /// What the writer does: it may use nothing that another thread of the program could have held a lock on when it was
@@ -164,13 +172,13 @@ std::optional<bool> answerOf(int pipe) {
     ::sigfillset(&all);
     ::sigprocmask(SIG_BLOCK, &all, nullptr);
     ::setsid();
-    const char answer = overwriteOrRestore(file, before, after) ? 'y' : 'n';
-    ::_exit(::write(pipe, &answer, 1) == 1 ? 0 : 1);
+    const int answer = overwriteOrRestore(file, before, after);
+    ::_exit(::write(pipe, &answer, sizeof answer) == sizeof answer ? 0 : 1);
 }
 
 /// Does the same in a process of its own session, which ends its work when this one is killed in the middle. Where no
 /// process can be had, the work is done here.
-bool overwriteInWriter(int file, const std::string& before, const std::string& after) {
+int overwriteInWriter(int file, const std::string& before, const std::string& after) {
     int ends[2];
     if (::pipe2(ends, O_CLOEXEC) != 0)
         return overwriteOrRestore(file, before, after);
@@ -178,11 +186,27 @@ bool overwriteInWriter(int file, const std::string& before, const std::string& a
     if (writer == 0)
         writeAndAnswer(file, before, after, ends[1]);
     ::close(ends[1]);
-    const std::optional<bool> done = writer > 0 ? answerOf(ends[0]) : std::nullopt;
+    const std::optional<int> error = writer > 0 ? answerOf(ends[0]) : std::nullopt;
     ::close(ends[0]);
     while (writer > 0 && ::waitpid(writer, nullptr, 0) < 0 && errno == EINTR) {
     }
-    return done ? *done : overwriteOrRestore(file, before, after); // also where the writer alone was killed
+    return error ? *error : overwriteOrRestore(file, before, after); // also where the writer alone was killed
+}
+
+std::string messageOf(int error) { return std::generic_category().message(error); }
+
+/// Why a file can't be opened for writing, after an attempt that ended with that error.
+std::string obstacleAt(const std::string& path, int error) {
+    switch (kindOf(path)) {
+    case Kind::folder:
+        return tr("a folder of that name stands there");
+    case Kind::other:
+        return tr("what stands there is no file");
+    default:
+        break;
+    }
+    const bool folderIsThere = kindOf(path.substr(0, path.rfind('/'))) == Kind::folder;
+    return folderIsThere ? messageOf(error) : tr("the folder is not there");
 }
 
 } // namespace
@@ -197,6 +221,11 @@ Kind kindOf(const std::string& path) {
 }
 
 bool makeFolder(const std::string& path) { return !hasNul(path) && ::mkdir(path.c_str(), ownerOnlyFolder) == 0; }
+
+void removeEmptyFolder(const std::string& path) {
+    if (!hasNul(path))
+        ::rmdir(path.c_str());
+}
 
 bool remove(const std::string& path) { return kindOf(path) == Kind::file && ::unlink(path.c_str()) == 0; }
 
@@ -220,11 +249,13 @@ std::optional<std::string> read(const std::string& path) {
 
 Replacement::Replacement(int file, std::string path, bool made) : file_(file), path_(std::move(path)), made_(made) {}
 
-std::unique_ptr<Replacement> Replacement::open(const std::string& path) {
+std::unique_ptr<Replacement> Replacement::open(const std::string& path, std::string* why) {
     int file = openPlain(path, O_RDWR | O_CREAT | O_EXCL);
     const bool made = file >= 0;
     if (!made)
         file = openPlain(path, O_RDWR | O_CREAT); // it was there, or a link leads to where it is to be
+    if (file < 0 && why != nullptr)
+        *why = obstacleAt(path, errno);
     if (file < 0)
         return nullptr;
     return std::unique_ptr<Replacement>(new Replacement(file, path, made));
@@ -240,17 +271,26 @@ Replacement::~Replacement() {
 void Replacement::replace(const std::string& text) {
     const std::optional<std::string> before = readAll(file_);
     if (!before)
-        throw IOException("can't read the file that is to be replaced: " + path_);
+        throw IOException("can't read the file that is to be replaced: " + path_, messageOf(errno));
     if (text.size() > before->size() && !reserve(file_, text.size())) {
+        const std::string why = messageOf(errno);
         const bool released = cutAt(file_, before->size());
-        throw IOException((released ? "no room for " : "no room, and none given back, for ") + path_);
+        throw IOException((released ? "no room for " : "no room, and none given back, for ") + path_, why);
     }
-    if (*before != text && !overwriteInWriter(file_, *before, text))
-        throw IOException("can't write " + path_);
+    if (const int error = *before == text ? 0 : overwriteInWriter(file_, *before, text); error != 0)
+        throw IOException("can't write " + path_, messageOf(error));
     if (std::exchange(made_, false) && !flushFolderOf(path_))
-        throw IOException("can't enter " + path_ + " into its folder");
+        throw IOException("can't enter " + path_ + " into its folder", messageOf(errno));
     if (::close(std::exchange(file_, -1)) != 0)
-        throw IOException("can't close " + path_);
+        throw IOException("can't close " + path_, messageOf(errno));
+}
+
+void write(const std::string& path, const std::string& text) {
+    std::string why;
+    const auto file = Replacement::open(path, &why);
+    if (!file)
+        throw IOException("can't open " + path + " for writing", why);
+    file->replace(text);
 }
 
 FolderClaim::FolderClaim(int file) : file_(file) {}

@@ -29,12 +29,12 @@ std::optional<TextOutputStream> TextOutputStream::Create(const FolderItem& file)
     return TextOutputStream(std::move(replacement));
 }
 
-void TextOutputStream::WriteLine(std::string_view text) {
+void TextWriter::WriteLine(std::string_view text) {
     Write(text);
     Write(EndOfLine);
 }
 
-void TextOutputStream::WriteFields(std::span<const std::string> texts, std::string_view separator) {
+void TextWriter::WriteFields(std::span<const std::string> texts, std::string_view separator) {
     for (const std::string& text : texts) {
         if (&text != &texts.front())
             Write(separator);
@@ -46,7 +46,7 @@ void TextOutputStream::WriteFields(std::span<const std::string> texts, std::stri
 void TextOutputStream::Close() {
     const auto file = std::exchange(file_, nullptr);
     if (file)
-        file->replace(text_);
+        file->replace(text());
 }
 
 } // namespace tallyvane

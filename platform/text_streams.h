@@ -31,16 +31,25 @@ private:
     std::size_t place_ = 0;
 };
 
-/// Takes a text together and replaces a file by it on Close. A stream that goes without Close leaves the file alone.
-class TextOutputStream {
+/// Takes a text together.
+class TextWriter {
 public:
-    /// Nil for what is no plain file or can't be opened for writing.
-    [[nodiscard]] static std::optional<TextOutputStream> Create(const FolderItem& file);
-
     void Write(std::string_view text) { text_ += text; }
     void WriteLine(std::string_view text);
     /// Writes texts as one line, with the separator between them.
     void WriteFields(std::span<const std::string> texts, std::string_view separator);
+    const std::string& text() const { return text_; }
+
+private:
+    std::string text_;
+};
+
+/// Takes a text together and replaces a file by it on Close. A stream that goes without Close leaves the file alone.
+class TextOutputStream : public TextWriter {
+public:
+    /// Nil for what is no plain file or can't be opened for writing.
+    [[nodiscard]] static std::optional<TextOutputStream> Create(const FolderItem& file);
+
     /// Replaces the file. Throws IOException, with the old content in place, when it can't. The stream ends here.
     void Close();
 
@@ -48,7 +57,6 @@ private:
     explicit TextOutputStream(std::unique_ptr<SystemFiles::Replacement> file) : file_(std::move(file)) {}
 
     std::unique_ptr<SystemFiles::Replacement> file_;
-    std::string text_;
 };
 
 } // namespace tallyvane

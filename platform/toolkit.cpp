@@ -1,9 +1,11 @@
 #include "platform/toolkit.h"
 
+#include <algorithm>
 #include <array>
-#include <exception>
 
 #include "platform/system_files.h"
+#include "platform/translation.h"
+#include "platform/while_true.h"
 
 namespace tallyvane {
 
@@ -22,8 +24,16 @@ void MsgBox(const std::string& text) {
         theToolkit->message(text);
 }
 
+std::optional<std::size_t> Ask(const std::string& question, const std::vector<std::string>& answers,
+                               std::size_t onEscape) {
+    return theToolkit != nullptr ? theToolkit->ask(question, answers, onEscape) : std::nullopt;
+}
+
 Answer Ask(const std::string& question, const std::string& yes, const std::string& no) {
-    return theToolkit != nullptr ? theToolkit->ask(question, yes, no) : Answer::none;
+    const std::optional<std::size_t> answer = Ask(question, {yes, no}, 1);
+    if (!answer)
+        return Answer::none;
+    return *answer == 0 ? Answer::yes : Answer::no;
 }
 
 void Beep() {
@@ -37,9 +47,11 @@ void ShowURL(const std::string& address) {
         return;
     }
     constexpr std::array<std::string_view, 3> schemes{"http:", "https:", "mailto:"};
-    for (const std::string_view scheme : schemes)
-        if (theToolkit != nullptr && address.starts_with(scheme))
-            theToolkit->openUrl(address);
+    const auto startsIt = [&](std::string_view scheme) { return address.starts_with(scheme); };
+    if (std::none_of(schemes.begin(), schemes.end(), startsIt))
+        MsgBox(tr("\u201c%1\u201d can't be opened: it is neither a web nor an e-mail address.", {address}));
+    else if (theToolkit != nullptr && !theToolkit->openUrl(address))
+        MsgBox(tr("\u201c%1\u201d can't be opened: this desktop has no program for it.", {address}));
 }
 
 void ShowMail(const std::string& address) {
@@ -48,17 +60,19 @@ void ShowMail(const std::string& address) {
 }
 
 void Quit(int code) {
+    static bool isQuitting = false;
+    if (isQuitting) // a window that ends the program when it is closed
+        return;
+    const WhileTrue quitting(isQuitting);
     const std::vector<Window*> windows = Window::openWindows();
-    std::exception_ptr failure;
     for (Window* window : windows) {
         try {
             window->Close();
-        } catch (const IOException&) { // the others are to be saved all the same
-            failure = failure ? failure : std::current_exception();
+        } catch (const IOException&) { // its file waits to be asked about
         }
     }
-    if (failure)
-        std::rethrow_exception(failure);
+    if (beforeEnd)
+        code = beforeEnd(code);
     if (theToolkit != nullptr)
         theToolkit->quit(code);
 }

@@ -127,6 +127,8 @@ void Window::Open() {
     Event_Open();
     if (toolkit != nullptr)
         peer_ = toolkit->show(*this);
+    if (firstFocus_ != nullptr)
+        firstFocus_->SetFocus();
     open_ = true;
     registry().push_back(this);
 }

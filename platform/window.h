@@ -139,6 +139,8 @@ protected:
     void place(std::initializer_list<Placement> placements);
     void carry(MenuBar* menuBar, Toolbar* toolbar);
     void belongTo(Window* owner) { owner_ = owner; }
+    /// The control that gets the keys when the window opens; without it the first in the table that takes keys.
+    void focusFirst(Control& control) { firstFocus_ = &control; }
 
 private:
     void bounds(Rect value);
@@ -159,6 +161,7 @@ private:
     MenuBar* menuBar_ = nullptr;
     Toolbar* toolbar_ = nullptr;
     Window* owner_ = nullptr;
+    Control* firstFocus_ = nullptr;
     std::unique_ptr<WindowPeer> peer_;
 };
 

@@ -1,11 +1,14 @@
 #include "records/file_window.h"
 
+#include <array>
+
 #include "platform/dialogs.h"
 #include "platform/text.h"
 #include "platform/toolkit.h"
 #include "platform/translation.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
+#include "settings/unsaved_files.h"
 
 namespace tallyvane {
 
@@ -19,22 +22,33 @@ bool isWebAddress(std::string_view text) { return InStr(text, "www") > 0; }
 bool isMailAddress(std::string_view text) { return InStr(text, "@") > 0; }
 bool isLink(std::string_view text) { return isWebAddress(text) || isMailAddress(text); }
 
-/// A name that no separator can be found in, nor at its end together with the separator that follows.
-std::string storableName(std::string name) {
-    for (const std::string_view separator : {DataFiles::subfieldSeparator, DataFiles::entrySeparator})
-        while (InStr(name, separator) > 0)
-            name = ReplaceAll(name, separator, separator.substr(1));
-    if (name.ends_with('@') || name.ends_with('#'))
-        name += ' ';
-    return name;
+constexpr std::array separators{DataFiles::subfieldSeparator, DataFiles::entrySeparator};
+
+/// The separator that a text holds, and that would split its entry in the file; "" for none.
+std::string_view separatorIn(std::string_view text) {
+    for (const std::string_view separator : separators)
+        if (InStr(text, separator) > 0)
+            return separator;
+    return "";
 }
 
-/// A target in which no separator can be found: inside, its characters are encoded as addresses allow it. A "#" at its
-/// end leads nowhere, and would become part of the separator that follows; line ends there are not kept.
-std::string storableTarget(std::string_view target) {
-    target = target.substr(0, target.find_last_not_of("#\r\n") + 1);
-    return ReplaceAll(ReplaceAll(target, DataFiles::entrySeparator, "%23%23%23"), DataFiles::subfieldSeparator,
-                      "%40%40%40");
+/// Whether an entry can be kept under that name; if not, the user is told.
+bool canKeep(std::string_view name) {
+    const std::string_view separator = separatorIn(name);
+    if (!separator.empty())
+        MsgBox(
+            tr("\u201c%1\u201d can't be kept in this list, since the file of the list puts \u201c%2\u201d between its "
+               "entries.",
+               {std::string(name), std::string(separator)}));
+    return separator.empty();
+}
+
+/// A name that does not lengthen the separator that follows it in the file.
+std::string storableName(const std::string& name) { return name.ends_with('@') ? name + ' ' : name; }
+
+/// A "#" at the end of a link leads nowhere, and would lengthen the separator that follows it in the file.
+std::string withoutEmptyFragment(std::string_view link) {
+    return std::string(link.substr(0, link.find_last_not_of('#') + 1));
 }
 
 /// What is dropped may hold line ends; the list and its file have lines of one.
@@ -72,6 +86,7 @@ fileWindow::fileWindow() {
     for (Control* button : std::initializer_list<Control*>{&BevelButton1, &BevelButton2, &UtilityButton1})
         button->AccessibleName(button->HelpTag());
     PushButton1.Caption(tr("Close"));
+    focusFirst(ListBox1);
 
     ListBox1.CellBackgroundPaint = [this](Graphics& g, int row, int column) {
         return ListBox1_CellBackgroundPaint(g, row, column);
@@ -79,6 +94,7 @@ fileWindow::fileWindow() {
     ListBox1.Change = [this] { ListBox1_Change(); };
     ListBox1.DoubleClick = [this] { ListBox1_DoubleClick(); };
     ListBox1.CellCommandClick = [this](int row, int column) { ListBox1_CellCommandClick(row, column); };
+    ListBox1.CellTextChange = [this](int row, int column) { ListBox1_CellTextChange(row, column); };
     ListBox1.DropObject = [this](const DragItem& item) { ListBox1_DropObject(item); };
     BevelButton1.Action = [this] { BevelButton1_Action(); };
     BevelButton2.Action = [this] { BevelButton2_Action(); };
@@ -126,30 +142,33 @@ void fileWindow::getFileList() {
 bool fileWindow::saveFileList() {
     if (ListBox1.ListCount() == 0)
         return false;
-    std::optional<TextOutputStream> stream = DataFiles::createText(DataFiles::innerFileToWrite(DataFiles::resources));
-    if (!stream)
-        return false;
+    TextWriter list;
     for (int row = 0; row < ListBox1.ListCount(); ++row) {
         if (row > 0)
-            stream->Write(DataFiles::entrySeparator);
-        stream->Write(storableName(ListBox1.Cell(row, nameColumn)));
-        stream->Write(DataFiles::subfieldSeparator);
-        stream->Write(storableTarget(ListBox1.Cell(row, targetColumn)));
+            list.Write(DataFiles::entrySeparator);
+        list.Write(storableName(ListBox1.Cell(row, nameColumn)));
+        list.Write(DataFiles::subfieldSeparator);
+        list.Write(ListBox1.Cell(row, targetColumn));
     }
-    stream->WriteLine("");
-    stream->Close();
-    return true;
+    list.WriteLine("");
+    const std::string name = std::string(DataFiles::applicationName) + "/" + std::string(DataFiles::resources);
+    return UnsavedFiles::save({tr("The links"), name, DataFiles::innerFileToWrite(DataFiles::resources)}, list.text());
 }
 
 // Adding and removing
 
 void fileWindow::addFile(const FolderItem& file) {
-    ListBox1.AddRow(inOneLine(file.DisplayName()));
+    const std::string name = inOneLine(file.DisplayName());
+    if (!canKeep(name))
+        return;
+    ListBox1.AddRow(name);
     ListBox1.Cell(ListBox1.LastIndex(), targetColumn, file.GetSaveInfo());
     saveFileList();
 }
 
 void fileWindow::addLink(const std::string& link) {
+    if (!canKeep(link))
+        return;
     ListBox1.AddRow(link);
     ListBox1.Cell(ListBox1.LastIndex(), targetColumn, link);
     if (saveFileList()) {
@@ -170,7 +189,11 @@ void fileWindow::ListBox1_DropObject(const DragItem& item) {
     else if (!item.text)
         Beep();
     else if (isLink(*item.text))
-        addLink(inOneLine(*item.text));
+        addLink(withoutEmptyFragment(inOneLine(*item.text)));
+    else
+        MsgBox(tr("\u201c%1\u201d is not added: a web address has \u201cwww\u201d in it, and an e-mail address "
+                  "\u201c@\u201d.",
+                  {inOneLine(*item.text)}));
 }
 
 void fileWindow::BevelButton2_Action() {
@@ -195,8 +218,22 @@ void fileWindow::ListBox1_DoubleClick() {
         file->Launch();
     else if (isMailAddress(target))
         ShowMail(target);
-    else if (isWebAddress(target))
+    else if (target.starts_with("file:"))
+        MsgBox(tr("\u201c%1\u201d can't be opened: the file is not there any more.",
+                  {ListBox1.Cell(ListBox1.ListIndex(), nameColumn)}));
+    else if (!target.empty())
         ShowURL(target);
+}
+
+/// A separator that is being typed into a name is refused, as it would split the entry in the file.
+void fileWindow::ListBox1_CellTextChange(int row, int column) {
+    std::string name = ListBox1.Cell(row, column);
+    if (separatorIn(name).empty())
+        return;
+    Beep();
+    while (!separatorIn(name).empty())
+        name = ReplaceAll(name, separatorIn(name), separatorIn(name).substr(1));
+    ListBox1.Cell(row, column, name);
 }
 
 void fileWindow::ListBox1_CellCommandClick(int row, int column) { ListBox1.EditCell(row, column); }

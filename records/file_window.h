@@ -35,6 +35,7 @@ public:
     void ListBox1_Change();
     void ListBox1_DoubleClick();
     void ListBox1_CellCommandClick(int row, int column);
+    void ListBox1_CellTextChange(int row, int column);
     void ListBox1_DropObject(const DragItem& item);
     void BevelButton1_Action();
     void BevelButton2_Action();

@@ -1,8 +1,8 @@
 #include "records/info_window.h"
 
-#include <exception>
 #include <optional>
 
+#include "platform/save_each.h"
 #include "platform/text.h"
 #include "platform/toolkit.h"
 #include "platform/translation.h"
@@ -56,17 +56,8 @@ void InfoWindow::Event_Open() {
 
 void InfoWindow::Event_Close() { saveBoth(); }
 
-/// What fails one file does not cost the other.
 void InfoWindow::saveBoth() {
-    std::exception_ptr failure;
-    try {
-        saveContacts();
-    } catch (const IOException&) {
-        failure = std::current_exception();
-    }
-    saveMeds();
-    if (failure)
-        std::rethrow_exception(failure);
+    saveEach({[this] { saveContacts(); }, [this] { saveMeds(); }});
 }
 
 void InfoWindow::getContacts() {
@@ -76,9 +67,9 @@ void InfoWindow::getContacts() {
 
 void InfoWindow::getMeds() { RowFile::load(ListBox2, DataFiles::medications, false); }
 
-void InfoWindow::saveContacts() { RowFile::save(ListBox1, DataFiles::contacts); }
+void InfoWindow::saveContacts() { RowFile::save(ListBox1, tr("The care team"), DataFiles::contacts); }
 
-void InfoWindow::saveMeds() { RowFile::save(ListBox2, DataFiles::medications); }
+void InfoWindow::saveMeds() { RowFile::save(ListBox2, tr("The medication schedule"), DataFiles::medications); }
 
 void InfoWindow::PushButton1_Action() {
     saveBoth();
@@ -150,9 +141,12 @@ void InfoWindow::ListBox2_Change() {
 
 bool InfoWindow::ListBox2_CellKeyDown(int row, int column, const std::string& key) {
     const std::optional<CellPlace> cell = cellBeside(ListBox2, {row, column}, key);
-    if (cell)
-        openWhole(ListBox2, *cell);
-    return cell.has_value();
+    if (!cell)
+        return false;
+    openWhole(ListBox2, *cell);
+    if (cell->row == row && cell->column == column)
+        Beep(); // the whole text is selected: the next key would replace it
+    return true;
 }
 
 void InfoWindow::AutoButton3_Action() {

@@ -5,6 +5,7 @@
 #include "settings/data_files.h"
 #include "settings/globals.h"
 #include "settings/log_record.h"
+#include "settings/unsaved_files.h"
 
 namespace tallyvane {
 
@@ -42,6 +43,7 @@ logsWindow::logsWindow() {
         page.field->TextChange = [page] { *page.log = page.field->Text(); };
     }
     PushButton1.Caption(tr("OK"));
+    focusFirst(FoodFld);
 
     AutoButton1.Action = [this] { AutoButton1_Action(); };
     AutoButton2.Action = [this] { AutoButton2_Action(); };
@@ -71,12 +73,21 @@ void logsWindow::getLogs() {
     MedicationFld.Text(withLineEnds(record.medication));
 }
 
+void logsWindow::Event_Open() {
+    getLogs();
+    savedRecord_ = logRecord();
+}
+
+void logsWindow::saveChanged() {
+    if (logRecord() != savedRecord_)
+        saveLogs();
+}
+
 void logsWindow::saveLogs() {
-    std::optional<TextOutputStream> stream = DataFiles::createText(DataFiles::innerFileToWrite(DataFiles::runningLogs));
-    if (!stream)
-        return;
-    writeLogRecord(*stream);
-    stream->Close();
+    const std::string record = logRecord();
+    const std::string name = std::string(DataFiles::applicationName) + "/" + std::string(DataFiles::runningLogs);
+    UnsavedFiles::save({tr("The logs"), name, DataFiles::innerFileToWrite(DataFiles::runningLogs)}, record);
+    savedRecord_ = record;
 }
 
 void logsWindow::saveToDisk(const TextArea& field, const std::string& prompt) {

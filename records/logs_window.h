@@ -18,12 +18,14 @@ public:
     TextArea FoodFld, ExerciseFld, MedicationFld;
     PushButton PushButton1; // OK
 
-    void Event_Open() override { getLogs(); }
+    void Event_Open() override;
     void Event_Close() override { saveLogs(); }
 
     /// The texts of the last time, into fields and globals; without a file both stay. The journal is not this window's.
     void getLogs();
     void saveLogs();
+    /// Saves if the texts have changed since they were read or saved.
+    void saveChanged();
     void saveToDisk(const TextArea& field, const std::string& prompt);
     void printLog(const TextArea& field);
 
@@ -41,6 +43,7 @@ private:
         std::string prompt;
     };
     std::array<Page, 3> pages();
+    std::string savedRecord_; // as it was read or saved last
     Page page() { return pages().at(static_cast<std::size_t>(TabPanel1.Value())); }
 };
 

@@ -2,6 +2,7 @@
 
 #include "platform/text.h"
 #include "settings/data_files.h"
+#include "settings/unsaved_files.h"
 
 namespace tallyvane::RowFile {
 
@@ -20,19 +21,12 @@ bool load(Listbox& list, std::string_view name, bool replace) {
     return true;
 }
 
-void save(const Listbox& list, std::string_view name) {
-    std::optional<TextOutputStream> stream = DataFiles::createText(DataFiles::applicationFileToWrite(name));
-    if (!stream)
-        return;
-    for (int row = 0; row < list.ListCount(); ++row) {
-        stream->Write(list.Cell(row, 0));
-        for (int column = 1; column < list.ColumnCount(); ++column) {
-            stream->Write(DataFiles::fieldSeparator);
-            stream->Write(list.Cell(row, column));
-        }
-        stream->WriteLine("");
-    }
-    stream->Close();
+void save(const Listbox& list, const std::string& what, std::string_view name) {
+    TextWriter rows;
+    const auto columns = static_cast<std::size_t>(list.ColumnCount());
+    for (int row = 0; row < list.ListCount(); ++row)
+        rows.WriteFields(list.cells(row).first(columns), DataFiles::fieldSeparator);
+    UnsavedFiles::save({what, std::string(name), DataFiles::applicationFileToWrite(name)}, rows.text());
 }
 
 } // namespace tallyvane::RowFile

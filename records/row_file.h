@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "platform/listbox.h"
@@ -12,8 +13,9 @@ namespace RowFile {
 /// Appends a row for each line; an empty file has one, which is empty. False, and no change, when there is no file.
 /// With `replace` the list loses the rows that it had.
 bool load(Listbox& list, std::string_view name, bool replace);
-/// Writes all columns. Nothing when the file can't be had; throws IOException when the disk fails.
-void save(const Listbox& list, std::string_view name);
+/// Writes all columns; `what` is the list as the user knows it. When the file can't be had the rows wait among the
+/// unsaved files; so they do when the disk fails, which throws IOException.
+void save(const Listbox& list, const std::string& what, std::string_view name);
 
 } // namespace RowFile
 

@@ -2,6 +2,22 @@
 
 namespace tallyvane::DataFiles {
 
+std::optional<FolderItem> placeIn(const FolderItem& folder, std::string_view name) {
+    return GetFolderItem(folder.AbsolutePath() + "/" + std::string(name));
+}
+
+std::string numbered(const std::string& name, int number) {
+    return number == 1 ? name : name + " " + std::to_string(number);
+}
+
+std::optional<FolderItem> freePlace(const FolderItem& folder, const std::string& name) {
+    for (int number = 1;; ++number) {
+        const std::optional<FolderItem> place = folder.Child(numbered(name, number));
+        if (!place || !place->Exists())
+            return place;
+    }
+}
+
 std::optional<FolderItem> applicationFolder() {
     if (!SpecialFolder::ApplicationData)
         return std::nullopt;
@@ -15,11 +31,13 @@ std::optional<FolderItem> applicationFile(std::string_view name) {
 
 namespace {
 
-/// A child of a folder that is made first where it is missing.
+/// The place of a child in a folder that is made first where it is missing.
 std::optional<FolderItem> childToWrite(const std::optional<FolderItem>& folder, std::string_view name) {
-    if (!folder || (!folder->Exists() && !folder->CreateAsFolder()))
+    if (!folder)
         return std::nullopt;
-    return folder->Child(name);
+    if (!folder->Exists())
+        static_cast<void>(folder->CreateAsFolder()); // else whoever writes there learns why not
+    return placeIn(*folder, name);
 }
 
 } // namespace

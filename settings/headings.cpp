@@ -2,6 +2,7 @@
 
 #include "platform/translation.h"
 #include "settings/data_files.h"
+#include "settings/unsaved_files.h"
 
 namespace tallyvane {
 
@@ -21,13 +22,12 @@ std::optional<Headings> readHeadings() {
 }
 
 void saveHeadings(const Headings& headings) {
-    std::optional<TextOutputStream> stream =
-        DataFiles::createText(DataFiles::applicationFileToWrite(DataFiles::headings));
-    if (!stream)
-        return;
+    TextWriter lines;
     for (const std::string& heading : headings)
-        stream->WriteLine(heading);
-    stream->Close();
+        lines.WriteLine(heading);
+    UnsavedFiles::save(
+        {tr("The headings"), std::string(DataFiles::headings), DataFiles::applicationFileToWrite(DataFiles::headings)},
+        lines.text());
 }
 
 } // namespace tallyvane

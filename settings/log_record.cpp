@@ -14,14 +14,14 @@ LogRecord readLogRecord(TextInputStream& stream) {
     return record;
 }
 
-void writeLogRecord(TextOutputStream& stream) {
+std::string logRecord() {
     std::string record;
     for (const std::string* log : {&Globals::gExercise, &Globals::gFood, &Globals::gJournal, &Globals::gMedication}) {
         if (log != &Globals::gExercise)
             record += DataFiles::fieldSeparator;
         record += ReplaceAll(*log, EndOfLine, DataFiles::lineEndMark);
     }
-    stream.WriteLine(record);
+    return record + EndOfLine;
 }
 
 std::string withLineEnds(const std::string& field) { return ReplaceAll(field, DataFiles::lineEndMark, EndOfLine); }

@@ -17,8 +17,8 @@ struct LogRecord {
 
 /// Reads a record; fields that it lacks are empty.
 LogRecord readLogRecord(TextInputStream& stream);
-/// Writes the record of the four globals.
-void writeLogRecord(TextOutputStream& stream);
+/// The record of the four globals, with its line end.
+std::string logRecord();
 /// A field with real line ends.
 std::string withLineEnds(const std::string& field);
 

@@ -2,8 +2,10 @@
 
 #include "platform/number.h"
 #include "platform/text.h"
+#include "platform/translation.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
+#include "settings/unsaved_files.h"
 
 namespace tallyvane::PrefsModule {
 
@@ -90,21 +92,22 @@ void getPrefs() {
 
 void savePrefs() {
     const std::optional<FolderItem>& folder = StartupGlobals::gDataFolder;
-    std::optional<TextOutputStream> stream =
-        DataFiles::createText(folder ? folder->Child(DataFiles::preferences) : std::nullopt);
-    if (!stream)
+    if (!folder)
         return;
     if (gDataLocation.empty())
         gDataLocation = defaultLocation;
-    stream->WriteLine(truth(Globals::gShowIndicators));
+    TextWriter lines;
+    lines.WriteLine(truth(Globals::gShowIndicators));
     for (const double limit : {Globals::gOver, Globals::gCaution, Globals::gLow, Globals::gUnder})
-        stream->WriteLine(Str(limit));
+        lines.WriteLine(Str(limit));
     for (const bool included : {Globals::gIncludeMeds, Globals::gIncludeExercise, Globals::gIncludeFood})
-        stream->WriteLine(truth(included));
+        lines.WriteLine(truth(included));
     const std::string& missing = StartupGlobals::gMissingDataFolder;
-    stream->WriteLine(missing.empty() ? folder->AbsolutePath() : missing); // a folder that is away is not forgotten
-    stream->WriteLine(gDataLocation);
-    stream->Close();
+    lines.WriteLine(missing.empty() ? folder->AbsolutePath() : missing); // a folder that is away is not forgotten
+    lines.WriteLine(gDataLocation);
+    UnsavedFiles::save({tr("The preferences"), std::string(DataFiles::preferences),
+                        DataFiles::placeIn(*folder, DataFiles::preferences)},
+                       lines.text());
 }
 
 } // namespace tallyvane::PrefsModule

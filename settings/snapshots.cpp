@@ -42,10 +42,6 @@ std::optional<fs::path> snapshotsFolder() {
     return folder && isOfTheUsersTable ? std::optional<fs::path>(folder->AbsolutePath()) : std::nullopt;
 }
 
-std::string nameOf(const Date& day) {
-    return Format(day.Year(), "0000") + "-" + Format(day.Month(), "00") + "-" + Format(day.Day(), "00");
-}
-
 /// The day of a set; nothing for any other name.
 std::optional<Date> dayOf(const std::string& name) {
     const auto number = [&name](std::size_t from, std::size_t count) {
@@ -54,7 +50,7 @@ std::optional<Date> dayOf(const std::string& name) {
     const int year = number(0, 4);
     const int month = number(5, 2);
     const int day = number(8, 2);
-    if (!Date::isDay(year, month, day) || nameOf(Date(year, month, day)) != name)
+    if (!Date::isDay(year, month, day) || Date(year, month, day).isoDate() != name)
         return std::nullopt;
     return Date(year, month, day);
 }
@@ -74,17 +70,10 @@ std::vector<Date> daysKept(const fs::path& folder, const Date& today) {
     return days;
 }
 
-void writeFile(const fs::path& path, const std::string& content) {
-    const auto file = SystemFiles::Replacement::open(path);
-    if (!file)
-        throw IOException("can't write " + path.string());
-    file->replace(content);
-}
-
 /// A file that is not there is not missed; one that is and can't be read is.
 void copyIfThere(const fs::path& from, const fs::path& to) {
     if (const std::optional<std::string> content = SystemFiles::read(from))
-        writeFile(to, *content);
+        SystemFiles::write(to, *content);
     else if (SystemFiles::kindOf(from) == SystemFiles::Kind::file)
         throw IOException("can't read " + from.string());
 }
@@ -101,7 +90,7 @@ void copyAll(const fs::path& source, const fs::path& target) {
     for (const std::string_view name : innerFiles)
         copyIfThere(source / inner / name, target / inner / name);
     if (!tableFolder().empty())
-        writeFile(target / tableFolderFile, tableFolder());
+        SystemFiles::write(target / tableFolderFile, tableFolder());
 }
 
 /// Lines that have an end, and something before it.
@@ -127,7 +116,7 @@ void take(const Date& today) {
     const std::optional<fs::path> folder = snapshotsFolder();
     if (!folder || SystemFiles::read(tablePath()).value_or("").empty())
         return;
-    const fs::path set = *folder / nameOf(today);
+    const fs::path set = *folder / today.isoDate();
     std::error_code failed;
     if (fs::exists(set, failed) || (!fs::is_directory(*folder, failed) && !SystemFiles::makeFolder(*folder)))
         return;
@@ -141,7 +130,7 @@ void take(const Date& today) {
     }
     std::vector<Date> days = daysKept(*folder, today);
     for (; days.size() > mostKept; days.pop_back())
-        fs::remove_all(*folder / nameOf(days.back()), failed);
+        fs::remove_all(*folder / days.back().isoDate(), failed);
 }
 
 bool tableIsUnreadable() {
@@ -157,7 +146,7 @@ std::optional<Copy> fullerThanTable(const Date& today) {
     if (isWhole(table))
         return std::nullopt;
     for (const Date& day : daysKept(*folder, today)) {
-        const fs::path set = *folder / nameOf(day);
+        const fs::path set = *folder / day.isoDate();
         const int days = countDays(SystemFiles::read(set / DataFiles::dayTable).value_or(""));
         const bool isOfThisTable = SystemFiles::read(set / tableFolderFile).value_or("") == tableFolder();
         if (isOfThisTable && days > countDays(table))
@@ -167,7 +156,7 @@ std::optional<Copy> fullerThanTable(const Date& today) {
 }
 
 std::string keepDamagedTable(const Date& today) {
-    const fs::path kept = tablePath() + " damaged " + nameOf(today);
+    const fs::path kept = tablePath() + " damaged " + today.isoDate();
     copyIfThere(tablePath(), kept);
     return kept.filename();
 }
@@ -176,7 +165,7 @@ void bringBack(const Copy& copy) {
     const std::optional<std::string> days = SystemFiles::read(copy.path);
     if (!days)
         throw IOException("can't read " + copy.path);
-    writeFile(tablePath(), *days);
+    SystemFiles::write(tablePath(), *days);
 }
 
 } // namespace tallyvane::Snapshots

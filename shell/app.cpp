@@ -4,14 +4,19 @@
 
 #include "charting/gt_graph.h"
 #include "exchange/archive.h"
+#include "platform/save_each.h"
 #include "platform/toolkit.h"
 #include "platform/translation.h"
+#include "platform/while_true.h"
 #include "reports/diary_report.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
 #include "settings/prefs_module.h"
+#include "settings/rescued_files.h"
 #include "settings/snapshots.h"
+#include "settings/unsaved_files.h"
 #include "shell/menu_bar1.h"
+#include "shell/unsaved_work.h"
 
 namespace tallyvane {
 
@@ -33,6 +38,7 @@ void showSingle(
 
 App::App() : menuBar(MenuBar1()) {
     PrefsModule::bringUpMainWindow = [this] { bringUpMainWindow(); };
+    beforeEnd = [this](int code) { return settleUnsaved(code); };
     GTGraph::isPrintingOn = [] { return Globals::gPrintingOn; };
     menuBar.handlers = {
         {"FileQuit", [this] { FileQuit_Action(); }},
@@ -46,6 +52,7 @@ App::App() : menuBar(MenuBar1()) {
 
 App::~App() {
     PrefsModule::bringUpMainWindow = nullptr;
+    beforeEnd = nullptr;
     StartUpManager::primaryWindow = nullptr;
 }
 
@@ -68,8 +75,11 @@ void App::Event_Open() {
     splash_->VersionCheckSocket1.offer = [this](std::function<void()> done) { offerNewVersion(std::move(done)); };
     splash_->handedOver = [this] {
         tellMissingDataFolder();
+        UnsavedWork::tellOfUnreadable();
+        tellKeptJournal();
         hasHandedOver_ = true;
         showOffer();
+        offerForImport(std::exchange(fileToImport_, ""));
     };
     splash_->Show();
 }
@@ -125,7 +135,7 @@ void App::bringUpMainWindow() {
         giveWay();
         return;
     }
-    if (!tableIsReady()) {
+    if (!UnsavedWork::offerRescued(Date()) || !tableIsReady()) {
         Quit(1);
         return;
     }
@@ -141,6 +151,7 @@ void App::bringUpMainWindow() {
 
 void App::joinWindows(Window1& window) {
     window.showHeadingsEditor = [this] { showHeadingsEditor(); };
+    window.autosave = [this] { Event_Deactivate(); };
     window.showLogs = [this] { showSingle(logs_); };
     window.showResources = [this] { showSingle(files_); };
     window.closeResources = [this] {
@@ -184,6 +195,14 @@ void App::tellMissingDataFolder() {
               {missing, StartupGlobals::gDataFolder->AbsolutePath()}));
 }
 
+void App::tellKeptJournal() {
+    if (!window1_->keptJournal.empty())
+        MsgBox(
+            tr("The journal shows the file \u201cTallyvane Journal\u201d, as it does at every start while that file is "
+               "there. What the journal held before is kept in \u201c%1\u201d.",
+               {window1_->keptJournal}));
+}
+
 /// The offer belongs to the main window, and waits until that is there.
 void App::offerNewVersion(std::function<void()> done) {
     offerDone_ = std::move(done);
@@ -211,6 +230,22 @@ void App::comeToFront() {
         window1_->Show();
 }
 
+void App::offerForImport(const std::string& path) {
+    if (path.empty())
+        return;
+    if (!hasHandedOver_) {
+        fileToImport_ = path;
+        return;
+    }
+    const std::optional<FolderItem> file = GetFolderItem(path);
+    if (!file || SystemFiles::kindOf(path) != SystemFiles::Kind::file) {
+        MsgBox(tr("\u201c%1\u201d can't be imported: there is no such file.", {path}));
+        return;
+    }
+    FileImportData_Action();
+    import_->offer(*file);
+}
+
 // Run and end
 
 void App::run(const std::function<void()>& event) {
@@ -231,8 +266,34 @@ bool App::Event_UnhandledException() {
 }
 
 void App::Event_Deactivate() {
-    if (window1_)
-        window1_->saveData();
+    if (!window1_)
+        return;
+    const auto saveOpenLogs = [this] {
+        if (logs_ && logs_->isOpen())
+            logs_->saveChanged();
+    };
+    saveEach({[this] { window1_->saveChanged(); }, saveOpenLogs});
+}
+
+void App::Event_EndRequested() {
+    endsUnasked_ = true;
+    if (asksAboutUnsaved_)
+        Toolkit::inForce()->quit(1); // takes the question away; what it was about is kept
+    else
+        FileQuit_Action();
+}
+
+/// What no disk has taken is the user's to decide, or is kept for the next start. The exit code.
+int App::settleUnsaved(int code) {
+    if (UnsavedFiles::all().empty())
+        return code;
+    if (!endsUnasked_) {
+        const WhileTrue asking(asksAboutUnsaved_);
+        UnsavedWork::ask();
+    }
+    if (endsUnasked_)
+        RescuedFiles::keep();
+    return UnsavedFiles::all().empty() ? code : 1;
 }
 
 void App::Event_DisplayLost() {
@@ -241,12 +302,16 @@ void App::Event_DisplayLost() {
         if (window != window1_.get())
             run([window] { window->Event_Close(); });
     if (window1_ && window1_->isOpen())
-        window1_->saveAll();
+        run([this] { window1_->saveAll(); });
+    RescuedFiles::keep();
 }
 
 void App::Event_Close() {
-    if (window1_)
-        window1_->saveData();
+    try {
+        if (window1_)
+            window1_->saveData();
+    } catch (const IOException&) { // the user has decided about it
+    }
 }
 
 // Menu items that hold for every window

@@ -43,6 +43,8 @@ public:
     void Event_Open();
     void Event_Close();
     void Event_Deactivate();
+    /// A signal, or the end of the desktop session: ends the program without a question.
+    void Event_EndRequested();
     /// Saves all that closing would save; no window can be closed any more.
     void Event_DisplayLost();
     /// Shows the message of last resort. False: the exception counts as not handled.
@@ -60,6 +62,8 @@ public:
     void run(const std::function<void()>& event);
     /// Brings the main window, or the splash window while that is up, before all others.
     void comeToFront();
+    /// Opens the import for a file of that path, once the main window is there; "" for none.
+    void offerForImport(const std::string& path);
 
     /// Nil before Event_Open, and in a second start.
     Window1* window1() { return window1_.get(); }
@@ -81,7 +85,9 @@ private:
     bool claim(const std::optional<FolderItem>& folder);
     bool tableIsReady();
     void bringUpMainWindow();
+    int settleUnsaved(int code);
     void tellMissingDataFolder();
+    void tellKeptJournal();
     void offerNewVersion(std::function<void()> done);
     void showOffer();
     void giveWay();
@@ -91,9 +97,12 @@ private:
 
     Toolbar1 toolbar_;
     bool showingException_ = false;
+    bool asksAboutUnsaved_ = false;
+    bool endsUnasked_ = false;
     std::vector<std::unique_ptr<SystemFiles::FolderClaim>> claims_;
     std::unique_ptr<Window1> window1_;
     std::unique_ptr<SplashWindow> splash_;
+    std::string fileToImport_; // a path that waits for the main window; "" for none
     bool hasHandedOver_ = false; // the splash window, with all that had to be told
     std::function<void()> offerDone_; // of an offer that waits for the main window; nil for none
     std::unique_ptr<newVersionWindow> newVersion_;

@@ -1,20 +1,38 @@
+#include <iostream>
+
 #include "platform/qt/program.h"
 #include "shell/app.h"
+#include "shell/command_line.h"
 
 using namespace tallyvane;
 
 /// Joins the application and the toolkit, and runs until the main window is closed.
 int main(int argc, char** argv) {
+    const CommandLine asked({argv + 1, argv + argc});
+    if (asked.help || asked.version) { // answered on a machine without a display too
+        std::cout << (asked.help ? CommandLine::helpText() : CommandLine::versionText());
+        return 0;
+    }
     // As wide as the editor of headings, as high as the main window, with frames, menus and toolbar.
     constexpr Rect largestWindow{0, 0, 930, 660};
     QtProgram program(argc, argv, largestWindow);
+    const CommandLine commandLine({argv + 1, argv + argc}); // without the toolkit's own options
+    if (!commandLine.error.empty()) {
+        constexpr int wrongUse = 2;
+        std::cerr << commandLine.error << '\n';
+        return wrongUse;
+    }
     App app;
     program.guardEvents([&app](const std::function<void()>& event) { app.run(event); });
     program.onDeactivate = [&app] { app.Event_Deactivate(); };
-    program.onEndRequested = [&app] { app.FileQuit_Action(); };
+    program.onEndRequested = [&app] { app.Event_EndRequested(); };
     program.onDisplayLost = [&app] { app.Event_DisplayLost(); };
-    program.onWake = [&app] { app.comeToFront(); };
-    app.wakeRunningProgram = [&program] { program.wakeRunningProgram(); };
+    program.onWake = [&app](const std::string& file) {
+        app.comeToFront();
+        app.offerForImport(file);
+    };
+    app.wakeRunningProgram = [&] { program.wakeRunningProgram(commandLine.file); };
+    app.offerForImport(commandLine.file);
 
     const int code = program.run([&app] { app.Event_Open(); });
     app.run([&app] { app.Event_Close(); });

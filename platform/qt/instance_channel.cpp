@@ -21,22 +21,34 @@ QString channelName() {
 
 } // namespace
 
-void InstanceChannel::listen(std::function<void()> onCall) {
+void InstanceChannel::listen(std::function<void(const std::string& message)> onCall) {
     server_ = std::make_unique<QLocalServer>();
     server_->setSocketOptions(QLocalServer::UserAccessOption);
     QLocalServer::removeServer(channelName()); // left over from a program that was killed
     QObject::connect(server_.get(), &QLocalServer::newConnection, server_.get(), [this, onCall = std::move(onCall)] {
-        while (QLocalSocket* caller = server_->nextPendingConnection())
-            caller->deleteLater();
-        onCall();
+        while (QLocalSocket* caller = server_->nextPendingConnection()) {
+            const auto takeMessage = [caller, onCall] {
+                caller->deleteLater();
+                onCall(caller->readAll().toStdString());
+            };
+            if (caller->state() == QLocalSocket::UnconnectedState)
+                takeMessage();
+            else
+                QObject::connect(caller, &QLocalSocket::disconnected, caller, takeMessage);
+        }
     });
     static_cast<void>(server_->listen(channelName())); // without it a second start still ends, it just can't call
 }
 
-void InstanceChannel::call() {
+void InstanceChannel::call(const std::string& message) {
     QLocalSocket socket;
     socket.connectToServer(channelName(), QLocalSocket::WriteOnly);
-    static_cast<void>(socket.waitForConnected(patienceMilliseconds));
+    if (!socket.waitForConnected(patienceMilliseconds))
+        return;
+    socket.write(QByteArray::fromStdString(message));
+    socket.disconnectFromServer();
+    if (socket.state() != QLocalSocket::UnconnectedState)
+        static_cast<void>(socket.waitForDisconnected(patienceMilliseconds));
 }
 
 } // namespace tallyvane

@@ -33,6 +33,9 @@ void settleFolders() {
     SpecialFolder::UserHome = folderAt(QDir::homePath());
     const QString temporary = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
     SpecialFolder::Temporary = temporary.isEmpty() ? std::nullopt : folderAt(temporary);
+    const QString state = qEnvironmentVariable("XDG_STATE_HOME");
+    const bool isUsable = QDir::isAbsolutePath(state); // the desktop's rules: any other value counts as none
+    SpecialFolder::State = folderAt(isUsable ? state : QDir::home().filePath(QStringLiteral(".local/state")));
 }
 
 void settleDateForm() {
@@ -112,7 +115,7 @@ void QtProgram::guardEvents(std::function<void(const std::function<void()>& even
 int QtProgram::run(const std::function<void()>& open) {
     deliver(open);
     if (!parts_->toolkit.quitAsked() && !Window::openWindows().empty()) {
-        parts_->channel.listen([this] { deliver(onWake); });
+        parts_->channel.listen([this](const std::string& file) { deliver([&] { onWake(file); }); });
         inEventLoop = this;
         static_cast<void>(std::atexit(saveAtExit)); // refused only when the memory is gone
         QApplication::exec();
@@ -122,6 +125,6 @@ int QtProgram::run(const std::function<void()>& open) {
     return parts_->toolkit.quitAsked() ? parts_->toolkit.quitCode() : 1;
 }
 
-void QtProgram::wakeRunningProgram() { parts_->channel.call(); }
+void QtProgram::wakeRunningProgram(const std::string& file) { parts_->channel.call(file); }
 
 } // namespace tallyvane

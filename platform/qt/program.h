@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <string>
 
 #include "platform/geometry.h"
 
@@ -26,13 +27,13 @@ public:
     std::function<void()> onEndRequested;
     /// The display has gone under the program, which ends now; there is nobody left to ask or to tell.
     std::function<void()> onDisplayLost;
-    /// A second start asks for the front.
-    std::function<void()> onWake;
+    /// A second start asks for the front, and hands over the file that it was called with; "" for none.
+    std::function<void(const std::string& file)> onWake;
 
     /// Raises `open`, then all events until Quit. The exit code.
     int run(const std::function<void()>& open);
     /// Calls the program that runs already.
-    void wakeRunningProgram();
+    void wakeRunningProgram(const std::string& file);
 
 private:
     struct Parts;

@@ -9,8 +9,11 @@
 #include <QNetworkProxy>
 #include <QPointer>
 #include <QPrintDialog>
+#include <QPushButton>
 #include <QScreen>
 #include <QUrl>
+
+#include <algorithm>
 
 #include "platform/qt/canvas_accessible.h"
 #include "platform/qt/convert.h"
@@ -18,6 +21,7 @@
 #include "platform/qt/print_job.h"
 #include "platform/qt/qt_bitmap.h"
 #include "platform/qt/window_peer.h"
+#include "platform/system_files.h"
 #include "platform/translation.h"
 
 namespace tallyvane {
@@ -39,6 +43,35 @@ std::string chosenPath(QFileDialog& dialog) {
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return {};
     return QFile::encodeName(dialog.selectedFiles().first()).toStdString();
+}
+
+/// "" stays empty.
+std::string withEnding(std::string path, const std::string& ending) {
+    if (!path.empty() && !path.ends_with(ending))
+        path += ending;
+    return path;
+}
+
+/// Whether nothing stands there, or the user agrees that it goes.
+bool mayReplace(const std::string& path) {
+    if (SystemFiles::kindOf(path) == SystemFiles::Kind::none)
+        return true;
+    const std::string name = path.substr(path.rfind('/') + 1);
+    enum Choice : std::size_t { cancel, replace };
+    return Ask(tr("\u201c%1\u201d is already there. Do you want to replace it?", {name}), {tr("Cancel"), tr("Replace")},
+               cancel) == replace;
+}
+
+/// Gives a PDF the ending that the user has not typed. False when a file of that name is to stay.
+bool settlePdfName(QPrinter& printer) {
+    if (printer.outputFormat() != QPrinter::PdfFormat || printer.outputFileName().isEmpty())
+        return true;
+    const std::string typed = QFile::encodeName(printer.outputFileName()).toStdString();
+    const std::string path = withEnding(typed, ".pdf");
+    if (path != typed && !mayReplace(path)) // of the name as it was typed the dialog itself has asked
+        return false;
+    printer.setOutputFileName(QFile::decodeName(QByteArray::fromStdString(path)));
+    return true;
 }
 
 QStringList nameFilters(const std::string& endings) {
@@ -101,15 +134,20 @@ void QtToolkit::message(const std::string& text) {
     delete box;
 }
 
-Answer QtToolkit::ask(const std::string& question, const std::string& yes, const std::string& no) {
+std::optional<std::size_t> QtToolkit::ask(const std::string& question, const std::vector<std::string>& answers,
+                                          std::size_t onEscape) {
     QMessageBox box(QMessageBox::NoIcon, QStringLiteral("Tallyvane"), toQt(question));
     box.setTextFormat(Qt::PlainText);
-    const QAbstractButton* accept = box.addButton(toQt(yes), QMessageBox::AcceptRole);
-    box.setEscapeButton(box.addButton(toQt(no), QMessageBox::RejectRole));
+    std::vector<QAbstractButton*> buttons;
+    for (const std::string& answer : answers) // of one role they keep their order on every desktop
+        buttons.push_back(box.addButton(toQt(answer), QMessageBox::ActionRole));
+    box.setDefaultButton(static_cast<QPushButton*>(buttons.front()));
+    box.setEscapeButton(buttons.at(onEscape));
     box.exec();
     if (quitAsked_ || box.clickedButton() == nullptr)
-        return Answer::none;
-    return box.clickedButton() == accept ? Answer::yes : Answer::no;
+        return std::nullopt;
+    const auto clicked = std::find(buttons.begin(), buttons.end(), box.clickedButton());
+    return static_cast<std::size_t>(clicked - buttons.begin());
 }
 
 void QtToolkit::beep() { QApplication::beep(); }
@@ -118,14 +156,26 @@ std::string QtToolkit::askWhereToSave(const SaveAsDialog& dialog) {
     QFileDialog chooser(nullptr, toQt(dialog.Title), QDir::homePath());
     chooser.setAcceptMode(QFileDialog::AcceptSave);
     chooser.setLabelText(QFileDialog::FileName, toQt(dialog.PromptText));
+    chooser.setOption(QFileDialog::DontConfirmOverwrite); // it would ask about the name without its ending
     chooser.selectFile(toQt(dialog.SuggestedFileName));
-    return chosenPath(chooser);
+    for (;;) {
+        const std::string path = withEnding(chosenPath(chooser), dialog.Suffix);
+        if (path.empty() || mayReplace(path))
+            return path;
+    }
 }
 
 std::string QtToolkit::askForFile(const OpenDialog& dialog) {
     QFileDialog chooser(nullptr, toQt(dialog.Title), QDir::homePath());
     chooser.setFileMode(QFileDialog::ExistingFile);
     chooser.setNameFilters(nameFilters(dialog.Filter));
+    return chosenPath(chooser);
+}
+
+std::string QtToolkit::askForFolder(const SelectFolderDialog& dialog) {
+    QFileDialog chooser(nullptr, toQt(dialog.Title), QDir::homePath());
+    chooser.setFileMode(QFileDialog::Directory);
+    chooser.setOption(QFileDialog::ShowDirsOnly);
     return chosenPath(chooser);
 }
 
@@ -140,8 +190,10 @@ std::unique_ptr<Graphics> QtToolkit::openPrinterDialog(const Paper* paper, int r
         printer->setOutputFileName(QDir::home().filePath(toQt(tr("Tallyvane Report")) + QStringLiteral(".pdf")));
     }
     QPrintDialog dialog(printer.get()); // of no window, which might go while the dialog is open
-    if (dialog.exec() != QDialog::Accepted)
-        return nullptr;
+    do
+        if (dialog.exec() != QDialog::Accepted)
+            return nullptr;
+    while (!settlePdfName(*printer));
     return PrintJob::begin(std::move(printer), resolution);
 }
 
@@ -154,10 +206,10 @@ std::unique_ptr<Download> QtToolkit::download(const std::string& address, const 
     return std::make_unique<HttpDownload>(*network_, address, path, std::move(done), timeLimit);
 }
 
-void QtToolkit::openUrl(const std::string& address) { QDesktopServices::openUrl(QUrl(toQt(address))); }
+bool QtToolkit::openUrl(const std::string& address) { return QDesktopServices::openUrl(QUrl(toQt(address))); }
 
-void QtToolkit::openFile(const std::string& path) {
-    QDesktopServices::openUrl(QUrl::fromLocalFile(QFile::decodeName(QByteArray::fromStdString(path))));
+bool QtToolkit::openFile(const std::string& path) {
+    return QDesktopServices::openUrl(QUrl::fromLocalFile(QFile::decodeName(QByteArray::fromStdString(path))));
 }
 
 void QtToolkit::quit(int code) {

@@ -18,16 +18,18 @@ public:
     Rect placeFor(const Window& window) override;
     std::shared_ptr<Bitmap> makeBitmap(int width, int height) override;
     void message(const std::string& text) override;
-    Answer ask(const std::string& question, const std::string& yes, const std::string& no) override;
+    std::optional<std::size_t> ask(const std::string& question, const std::vector<std::string>& answers,
+                                   std::size_t onEscape) override;
     void beep() override;
     std::string askWhereToSave(const SaveAsDialog& dialog) override;
     std::string askForFile(const OpenDialog& dialog) override;
+    std::string askForFolder(const SelectFolderDialog& dialog) override;
     std::unique_ptr<Paper> makePaper() override;
     std::unique_ptr<Graphics> openPrinterDialog(const Paper* paper, int resolution, PrintTarget target) override;
     std::unique_ptr<Download> download(const std::string& address, const std::string& path,
                                        std::function<void(int status)> done) override;
-    void openUrl(const std::string& address) override;
-    void openFile(const std::string& path) override;
+    bool openUrl(const std::string& address) override;
+    bool openFile(const std::string& path) override;
     void quit(int code) override;
 
     /// Of a whole download.

@@ -1,12 +1,16 @@
 #include "diary/window1.h"
 #include "settings/globals.h"
+#include "support/failing_disk.h"
 #include "support/test_desk.h"
 
 namespace tallyvane {
 
 namespace {
 
-class JournalTest : public DiaryDesk {};
+class JournalTest : public DiaryDesk {
+protected:
+    std::filesystem::path keptIn_;
+};
 
 TEST_F(JournalTest, TheThreeButtons) {
     Window1& window = open();
@@ -23,6 +27,28 @@ TEST_F(JournalTest, TheThreeButtons) {
     TextArea other;
     window.SaveJournalToDisk(other, "Save Other");
     EXPECT_EQ(toolkit_.dialogs.back(), "Save|Save Other|untitled");
+}
+
+TEST_F(JournalTest, ANewerJournalThatAFileOverridesIsKept) {
+    const auto journalAfterAStart = [this](const std::string& logged) {
+        write(applicationFile("QVXLogData"), "@#@@#@" + logged + "@#@\n");
+        Window1 window(toolbar_, menuBar_);
+        window.Open();
+        keptIn_ = window.keptJournal;
+        return window.JournalFld.Text();
+    };
+    write(applicationFile("Tallyvane Journal"), "felt well\r\nslept\r\n");
+    EXPECT_EQ(journalAfterAStart("felt well$%$slept"), "felt well\nslept\n");
+    EXPECT_EQ(keptIn_, "") << "nothing of it is lost";
+    EXPECT_EQ(journalAfterAStart("felt ill"), "felt well\nslept\n") << "the file wins";
+    EXPECT_EQ(keptIn_, applicationFile("Tallyvane Journal 2026-11-22"));
+    EXPECT_EQ(read(keptIn_), "felt ill");
+    journalAfterAStart("felt ill");
+    EXPECT_EQ(keptIn_, "") << "it is kept already, and was told";
+    journalAfterAStart("felt better");
+    EXPECT_EQ(read(applicationFile("Tallyvane Journal 2026-11-22 2")), "felt better");
+    const FailingDisk disk(FailingDisk::Call::reserve, 0, false);
+    EXPECT_EQ(journalAfterAStart("felt fine"), "felt fine") << "where it can't be kept it wins";
 }
 
 TEST_F(JournalTest, ThreePagesOfPaper) {

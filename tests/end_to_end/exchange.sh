@@ -14,6 +14,18 @@ printf 'Metformin@@@500 mg@@@at noon\nendofmeds\nbread$%%$milk\nswimming\n' >"$h
 
 start
 
+without_average() { awk -F, -v OFS=, '{ $9 = ""; print }' "$1"; }
+
+came_out_as_it_was() { cmp <(without_average "$readings") <(without_average "$home/out.txt"); }
+
+# Exports by commas, or by tabs when the choice is moved by an arrow key, under the name "out".
+export_days() {
+    choose 2
+    until_true has_keys Untitled
+    xdotool key ${1:-} Return
+    answer 'Save your data' "$home/out"
+}
+
 # In: the window's "OK" stands for Return.
 choose 1
 until_true has_keys Untitled
@@ -21,17 +33,19 @@ xdotool key Return
 answer 'Select glucose readings data file' "$readings"
 until_true active "$window"
 
-# Out again, as it came.
-choose 2
-until_true has_keys Untitled
-xdotool key Return
-answer 'Save your data' "$home/out"
-until_true cmp "$readings" "$home/out.txt"
+# Out again, as it came, but for the averages, which came with it.
+export_days
+until_true came_out_as_it_was
+[[ $(cut -d, -f9 "$home/out.txt" | grep -c '[0-9]') == $(wc -l <"$readings") ]] || fail "averages are missing"
 
-# All days selected: their averages follow, and the archive has them all.
-click_from_bottom 200 465
-xdotool key Escape
-for page in 1 2 3 4 5 6 7 8; do xdotool key shift+Next; done
+# Once more, by tabs: the user is asked about the file that is there, and it is replaced under its whole name.
+export_days Down
+until_true has_keys Tallyvane
+xdotool key Right Return
+until_true grep -q $'\t' "$home/out.txt"
+[[ ! -e $home/out ]] || fail "a file without the ending"
+
+# The days that came in are selected: the archive has them all.
 choose 4
 answer 'Save archive' "$home/archive"
 until_true test -s "$home/archive"

@@ -55,10 +55,9 @@ until_true gone "Headings Editor"
 in_front
 until_true grep -qx Breakfast "$folder/7VXHeadings"
 
-# Logs: two lines of food, closed by the close button.
+# Logs: two lines of food, typed at once, closed by the close button.
 toolbar 581
 side_window Logs
-click_in_side 300 250
 xdotool type bread
 xdotool key Return
 xdotool type milk
@@ -101,10 +100,20 @@ xdotool key Return
 close_by Files alt+F4
 until_true grep -qx 'Manual@@@www.example.org' "$folder/Tallyvane/QVXFileData"
 
+# The list has the keys when the window opens: what is typed presses no button.
+toolbar 44
+side_window Files
+xdotool key Down F2
+sleep 0.3
+xdotool key ctrl+a
+xdotool type Handbook
+xdotool key Return
+close_by Files alt+F4
+until_true grep -qx 'Handbook@@@www.example.org' "$folder/Tallyvane/QVXFileData"
+
 # The end of the program closes what is still open, and saves it.
 toolbar 581
 side_window Logs
-click_in_side 300 250
 xdotool key ctrl+End
 xdotool type ", tea"
 sleep 0.2

@@ -97,19 +97,51 @@ TEST_F(FileWindowTest, AListThatBeganEmptyKeepsItsFile) {
 }
 
 TEST_F(FileWindowTest, NamesAndTargetsThatTouchTheSeparatorsComeBack) {
-    const FolderItem odd = fileNamed("a@@@b###c@");
+    const FolderItem odd = fileNamed("a@@b##c@");
     files_.Show();
-    for (const DragItem& item : {DragItem{odd, {}}, {{}, " www.example.org/#\n"}, {odd, {}}, {{}, "www.a\nb###c@@@d"}})
+    for (const DragItem& item : {DragItem{odd, {}}, {{}, " www.example.org/#\n"}, {odd, {}}, {{}, "www.a\nb##c@@d"}})
         files_.ListBox1.DropObject(item);
     files_.Close();
     fileWindow again;
     again.Show();
     ASSERT_EQ(again.ListBox1.ListCount(), 4);
-    EXPECT_EQ(again.ListBox1.Cell(3, 1), "www.a b%23%23%23c%40%40%40d");
+    EXPECT_EQ(again.ListBox1.Cell(3, 1), "www.a b##c@@d");
     EXPECT_EQ(again.ListBox1.Cell(0, 0), "a@@b##c@ ");
     EXPECT_EQ(again.ListBox1.Cell(0, 1), odd.GetSaveInfo());
     EXPECT_EQ(again.ListBox1.Cell(1, 1), "www.example.org/");
     EXPECT_EQ(FolderItem::GetRelative(again.ListBox1.Cell(2, 1)), odd);
+}
+
+TEST_F(FileWindowTest, WhatCannotBeKeptOrOpenedIsTold) {
+    const auto told = [this](const char* words) {
+        ASSERT_FALSE(toolkit_.messages.empty()) << words;
+        EXPECT_NE(toolkit_.messages.back().find(words), std::string::npos) << toolkit_.messages.back();
+        toolkit_.messages.clear();
+    };
+    files_.Show();
+    files_.ListBox1.DropObject({{}, "www.example.org/a###b"});
+    told("\u201c###\u201d between its entries");
+    files_.ListBox1.DropObject({fileNamed("a@@@b"), {}});
+    told("\u201c@@@\u201d between its entries");
+    files_.ListBox1.DropObject({{}, "https://example.org/a"});
+    told("is not added");
+    EXPECT_EQ(files_.ListBox1.ListCount(), 0);
+
+    const FolderItem gone = fileNamed("gone");
+    for (const DragItem& item : {DragItem{gone, {}}, {{}, "see www.example.org"}})
+        files_.ListBox1.DropObject(item);
+    gone.Delete();
+    files_.ListBox1.ListIndex(0);
+    files_.ListBox1.DoubleClick();
+    told("not there any more");
+    files_.ListBox1.ListIndex(1);
+    files_.ListBox1.DoubleClick();
+    told("neither a web nor an e-mail address");
+    EXPECT_TRUE(toolkit_.addresses.empty());
+
+    files_.ListBox1.CellCommandClick(0, 0);
+    files_.ListBox1.userTyped("a###b", 4, 0);
+    EXPECT_EQ(files_.ListBox1.Cell(0, 0), "a##b") << "it would split the entry";
 }
 
 TEST_F(FileWindowTest, AFileThatCannotBeWrittenCostsNothingOnShow) {

@@ -128,12 +128,13 @@ TEST_F(SnapshotsTest, AFullerCopyIsFoundForATableThatIsNotWhole) {
 
 TEST_F(SnapshotsTest, TheUserIsAskedBeforeACopyComesBack) {
     const std::string cut = "1/1/2026@#@5\n1/2/20";
-    for (const Answer answer : {Answer::none, Answer::no, Answer::yes}) {
-        SCOPED_TRACE(static_cast<int>(answer));
+    using Chosen = std::optional<std::size_t>;
+    for (const Chosen& answer : {Chosen(), Chosen(1), Chosen(0)}) {
+        SCOPED_TRACE(answer ? static_cast<int>(*answer) : -1);
         write(copyOf("2026-11-20", "7VXData"), threeDays);
         write(table(), cut);
         toolkit_.questions.clear();
-        toolkit_.answerToQuestion = answer;
+        toolkit_.answers = {answer};
         App app;
         app.Event_Open();
         EXPECT_EQ(
@@ -142,13 +143,13 @@ TEST_F(SnapshotsTest, TheUserIsAskedBeforeACopyComesBack) {
                   "3 days. Do you want it back in its place? What the file holds now is kept as \u201c7VXData "
                   "damaged 2026-11-22\u201d."});
         EXPECT_EQ(read(applicationFile("7VXData damaged 2026-11-22")), cut);
-        if (answer == Answer::none) {
+        if (!answer) {
             EXPECT_EQ(app.window1(), nullptr) << "nobody has answered: nothing is opened, and nothing saved";
             app.Event_Close();
             EXPECT_EQ(read(table()), cut);
             continue;
         }
-        EXPECT_EQ(app.window1()->ListBox1.ListCount(), answer == Answer::yes ? 3 : 2);
+        EXPECT_EQ(app.window1()->ListBox1.ListCount(), *answer == 0 ? 3 : 2);
         app.window1()->Close();
     }
 }

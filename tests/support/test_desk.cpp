@@ -7,6 +7,7 @@
 #include "settings/data_files.h"
 #include "settings/globals.h"
 #include "settings/prefs_module.h"
+#include "settings/unsaved_files.h"
 
 namespace tallyvane {
 
@@ -32,13 +33,18 @@ private:
 /// Pages that hand over what was drawn on them when they are done.
 class RecordedPages : public GraphicsRecorder {
 public:
-    RecordedPages(std::vector<Call>& printed, int resolution)
-        : GraphicsRecorder(letterWidth * resolution / pointsAnInch, letterHeight * resolution / pointsAnInch),
-          printed_(printed) {}
-    ~RecordedPages() override { printed_ = calls(); }
+    RecordedPages(std::vector<Call>& printed, RecordingToolkit::PageSize& size, double width, double height,
+                  int resolution)
+        : GraphicsRecorder(width * resolution / pointsAnInch, height * resolution / pointsAnInch), printed_(printed),
+          size_(size) {}
+    ~RecordedPages() override {
+        printed_ = calls();
+        size_ = {Width(), Height()};
+    }
 
 private:
     std::vector<Call>& printed_;
+    RecordingToolkit::PageSize& size_;
 };
 
 } // namespace
@@ -50,7 +56,10 @@ std::unique_ptr<Paper> RecordingToolkit::makePaper() {
 std::unique_ptr<Graphics> RecordingToolkit::openPrinterDialog(const Paper* chosen, int resolution, PrintTarget target) {
     paper = chosen;
     printDialogs.push_back(target);
-    return printerReady ? std::make_unique<RecordedPages>(printed, resolution) : nullptr;
+    if (!printerReady)
+        return nullptr;
+    return std::make_unique<RecordedPages>(printed, lastPage, chosen != nullptr ? chosen->width() : letterWidth,
+                                           chosen != nullptr ? chosen->height() : letterHeight, resolution);
 }
 
 long RecordingToolkit::pageBreaks() const {
@@ -64,6 +73,8 @@ void TestDesk::SetUp() {
     SpecialFolder::ApplicationData = GetFolderItem(folder_.string());
     SpecialFolder::UserHome = GetFolderItem(folder_.string());
     SpecialFolder::Temporary = GetFolderItem(folder_.string());
+    SpecialFolder::State = GetFolderItem((folder_ / "state").string());
+    UnsavedFiles::forgetAll();
     StartupGlobals::gDataFolder.reset();
     StartupGlobals::gMissingDataFolder.clear();
     PrefsModule::gDataLocation.clear();

@@ -26,9 +26,14 @@ public:
         return std::make_shared<RecordedBitmap>(width, height);
     }
     void message(const std::string& text) override { messages.push_back(text); }
-    Answer ask(const std::string& question, const std::string& /*yes*/, const std::string& /*no*/) override {
+    std::optional<std::size_t> ask(const std::string& question, const std::vector<std::string>& /*answers*/,
+                                   std::size_t /*onEscape*/) override {
         questions.push_back(question);
-        return answerToQuestion;
+        if (answers.empty())
+            return std::nullopt;
+        const std::optional<std::size_t> given = answers.front();
+        answers.erase(answers.begin());
+        return given;
     }
     void beep() override { ++beeps; }
     std::string askWhereToSave(const SaveAsDialog& dialog) override {
@@ -39,6 +44,10 @@ public:
         dialogs.push_back(dialog.Title + "|" + dialog.Filter);
         return answer;
     }
+    std::string askForFolder(const SelectFolderDialog& dialog) override {
+        dialogs.push_back(dialog.Title);
+        return answer;
+    }
     std::unique_ptr<Paper> makePaper() override;
     std::unique_ptr<Graphics> openPrinterDialog(const Paper* paper, int resolution, PrintTarget target) override;
     std::unique_ptr<Download> download(const std::string& address, const std::string& path,
@@ -46,8 +55,14 @@ public:
         downloads.push_back({address, path, std::move(done)});
         return nullptr;
     }
-    void openUrl(const std::string& address) override { addresses.push_back(address); }
-    void openFile(const std::string& path) override { files.push_back(path); }
+    bool openUrl(const std::string& address) override {
+        addresses.push_back(address);
+        return true;
+    }
+    bool openFile(const std::string& path) override {
+        files.push_back(path);
+        return true;
+    }
     void quit(int code) override { quits.push_back(code); }
 
     /// In what was printed.
@@ -65,11 +80,17 @@ public:
     std::vector<int> quits;
     std::vector<std::string> dialogs;
     std::vector<std::string> questions;
-    Answer answerToQuestion = Answer::no;
+    std::vector<std::optional<std::size_t>>
+        answers; // to the questions that come; after them the program is being ended
     std::string answer; // the path that the user chooses; "" cancels
     bool pageSetupReady = true; // false: the user cancels the page set-up
     bool printerReady = true; // false: the user cancels the print dialog
     std::vector<GraphicsRecorder::Call> printed; // on all pages
+    struct PageSize {
+        double width = 0;
+        double height = 0;
+    };
+    PageSize lastPage; // in the units that it had at its end
     std::function<std::unique_ptr<Paper>()> nextPaper; // in place of the usual letter paper
     std::vector<PrintTarget> printDialogs; // that were shown
     const Paper* paper = nullptr; // that was given to the last of them

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace tallyvane {
+
+/// What the program was called with: "--help", "--version", or a file of readings.
+struct CommandLine {
+    /// Of the arguments behind the program's name. "--" makes a file of what follows it.
+    explicit CommandLine(const std::vector<std::string>& arguments);
+
+    bool help = false;
+    bool version = false;
+    /// The absolute path of the file; "" for none.
+    std::string file;
+    /// One line for standard error about what can't be understood; "" for nothing.
+    std::string error;
+
+    static std::string helpText();
+    /// "Tallyvane 1.1.7"
+    static std::string versionText();
+};
+
+} // namespace tallyvane

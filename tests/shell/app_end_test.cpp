@@ -1,0 +1,123 @@
+#include "settings/globals.h"
+#include "settings/unsaved_files.h"
+#include "shell/app.h"
+#include "support/failing_disk.h"
+#include "support/test_desk.h"
+
+namespace tallyvane {
+
+namespace {
+
+/// The program with a day and a journal that no file holds yet.
+class AppEndTest : public TestDesk {
+protected:
+    void SetUp() override {
+        TestDesk::SetUp();
+        app_ = std::make_unique<App>();
+        app_->Event_Open();
+        app_->splashWindow()->Timer1.fire();
+        app_->window1()->BevelButton1_Action();
+        app_->window1()->ListBox1.userTyped("5.6", 3, 0);
+        app_->window1()->JournalFld.Text("felt well");
+    }
+    /// Nothing can be written where the table belongs.
+    void blockTable() const { std::filesystem::create_directory(applicationFile("7VXData")); }
+    void unblockTable() const { std::filesystem::remove(applicationFile("7VXData")); }
+    static bool isWhole(const std::filesystem::path& table) {
+        return read(table).starts_with("11/22/2026@#@5.6@#@@#@@#@@#@@#@@#@@#@5.6@#@@#@");
+    }
+    /// What a new start offers, and what it opens after the answer.
+    std::vector<std::string> offered(std::optional<std::size_t> answer) {
+        app_.reset();
+        toolkit_.questions.clear();
+        toolkit_.answers = {answer};
+        StartupGlobals::gDataFolder.reset();
+        App next;
+        next.Event_Open();
+        return toolkit_.questions;
+    }
+    std::filesystem::path kept() const { return folder_ / "state" / "Tallyvane" / "Unsaved"; }
+
+    std::unique_ptr<App> app_;
+};
+
+TEST_F(AppEndTest, WhatCannotBeSavedIsAskedAboutOnceAndNeverTrapsTheUser) {
+    enum Choice : std::size_t { tryAgain, elsewhere, giveUp };
+    blockTable();
+    toolkit_.answers = {tryAgain, giveUp};
+    app_->FileQuit_Action();
+    ASSERT_EQ(toolkit_.questions.size(), 2U);
+    EXPECT_EQ(toolkit_.questions[0],
+              "Not everything could be saved.\n\nYour days: a folder of that name stands there\n" +
+                  applicationFile("7VXData").string());
+    EXPECT_EQ(toolkit_.quits, std::vector<int>{1}) << "an end with a loss";
+    EXPECT_FALSE(app_->window1()->isOpen());
+    EXPECT_EQ(read(applicationFile("QVXLogData")), "@#@@#@felt well@#@\n") << "the others are saved";
+    app_->Event_Close();
+    EXPECT_TRUE(toolkit_.messages.empty()) << "one question is enough";
+}
+
+TEST_F(AppEndTest, AFullDiskIsTriedAgainAndTheWindowsPlaceNeverStopsTheEnd) {
+    {
+        const FailingDisk disk(FailingDisk::Call::reserve, 0, false);
+        toolkit_.answers = {};
+        app_->FileQuit_Action();
+    }
+    ASSERT_EQ(toolkit_.questions.size(), 1U);
+    EXPECT_NE(toolkit_.questions[0].find("Your days: No space left on device"), std::string::npos);
+    EXPECT_NE(toolkit_.questions[0].find("The journal and the logs: No space"), std::string::npos);
+    EXPECT_EQ(toolkit_.questions[0].find("QVXWindowData"), std::string::npos);
+    EXPECT_EQ(toolkit_.quits, std::vector<int>{1});
+    UnsavedFiles::tryAgain();
+    EXPECT_TRUE(UnsavedFiles::all().empty());
+    EXPECT_TRUE(isWhole(applicationFile("7VXData")));
+}
+
+TEST_F(AppEndTest, SavedElsewhereNothingIsLostAndNothingReplaced) {
+    blockTable();
+    std::filesystem::create_directories(folder_ / "stick" / "Tallyvane unsaved 2026-11-22");
+    toolkit_.answer = folder_ / "stick";
+    toolkit_.answers = {1};
+    app_->FileQuit_Action();
+    const std::filesystem::path saved = folder_ / "stick" / "Tallyvane unsaved 2026-11-22 2";
+    EXPECT_TRUE(isWhole(saved / "7VXData"));
+    EXPECT_EQ(read(saved / "Places"), "Your days@#@7VXData@#@" + applicationFile("7VXData").string() + "\n");
+    EXPECT_EQ(toolkit_.quits, std::vector<int>{0});
+    EXPECT_NE(toolkit_.messages.back().find(saved.string()), std::string::npos);
+}
+
+TEST_F(AppEndTest, ASignalKeepsWhatIsUnsavedForTheNextStart) {
+    blockTable();
+    app_->Event_EndRequested();
+    EXPECT_TRUE(toolkit_.questions.empty()) << "nobody is there to ask";
+    EXPECT_EQ(toolkit_.quits, std::vector<int>{0});
+    EXPECT_TRUE(isWhole(kept() / "7VXData"));
+    EXPECT_EQ(std::filesystem::status(kept() / "7VXData").permissions(), std::filesystem::perms(0600));
+
+    unblockTable();
+    write(applicationFile("7VXData"), "11/21/2026@#@7\n"); // from somewhere else
+    EXPECT_EQ(offered(std::nullopt).size(), 1U);
+    EXPECT_TRUE(isWhole(kept() / "7VXData")) << "nobody has answered";
+    EXPECT_EQ(offered(0).size(), 1U);
+    EXPECT_TRUE(isWhole(applicationFile("7VXData")));
+    EXPECT_EQ(read(applicationFile("7VXData before 2026-11-22")), "11/21/2026@#@7\n");
+    EXPECT_FALSE(std::filesystem::exists(kept()));
+    EXPECT_TRUE(offered(0).empty());
+}
+
+TEST_F(AppEndTest, WhatTheUserDoesNotWantBackIsKeptAndNotOfferedAgain) {
+    blockTable();
+    app_->Event_EndRequested();
+    EXPECT_EQ(offered(0).size(), 1U) << "still blocked";
+    EXPECT_NE(toolkit_.messages.back().find("a folder of that name stands there"), std::string::npos);
+    EXPECT_TRUE(isWhole(kept() / "7VXData"));
+    unblockTable();
+    EXPECT_EQ(offered(1).size(), 1U);
+    EXPECT_TRUE(offered(1).empty());
+    EXPECT_FALSE(std::filesystem::exists(applicationFile("7VXData")));
+    EXPECT_TRUE(isWhole(folder_ / "state" / "Tallyvane" / "Not taken 2026-11-22" / "7VXData"));
+}
+
+} // namespace
+
+} // namespace tallyvane
