@@ -71,7 +71,6 @@ void ListboxPeer::setUpLook() {
     horizontalHeader()->setMinimumSectionSize(1);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setTextElideMode(Qt::ElideRight);
     QFont headings = font();
     headings.setPixelSize(headingLetters);
     horizontalHeader()->setFont(headings);
@@ -88,10 +87,10 @@ void ListboxPeer::setLetters() {
     editor_->setFont(letters);
 }
 
-bool ListboxPeer::isHeadingCut(int column) const {
+/// A heading as far as its column has room for it; dots at the end stand for the rest.
+QString ListboxPeer::shownHeading(int column, const QString& heading) const {
     const int margins = 2 * style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, horizontalHeader());
-    const QString heading = model_->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
-    return horizontalHeader()->fontMetrics().horizontalAdvance(heading) > columnWidth(column) - margins;
+    return horizontalHeader()->fontMetrics().elidedText(heading, Qt::ElideRight, columnWidth(column) - margins);
 }
 
 /// The last column leaves the scroll bar its room, whatever widths were set.

@@ -51,10 +51,20 @@ std::string ListboxModel::spoken(int row, int column) const {
 }
 
 QVariant ListboxModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    const bool isTip = role == Qt::ToolTipRole && isHeadingCut && isHeadingCut(section);
-    if (orientation == Qt::Horizontal && (role == Qt::DisplayRole || isTip))
-        return toQt(shown(list_.Heading(section)));
-    return {};
+    if (orientation != Qt::Horizontal)
+        return {};
+    const QString whole = toQt(shown(list_.Heading(section)));
+    const QString fits = elideHeading ? elideHeading(section, whole) : whole;
+    switch (role) {
+    case Qt::DisplayRole:
+        return fits;
+    case Qt::AccessibleTextRole:
+        return whole;
+    case Qt::ToolTipRole:
+        return fits == whole ? QVariant() : whole;
+    default:
+        return {};
+    }
 }
 
 Qt::ItemFlags ListboxModel::flags(const QModelIndex& /*index*/) const {

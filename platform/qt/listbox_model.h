@@ -26,8 +26,8 @@ public:
     void tellCellChanged(int row, int column);
     /// Widths, their number and the headings.
     void tellColumnsChanged();
-    /// Whether a heading does not show whole; it has a tool tip then.
-    std::function<bool(int column)> isHeadingCut;
+    /// What shows of a heading. One that does not show whole has a tool tip.
+    std::function<QString(int column, const QString& heading)> elideHeading;
     /// Of the columns that are shown.
     const std::vector<int>& widths() const { return widths_; }
 

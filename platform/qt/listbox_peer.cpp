@@ -27,7 +27,7 @@ ListboxPeer::ListboxPeer(Listbox& list, QWidget* parent)
         setModel(model_);
     }
     setUpLook();
-    model_->isHeadingCut = [this](int column) { return isHeadingCut(column); };
+    model_->elideHeading = [this](int column, const QString& heading) { return shownHeading(column, heading); };
     setEditTriggers(NoEditTriggers);
     setSelectionBehavior(SelectRows);
     setTabKeyNavigation(false);

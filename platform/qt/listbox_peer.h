@@ -60,7 +60,7 @@ private:
     void setUpLook();
     void setLetters();
     void fitLastColumn();
-    bool isHeadingCut(int column) const;
+    QString shownHeading(int column, const QString& heading) const;
     Qt::Alignment alignmentOf(int column) const;
     void bringSelection();
     void click(const QModelIndex& cell, const QPoint& place);

@@ -140,9 +140,14 @@ TEST_F(SideControlsTest, WhatIsTooLongEndsInDotsAndShowsWholeInATip) {
     ASSERT_NE(meal, nullptr);
     EXPECT_TRUE(meal->text().endsWith(QChar(0x2026))) << meal->text().toStdString();
     EXPECT_EQ(meal->toolTip(), longName);
-    const auto tip = [&](int column) { return table_->model()->headerData(column, Qt::Horizontal, Qt::ToolTipRole); };
-    EXPECT_EQ(tip(1).toString(), longName);
-    EXPECT_FALSE(tip(0).isValid()) << "the date's heading shows whole";
+    const auto heading = [&](int column, Qt::ItemDataRole role) {
+        return table_->model()->headerData(column, Qt::Horizontal, role).toString();
+    };
+    EXPECT_TRUE(heading(1, Qt::DisplayRole).endsWith(QChar(0x2026)));
+    EXPECT_EQ(heading(1, Qt::ToolTipRole), longName);
+    EXPECT_EQ(heading(1, Qt::AccessibleTextRole), longName);
+    EXPECT_EQ(heading(0, Qt::DisplayRole), "Date");
+    EXPECT_EQ(heading(0, Qt::ToolTipRole), "");
 }
 
 TEST_F(SideControlsTest, ALongListShowsTheRowThatIsSelectedAndItsWholeWidth) {

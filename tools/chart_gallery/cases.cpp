@@ -60,7 +60,7 @@ std::unique_ptr<GTGraph> lineGraph(const std::string& title, const std::function
     series.SetYRange(0, 15);
     series.XAxis().text("Day");
     series.YAxis().text("Meter Reading");
-    series.XAxis().tickIncrement(1); // automatic ticks stand 20 dots apart at every resolution
+    series.XAxis().tickIncrement(1);
     series.YAxis().tickIncrement(3);
     set(series);
     return graph;
@@ -82,9 +82,10 @@ std::unique_ptr<GTGraph> pointGraph(const std::string& title, int type) {
 }
 
 /// Three values for each of four weeks, as columns or as bars. The first week, 0, is empty and so takes the range
-/// down to 0.
+/// down to 0; the largest value, 40, and the largest sum, 50, are multiples of the increment, so that labels stand at
+/// their values.
 std::unique_ptr<GTGraph> pieceGraph(const std::string& title, int type) {
-    const std::vector<Values> weeks{{0, 0, 0}, {12, 30, 7}, {9, 34, 5}, {15, 22, 10}, {6, 38, 4}};
+    const std::vector<Values> weeks{{0, 0, 0}, {12, 30, 8}, {9, 34, 5}, {15, 22, 10}, {6, 40, 4}};
     const bool bars = type >= GTSeries::totalBar;
     auto graph = graphTitled(title);
     const auto series = std::make_shared<GTSeries>(type);
@@ -98,6 +99,7 @@ std::unique_ptr<GTGraph> pieceGraph(const std::string& title, int type) {
     }
     const bool percent = type == GTSeries::percentColumn || type == GTSeries::percentBar;
     (bars ? series->XAxis() : series->YAxis()).tickIncrement(percent ? 20 : 10);
+    (bars ? series->YAxis() : series->XAxis()).tickIncrement(1);
     if (bars) {
         series->SwapXY();
         series->fixRanges();
@@ -130,6 +132,7 @@ std::unique_ptr<GTGraph> stackedAxes() {
     const Color colors[] = {red, blue};
     for (int i = 0; i < 2; ++i) {
         GTSeries& series = add(*graph, GTSeries::line, *data[i], colors[i]);
+        series.SetYRange(i == 0 ? 7 : 89, i == 0 ? 13 : 93);
         series.YAxis().text(i == 0 ? "Meter Reading" : "Weight");
         series.XAxis().text(i == 0 ? "Day" : "Day again");
         for (GTAxis* axis : {&series.XAxis(), &series.YAxis()}) {
@@ -155,11 +158,13 @@ std::unique_ptr<GTGraph> dates() {
     series->PenColor(blue);
     const double first = Date(2026, 11, 1).TotalSeconds();
     constexpr double day = 86400;
-    for (std::size_t i = 0; i < supper.size(); ++i)
+    constexpr std::size_t days = 13; // three steps of four days from the first to the last
+    for (std::size_t i = 0; i < days; ++i)
         series->AddDataValue(first + day * static_cast<double>(i), supper[i]);
     series->XAxis().tickType(GTAxis::shortDate);
     series->XAxis().tickIncrement(4 * day);
     series->XAxis().skipLastTickLabel = true;
+    series->SetYRange(7, 13);
     series->YAxis().tickIncrement(1);
     graph->addSeries(series);
     return graph;
@@ -203,10 +208,7 @@ void addAxisCases(std::vector<GalleryCase>& cases) {
         cases.push_back({name, lineGraph(title, set)});
     };
     axes("axis_left_bottom", "Left and bottom", [](GTSeries&) {});
-    axes("axis_automatic", "Automatic ticks", [](GTSeries& s) {
-        s.XAxis().clearTickIncrement();
-        s.YAxis().clearTickIncrement();
-    });
+    axes("axis_automatic", "Automatic ticks", [](GTSeries& s) { s.YAxis().clearTickIncrement(); });
     axes("axis_right", "Right", [](GTSeries& s) { s.YAxis().right(true); });
     axes("axis_top", "Top", [](GTSeries& s) { s.XAxis().top(true); });
     cases.push_back({"axis_stacked", stackedAxes()});

@@ -19,13 +19,19 @@ constexpr int resolutions[] = {sheetResolution, 300};
 
 int dots(int points, int resolution) { return static_cast<int>(std::lround(points * resolution / 72.0)); }
 
+/// Draws a chart a little lower where needed, so that automatic labels of values stand at their values.
+void draw(GTGraph& graph, Graphics& g) {
+    graph.marginBottom += graph.plotHeight(g) % GTAxis::automaticStep;
+    graph.Draw(g);
+}
+
 bool writePictures(const FileSurfaces& surfaces, const path& out, int resolution) {
     bool written = true;
     for (const GalleryCase& chart : galleryCases(resolution)) {
         const path file = out / (chart.name + "_" + std::to_string(resolution) + ".png");
-        const auto draw = [&](Graphics& g) { chart.graph->Draw(g); };
-        written =
-            surfaces.writePicture(file, dots(pointsWide, resolution), dots(pointsHigh, resolution), draw) && written;
+        const bool done = surfaces.writePicture(file, dots(pointsWide, resolution), dots(pointsHigh, resolution),
+                                                [&](Graphics& g) { draw(*chart.graph, g); });
+        written = written && done;
     }
     return written;
 }
@@ -34,7 +40,7 @@ bool writePages(const FileSurfaces& surfaces, const path& out, int resolution) {
     const std::vector<GalleryCase> cases = galleryCases(resolution);
     std::vector<FileSurfaces::Drawing> pages;
     for (const GalleryCase& chart : cases)
-        pages.emplace_back([&chart](Graphics& g) { chart.graph->Draw(g); });
+        pages.emplace_back([&chart](Graphics& g) { draw(*chart.graph, g); });
     const path file = out / ("gallery_" + std::to_string(resolution) + ".pdf");
     return surfaces.writePdf(file, dots(pointsWide, resolution), dots(pointsHigh, resolution), resolution, pages);
 }
@@ -45,7 +51,7 @@ Picture pictureOf(GTGraph& graph) {
     Graphics& g = picture.Graphics();
     g.ForeColor(RGB(255, 255, 255));
     g.FillRect(0, 0, g.Width(), g.Height());
-    graph.Draw(g);
+    draw(graph, g);
     return picture;
 }
 
@@ -54,7 +60,7 @@ bool writeSheet(const FileSurfaces& surfaces, const path& out) {
     constexpr int columns = 4;
     constexpr int gap = 12;
     const int rows = (static_cast<int>(cases.size()) + columns - 1) / columns;
-    const auto draw = [&](Graphics& g) {
+    const auto drawAll = [&](Graphics& g) {
         g.ForeColor(RGB(225, 225, 225));
         g.FillRect(0, 0, g.Width(), g.Height());
         int place = 0;
@@ -65,7 +71,7 @@ bool writeSheet(const FileSurfaces& surfaces, const path& out) {
         }
     };
     return surfaces.writePicture(out / "contact_sheet.png", columns * (pointsWide + gap) + gap,
-                                 rows * (pointsHigh + gap) + gap, draw);
+                                 rows * (pointsHigh + gap) + gap, drawAll);
 }
 
 } // namespace
