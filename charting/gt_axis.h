@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 #include <memory>
 #include <string>
@@ -174,7 +175,9 @@ private:
             ++steps;
             v = myMin + steps * increment;
         }
-        return isBelowMaximum(v) ? myMin + std::ceil((myMax - myMin) / increment) * increment : v;
+        if (isBelowMaximum(v))
+            return myMin + std::ceil((myMax - myMin) / increment - mostRounding) * increment;
+        return std::max(v, myMax);
     }
     bool isInRange(double v) const { return v >= myMin && v <= myMax; }
 

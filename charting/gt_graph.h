@@ -72,6 +72,7 @@ public:
     void Draw(Graphics& g);
     /// The height of the plot on a surface, in its units; below 1 when there is no room for one. A whole multiple of
     /// GTAxis::automaticStep has each automatic label of a Y axis stand at its value; margins can make it one.
+    /// Measuring leaves behind what a drawing does.
     int plotHeight(const Graphics& g);
 
     int measureMyTitleHeight() const;

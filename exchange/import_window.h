@@ -30,6 +30,8 @@ public:
 
     /// Takes a file for the import, so that the user need not choose it.
     void offer(const FolderItem& file);
+    /// Whether an import is going on.
+    bool isReading() const { return reader_ != nullptr; }
 
     void Event_Open() override;
     void Event_Close() override;

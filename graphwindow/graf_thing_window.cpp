@@ -8,6 +8,16 @@
 
 namespace tallyvane {
 
+namespace {
+
+// The legend below a printed graph, in points of the page
+constexpr int firstBaseline = 480;
+constexpr int lineHeight = 20;
+constexpr std::size_t linesAColumn = 4;
+constexpr int legendBottom = firstBaseline + lineHeight * static_cast<int>(linesAColumn);
+
+} // namespace
+
 void GrafThingWindow::Event_Open() {
     setLineDefault();
     getheadings();
@@ -80,6 +90,7 @@ void GrafThingWindow::Canvas2_Action() {
     const std::unique_ptr<Graphics> g = askForPages(setup);
     if (!g)
         return;
+    g->shrinkToFit(0, legendBottom);
     {
         const WhileTrue printing(Globals::gPrintingOn);
         DayGraph::draw(*grafThing1, *g);
@@ -90,9 +101,6 @@ void GrafThingWindow::Canvas2_Action() {
 
 void GrafThingWindow::drawLegend(Graphics& g) {
     constexpr std::array<int, 2> columnLefts{70, 200};
-    constexpr int firstBaseline = 480;
-    constexpr int lineHeight = 20;
-    constexpr std::size_t linesAColumn = 4;
     g.TextSize(11);
     g.TextFont("Verdana");
     for (std::size_t i = 0; i < DayGraph::periods.size(); ++i) {
@@ -105,11 +113,11 @@ void GrafThingWindow::drawLegend(Graphics& g) {
 }
 
 void GrafThingWindow::filePrint_Action() {
-    constexpr int asFineAsThePrinter = -1;
+    constexpr int unlimited = -1; // as many dots to an inch as the paper counts
     constexpr int screenResolution = 72;
     PrinterSetup setup;
-    setup.MaxHorizontalResolution = asFineAsThePrinter;
-    setup.MaxVerticalResolution = asFineAsThePrinter;
+    setup.MaxHorizontalResolution = unlimited;
+    setup.MaxVerticalResolution = unlimited;
     const std::unique_ptr<Graphics> g = askForPages(setup);
     if (!g)
         return;

@@ -43,7 +43,7 @@ public:
     void Canvas3_Action();
     /// Prints the graph on the upper part of a page, with a legend of all test periods below.
     void Canvas2_Action();
-    /// Prints the graph on a whole page, as fine as the printer has it.
+    /// Prints the graph on a whole page, counted in the dots of the paper.
     void filePrint_Action();
 
 private:

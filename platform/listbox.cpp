@@ -172,6 +172,7 @@ void Listbox::Selected(int row, bool value) {
     }
     rows_[index(row)].selected = value;
     selectedCount_ += value ? 1 : -1;
+    closeCellBesideSelection();
     raiseChange();
 }
 
@@ -184,8 +185,14 @@ void Listbox::select(const std::vector<bool>& rows) {
         rows_[i].selected = value;
         selectedCount_ += value ? 1 : 0;
     }
+    closeCellBesideSelection();
     if (differs)
         raiseChange();
+}
+
+void Listbox::closeCellBesideSelection() {
+    if (openRow_ >= 0 && (selectedCount_ != 1 || !Selected(openRow_)))
+        closeCell();
 }
 
 void Listbox::bringIntoView(int row) {

@@ -125,7 +125,8 @@ public:
     int SelectedCount() const { return selectedCount_; }
     /// The selected rows as lines, their first so many cells with tabs between them; a tab in a cell is a blank.
     std::string selectedText(int columns) const;
-    /// Selects these rows and no other. Raises Change once when the selection differs.
+    /// Selects these rows and no other. Raises Change once when the selection differs. An open cell is closed unless
+    /// its row is the one that is selected: nobody types into a day while another is marked.
     void select(const std::vector<bool>& rows);
     /// Scrolls so that the row and as many as possible of those after it can be seen.
     void bringIntoView(int row);
@@ -230,6 +231,7 @@ private:
     RowLook& lookOf(int row);
     void setStyle(int row, int column, bool TextStyle::*part, bool on);
     void raiseChange();
+    void closeCellBesideSelection();
     void write(int row, int column, std::string_view text);
     void raiseTextChange(int row, int column);
 

@@ -21,7 +21,7 @@ public:
     // Size of the printable area, in points
     virtual double width() const = 0;
     virtual double height() const = 0;
-    /// Dots to an inch of the finest surface.
+    /// Dots to an inch that a surface counts in at most.
     virtual int resolution() const = 0;
     /// Shows the page set-up dialog. False when the user cancelled.
     virtual bool ask() = 0;
@@ -40,7 +40,7 @@ public:
     /// False when the user cancelled.
     [[nodiscard]] bool PageSetupDialog() { return paper_ && paper_->ask(); }
 
-    /// What the pages' resolution may be at most, in dots to an inch; -1 for as fine as the printer has it.
+    /// What the pages' resolution may be at most, in dots to an inch; -1 for that of the paper.
     int MaxHorizontalResolution = pointsAnInch;
     int MaxVerticalResolution = pointsAnInch;
     /// What it is, across and down alike.

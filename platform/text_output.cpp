@@ -16,12 +16,12 @@ void printText(const std::string& text, const std::string& title) {
     const std::unique_ptr<Graphics> g = OpenPrinterDialog();
     if (!g)
         return;
+    g->shrinkToFit(left + width, 0); // paper can be narrower
     if (!title.empty()) {
         g->Bold(true);
         g->DrawString(title, left, titleBaseline);
         g->Bold(false);
     }
-    g->shrinkToFit(left + width, 0);
     const double blockHeight = std::min(mostHeight, g->Height() - top); // paper can be lower
     StyledTextPrinter printer(*g, text, 540);
     printer.Width(width);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cctype>
 
 #include "platform/system_files.h"
 #include "platform/translation.h"
@@ -12,6 +13,13 @@ namespace tallyvane {
 namespace {
 
 Toolkit* theToolkit = nullptr;
+
+/// Whether a text begins so, in capitals or not; `beginning` has none.
+bool startsWithoutCase(std::string_view text, std::string_view beginning) {
+    const auto isSame = [](char a, char b) { return std::tolower(static_cast<unsigned char>(a)) == b; };
+    return text.size() >= beginning.size() &&
+           std::equal(beginning.begin(), beginning.end(), text.begin(), [&](char b, char a) { return isSame(a, b); });
+}
 
 } // namespace
 
@@ -47,7 +55,7 @@ void ShowURL(const std::string& address) {
         return;
     }
     constexpr std::array<std::string_view, 3> schemes{"http:", "https:", "mailto:"};
-    const auto startsIt = [&](std::string_view scheme) { return address.starts_with(scheme); };
+    const auto startsIt = [&](std::string_view scheme) { return startsWithoutCase(address, scheme); };
     if (std::none_of(schemes.begin(), schemes.end(), startsIt))
         MsgBox(tr("\u201c%1\u201d can't be opened: it is neither a web nor an e-mail address.", {address}));
     else if (theToolkit != nullptr && !theToolkit->openUrl(address))

@@ -32,15 +32,10 @@ std::string_view separatorIn(std::string_view text) {
     return "";
 }
 
-/// Whether an entry can be kept under that name; if not, the user is told.
-bool canKeep(std::string_view name) {
-    const std::string_view separator = separatorIn(name);
-    if (!separator.empty())
-        MsgBox(
-            tr("\u201c%1\u201d can't be kept in this list, since the file of the list puts \u201c%2\u201d between its "
-               "entries.",
-               {std::string(name), std::string(separator)}));
-    return separator.empty();
+void tellOfSeparator(const std::string& name, std::string_view separator) {
+    MsgBox(tr("\u201c%1\u201d can't be kept in this list, since the file of the list puts \u201c%2\u201d between its "
+              "entries.",
+              {name, std::string(separator)}));
 }
 
 /// A name that does not lengthen the separator that follows it in the file.
@@ -159,16 +154,20 @@ bool fileWindow::saveFileList() {
 
 void fileWindow::addFile(const FolderItem& file) {
     const std::string name = inOneLine(file.DisplayName());
-    if (!canKeep(name))
+    if (const std::string_view separator = separatorIn(name); !separator.empty()) {
+        tellOfSeparator(name, separator);
         return;
+    }
     ListBox1.AddRow(name);
     ListBox1.Cell(ListBox1.LastIndex(), targetColumn, file.GetSaveInfo());
     saveFileList();
 }
 
 void fileWindow::addLink(const std::string& link) {
-    if (!canKeep(link))
+    if (const std::string_view separator = separatorIn(link); !separator.empty()) {
+        tellOfSeparator(link, separator);
         return;
+    }
     ListBox1.AddRow(link);
     ListBox1.Cell(ListBox1.LastIndex(), targetColumn, link);
     if (saveFileList()) {
@@ -218,11 +217,12 @@ void fileWindow::ListBox1_DoubleClick() {
         file->Launch();
     else if (isMailAddress(target))
         ShowMail(target);
-    else if (target.starts_with("file:"))
-        MsgBox(tr("\u201c%1\u201d can't be opened: the file is not there any more.",
-                  {ListBox1.Cell(ListBox1.ListIndex(), nameColumn)}));
-    else if (!target.empty())
+    else if (isWebAddress(target))
         ShowURL(target);
+    else if (!target.empty())
+        MsgBox(tr(target.starts_with("file:") ? "\u201c%1\u201d can't be opened: the file is not there any more."
+                                              : "\u201c%1\u201d can't be opened: it is no file, web or e-mail address.",
+                  {ListBox1.Cell(ListBox1.ListIndex(), nameColumn)}));
 }
 
 /// A separator that is being typed into a name is refused, as it would split the entry in the file.

@@ -1,5 +1,6 @@
 #include "reports/diary_report.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "platform/text.h"
@@ -95,9 +96,12 @@ void DiaryReport::print(Graphics& g, const std::string& title, double height, Da
 void DiaryReport::printDetails(ReportPage& page, const Graphics& g) {
     page.makeRoom(0);
     if (Globals::gIncludeMeds) {
-        page.makeRoom(diary_.medLines);
+        // What is too wide for the page takes more lines than the file has.
+        const int wrapped = diary_.theMeds.empty() ? 0 : countLines2(diary_.theMeds, page.detailWidth(), g);
+        const int lines = std::max(diary_.medLines, wrapped);
+        page.makeRoom(lines);
         if (!diary_.theMeds.empty())
-            page.drawDetail(tr("Medication: "), diary_.theMeds, diary_.medLines - 1);
+            page.drawDetail(tr("Medication: "), diary_.theMeds, lines - 1);
     }
     const auto printEstimated = [&](bool included, const std::string& label, const std::string& text) {
         page.makeRoom(0);

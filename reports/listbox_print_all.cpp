@@ -31,6 +31,7 @@ void ListboxPrintAll::print(const Listbox& list, bool fitToPage) {
     const std::unique_ptr<Graphics> g = askForPages(setup);
     if (!g)
         return;
+    g->shrinkToFit(setup.Width(), setup.Height()); // the user can choose other paper in the print dialog
     int widths = 0;
     for (int column = 0; column < list.ColumnCount(); ++column)
         widths += list.WidthActual(column);

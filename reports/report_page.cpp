@@ -25,8 +25,8 @@ constexpr Color ground = RGB(209, 229, 255);
 } // namespace
 
 ReportPage::ReportPage(Graphics& g, int limit) : g_(g), limit_(limit) {
-    constexpr int linesOfAverages = 2; // that may stand below the last line of a page
-    g_.shrinkToFit(left + shadedWidth, linesTop + g_.TextHeight() * (limit_ + linesOfAverages + 1) - g_.TextAscent());
+    const double lowestBaseline = linesTop + g_.TextHeight() * (limit_ + 1); // that of the averages, at the worst
+    g_.shrinkToFit(left + shadedWidth, lowestBaseline + g_.TextHeight() - g_.TextAscent());
 }
 
 double ReportPage::detailWidth() const { return std::min(450.0, g_.Width() - detailLeft); }

@@ -66,6 +66,8 @@ void App::Event_Open() {
         giveWay();
         return;
     }
+    if (listenForSecondStart)
+        listenForSecondStart();
     PrefsModule::getPrefs();
     if (!window1_)
         return;
@@ -237,13 +239,17 @@ void App::offerForImport(const std::string& path) {
         fileToImport_ = path;
         return;
     }
-    const std::optional<FolderItem> file = GetFolderItem(path);
-    if (!file || SystemFiles::kindOf(path) != SystemFiles::Kind::file) {
+    const SystemFiles::Kind kind = SystemFiles::kindOf(path);
+    if (kind == SystemFiles::Kind::none) {
         MsgBox(tr("\u201c%1\u201d can't be imported: there is no such file.", {path}));
-        return;
+    } else if (kind != SystemFiles::Kind::file) {
+        MsgBox(tr("\u201c%1\u201d can't be imported: it is no file.", {path}));
+    } else if (import_ && import_->isReading()) {
+        MsgBox(tr("\u201c%1\u201d can't be imported while another import is going on.", {path}));
+    } else {
+        FileImportData_Action();
+        import_->offer(*GetFolderItem(path));
     }
-    FileImportData_Action();
-    import_->offer(*file);
 }
 
 // Run and end

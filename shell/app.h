@@ -39,6 +39,8 @@ public:
 
     /// What a second start does instead of starting: it asks the running program to come to the front.
     std::function<void()> wakeRunningProgram;
+    /// What the first start does once it holds the application's folder: from here on it hears a second one.
+    std::function<void()> listenForSecondStart;
 
     void Event_Open();
     void Event_Close();

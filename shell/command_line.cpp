@@ -6,6 +6,28 @@
 
 namespace tallyvane {
 
+namespace {
+
+/// The path itself where the folder that it starts from is gone.
+std::string absolutePath(const std::string& path) {
+    std::error_code failed;
+    const std::filesystem::path absolute = std::filesystem::absolute(path, failed);
+    return failed ? path : absolute.lexically_normal().string();
+}
+
+} // namespace
+
+CommandLine CommandLine::beforeToolkit(const std::vector<std::string>& arguments) {
+    std::vector<std::string> ours;
+    for (const std::string& argument : arguments) {
+        if (argument == "--")
+            break;
+        if (argument.starts_with("--"))
+            ours.push_back(argument);
+    }
+    return CommandLine(ours);
+}
+
 CommandLine::CommandLine(const std::vector<std::string>& arguments) {
     bool onlyFiles = false;
     for (const std::string& argument : arguments) {
@@ -21,7 +43,7 @@ CommandLine::CommandLine(const std::vector<std::string>& arguments) {
         else if (!file.empty())
             error = tr("tallyvane: one file of readings at a time can be imported");
         else if (!argument.empty())
-            file = std::filesystem::absolute(argument).lexically_normal().string();
+            file = absolutePath(argument);
     }
 }
 

@@ -112,10 +112,13 @@ void QtProgram::guardEvents(std::function<void(const std::function<void()>& even
     setEventGuard(std::move(guard));
 }
 
+void QtProgram::listen() {
+    parts_->channel.listen([this](const std::string& file) { deliver([&] { onWake(file); }); });
+}
+
 int QtProgram::run(const std::function<void()>& open) {
     deliver(open);
     if (!parts_->toolkit.quitAsked() && !Window::openWindows().empty()) {
-        parts_->channel.listen([this](const std::string& file) { deliver([&] { onWake(file); }); });
         inEventLoop = this;
         static_cast<void>(std::atexit(saveAtExit)); // refused only when the memory is gone
         QApplication::exec();

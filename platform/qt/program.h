@@ -30,6 +30,8 @@ public:
     /// A second start asks for the front, and hands over the file that it was called with; "" for none.
     std::function<void(const std::string& file)> onWake;
 
+    /// From here on a second start is heard. Only for the program that holds the application's folder.
+    void listen();
     /// Raises `open`, then all events until Quit. The exit code.
     int run(const std::function<void()>& open);
     /// Calls the program that runs already.

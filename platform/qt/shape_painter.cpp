@@ -80,7 +80,8 @@ bool paintsPixels(const QPainter& painter) { return painter.paintEngine()->type(
 
 bool isThick(double pen, const QPainter& painter) {
     constexpr double thick = 4; // pixels
-    return pen * std::abs(painter.deviceTransform().m11()) > thick;
+    const QTransform toPixels = painter.deviceTransform();
+    return pen * std::hypot(toPixels.m11(), toPixels.m12()) > thick;
 }
 
 ShapePainter::ShapePainter(QPainter& painter, QPointF origin) : painter_(painter), origin_(origin) {

@@ -364,6 +364,12 @@ TEST(AxisTicks, StepsThatNoBinaryNumberHoldsEndWhereTheyShould) {
     EXPECT_EQ(labels(1, 0.1, 1000), "0.0 0.1 0.2 0.3 0.4 0.5 0.6 0.7 0.8 0.9 1.0 ");
     EXPECT_EQ(labels(0.3, 0.1, 300), "0.0 0.1 0.2 0.3 ");
     EXPECT_EQ(labels(0.7, 0.1, 700), "0.0 0.1 0.2 0.3 0.4 0.5 0.6 0.7 ");
+    GTAxis day(vertical); // its closing label would be a second early, and so read 23:59
+    day.SetRange(0, 86400);
+    day.tickType(GTAxis::shortTime);
+    GraphicsRecorder g(400, 200);
+    day.render(g, 0, 0, 140);
+    EXPECT_EQ(g.calls().back().text, "00:00");
     for (int steps = 2; steps <= 100; ++steps) { // automatic ones, 20 units each
         GTAxis axis(vertical);
         axis.SetRange(0, 184.92);

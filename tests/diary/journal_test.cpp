@@ -1,4 +1,5 @@
 #include "diary/window1.h"
+#include "platform/text_output.h"
 #include "settings/globals.h"
 #include "support/failing_disk.h"
 #include "support/test_desk.h"
@@ -27,6 +28,21 @@ TEST_F(JournalTest, TheThreeButtons) {
     TextArea other;
     window.SaveJournalToDisk(other, "Save Other");
     EXPECT_EQ(toolkit_.dialogs.back(), "Save|Save Other|untitled");
+}
+
+TEST_F(JournalTest, OnNarrowPaperTheTitleStandsAboveTheText) {
+    class A5 : public Paper {
+        double width() const override { return 384; }
+        double height() const override { return 559; }
+        int resolution() const override { return 72; }
+        bool ask() override { return true; }
+    };
+    toolkit_.printerPaper = std::make_unique<A5>();
+    printText("felt well", "A title");
+    ASSERT_EQ(toolkit_.printed.size(), 2U);
+    EXPECT_EQ(toolkit_.printed[0].numbers[1], 50);
+    EXPECT_EQ(toolkit_.printed[1].numbers[1], 60 + 9);
+    EXPECT_EQ(toolkit_.lastPage.width, 525) << "both drawn smaller";
 }
 
 TEST_F(JournalTest, ANewerJournalThatAFileOverridesIsKept) {

@@ -84,6 +84,20 @@ TEST_F(CellEditorTest, NoKeyReachesTheListWhileACellIsOpen) {
     EXPECT_EQ(list().openRow(), 3);
 }
 
+TEST_F(CellEditorTest, NobodyTypesIntoADayWhileOthersAreMarked) {
+    click(3, 1);
+    QTest::keyClicks(editor(), "7");
+    list().AddRows({{"2/1/2026", "5"}, {"2/2/2026", "6"}}); // as an import does
+    std::vector<bool> added(42);
+    added[40] = added[41] = true;
+    list().select(added);
+    list().bringIntoView(40);
+    EXPECT_EQ(list().openRow(), -1);
+    QTest::keyClicks(table_, "99");
+    EXPECT_EQ(list().Cell(3, 1), "7");
+    EXPECT_TRUE(table_->viewport()->rect().contains(table_->visualRect(table_->model()->index(40, 0)).center()));
+}
+
 TEST_F(CellEditorTest, AScrollBarCoversNoWeight) {
     list().select(std::vector<bool>(40, true));
     app_->window1()->BevelButton2_Action();

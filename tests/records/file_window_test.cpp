@@ -139,6 +139,10 @@ TEST_F(FileWindowTest, WhatCannotBeKeptOrOpenedIsTold) {
     told("neither a web nor an e-mail address");
     EXPECT_TRUE(toolkit_.addresses.empty());
 
+    files_.ListBox1.Cell(1, 1, "https://example.org");
+    files_.ListBox1.DoubleClick();
+    told("no file, web or e-mail address");
+
     files_.ListBox1.CellCommandClick(0, 0);
     files_.ListBox1.userTyped("a###b", 4, 0);
     EXPECT_EQ(files_.ListBox1.Cell(0, 0), "a##b") << "it would split the entry";

@@ -122,7 +122,7 @@ TEST_F(DiaryReportTest, LandscapePagesAreLower) {
     report_.FilePrintSelected_Action();
     EXPECT_EQ(toolkit_.pageBreaks(), 1) << "the selected days are printed as on upright paper";
     EXPECT_EQ(body()[25], "704: 50 'day 25'") << "and that is drawn smaller";
-    EXPECT_GE(toolkit_.lastPage.height, 755);
+    EXPECT_GE(toolkit_.lastPage.height, 740) << "the averages may stand at 740";
     EXPECT_DOUBLE_EQ(toolkit_.lastPage.width / toolkit_.lastPage.height, 756.0 / 576) << "in both directions alike";
 }
 

@@ -211,8 +211,10 @@ TEST(CommandLine, OptionsAndAFile) {
     check({"--", "--help"}, (std::filesystem::current_path() / "--help").string(), "");
     check({"--hlep"}, "", "--hlep");
     check({"/a", "/b"}, "/a", "one file");
-    EXPECT_TRUE(CommandLine({"--help"}).help);
     EXPECT_TRUE(CommandLine({"--version", "/a"}).version);
+    const CommandLine early = CommandLine::beforeToolkit({"-platform", "xcb", "--help", "/a", "--", "--b"});
+    EXPECT_TRUE(early.help && early.error.empty() && early.file.empty());
+    EXPECT_FALSE(CommandLine::beforeToolkit({"--version", "--bogus"}).error.empty());
 }
 
 TEST_F(AppTest, MenuItemsAnswerOrAreOff) {

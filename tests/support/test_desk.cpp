@@ -23,7 +23,7 @@ public:
     explicit RecordedPaper(const bool& accepted) : accepted_(accepted) {}
     double width() const override { return letterWidth; }
     double height() const override { return letterHeight; }
-    int resolution() const override { return 300; }
+    int resolution() const override { return 96; }
     bool ask() override { return accepted_; }
 
 private:
@@ -58,8 +58,9 @@ std::unique_ptr<Graphics> RecordingToolkit::openPrinterDialog(const Paper* chose
     printDialogs.push_back(target);
     if (!printerReady)
         return nullptr;
-    return std::make_unique<RecordedPages>(printed, lastPage, chosen != nullptr ? chosen->width() : letterWidth,
-                                           chosen != nullptr ? chosen->height() : letterHeight, resolution);
+    const Paper* used = printerPaper ? printerPaper.get() : chosen;
+    return std::make_unique<RecordedPages>(printed, lastPage, used != nullptr ? used->width() : letterWidth,
+                                           used != nullptr ? used->height() : letterHeight, resolution);
 }
 
 long RecordingToolkit::pageBreaks() const {
