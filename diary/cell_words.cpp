@@ -29,8 +29,6 @@ std::string rangeName(Indicators::Range range) {
     return tr("too low");
 }
 
-} // namespace
-
 bool isDoubtful(const Listbox& table, int row, int column) {
     const std::string& text = table.Cell(row, column);
     if (text.empty())
@@ -40,21 +38,36 @@ bool isDoubtful(const Listbox& table, int row, int column) {
     return isTypedAsNumber(column) && (!isNumber(text) || Val(text) < 0);
 }
 
+/// Whether a doubtful text has no number at its start, not even 0: "HI", but not "0,9".
+bool isWord(std::string_view text) {
+    const std::size_t start = text.find_first_not_of(" +-.");
+    return start == std::string_view::npos || text[start] < '0' || text[start] > '9';
+}
+
+/// Of a reading that is a word the light shows the range of 0, which the meter need not have meant.
+std::string wordHelp(const Listbox& table, int row, int column) {
+    const std::optional<Indicators::Range> light = Indicators::rangeOf(table, row, column);
+    return light ? tr("no number: does not count, and its light shows \u201c%1\u201d whatever it means",
+                      {rangeName(*light)})
+                 : tr("no number: does not count");
+}
+
+} // namespace
+
 std::string helpTag(const Listbox& table, int row, int column) {
     if (!isDoubtful(table, row, column))
         return "";
     if (column == DayTable::dateColumn)
         return tr("can't be read as a date");
-    const double value = Val(table.Cell(row, column));
+    const std::string& text = table.Cell(row, column);
+    const double value = Val(text);
     if (value > 0)
         return tr("counts as %1", {Str(value)});
     if (column == DayTable::weightColumn)
         return tr("does not count");
     if (value < 0)
         return tr("below 0: lowers the day's average without being counted");
-    const std::optional<Indicators::Range> light = Indicators::rangeOf(table, row, column);
-    return light ? tr("no number: does not count, and its light does not mean \u201c%1\u201d", {rangeName(*light)})
-                 : tr("no number: does not count");
+    return isWord(text) ? wordHelp(table, row, column) : tr("read as 0: does not count");
 }
 
 std::string wayToWeight(const Listbox& table) {
@@ -70,8 +83,7 @@ std::string spoken(const Listbox& table, int row, int column, const std::string&
         say(table.Cell(row, column));
     say(helpTag(table, row, column));
     const std::optional<Indicators::Range> range = Indicators::rangeOf(table, row, column);
-    const bool isNoNumber = isDoubtful(table, row, column) && Val(table.Cell(row, column)) == 0;
-    if (range && !isNoNumber)
+    if (range && !(isDoubtful(table, row, column) && isWord(table.Cell(row, column)))) // whose tag has named it
         say(rangeName(*range));
     return words;
 }

@@ -8,13 +8,9 @@
 
 namespace tallyvane::CellWords {
 
-/// Whether a reading or a weight was typed that is not wholly a number, such as "5,6" or "1O", or lies below 0, or a
-/// date that can't be read.
-bool isDoubtful(const Listbox& table, int row, int column);
-
-/// What a doubtful text counts as, such as "counts as 5", and which range the light of a word such as "HI" does not
-/// mean;
-/// "" for any other cell.
+/// What a doubtful text counts as, such as "counts as 5"; "" for any other cell. Doubtful is a reading or a weight that
+/// is not wholly a number, such as "5,6" or "1O", or that lies below 0, and a date that can't be read. For a word such
+/// as "HI" it also tells that the light does not know what is meant.
 std::string helpTag(const Listbox& table, int row, int column);
 
 /// How the weight is reached from the last reading, by mouse and by keyboard, under the weight's present heading.

@@ -121,12 +121,13 @@ public:
     /// Selects that row alone; -1 selects none. Raises Change when the selection differs.
     void ListIndex(int row);
     bool Selected(int row) const { return contains(row, 0) && rows_[index(row)].selected; }
+    /// Closes an open cell as `select` does.
     void Selected(int row, bool value);
     int SelectedCount() const { return selectedCount_; }
     /// The selected rows as lines, their first so many cells with tabs between them; a tab in a cell is a blank.
     std::string selectedText(int columns) const;
     /// Selects these rows and no other. Raises Change once when the selection differs. An open cell is closed unless
-    /// its row is the one that is selected: nobody types into a day while another is marked.
+    /// its row alone is selected: nobody types into a row while another is marked.
     void select(const std::vector<bool>& rows);
     /// Scrolls so that the row and as many as possible of those after it can be seen.
     void bringIntoView(int row);
@@ -182,7 +183,8 @@ public:
     std::function<void()> Open;
     std::function<void()> Change;
     std::function<bool(int row, int column, int x, int y)> CellClick;
-    /// A key in the open cell; true when it was consumed. Control keys come as the characters 8, 9, 13, 27 to 31.
+    /// A key in the open cell; true when it was consumed. Control keys come as in TextField::KeyDown, and Tab as 9,
+    /// Return as 13, Escape as 27.
     std::function<bool(int row, int column, const std::string& key)> CellKeyDown;
     std::function<void(int row, int column)> CellTextChange;
     std::function<bool(int column)> HeaderPressed;

@@ -96,6 +96,7 @@ void InfoWindow::build() {
     for (AutoButton* button : {&Canvas2, &AutoButton3, &AutoButton4, &Canvas1})
         button->AccessibleName(button->HelpTag());
     PushButton1.Caption(tr("OK"));
+    focusFirst(ListBox1);
 }
 
 void InfoWindow::wire() {

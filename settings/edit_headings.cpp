@@ -15,14 +15,20 @@ constexpr int columnLeft(int column) { return fieldLeft + columnWidth * (column 
 constexpr Rect columnField(int column) { return {columnLeft(column), 126, columnWidth - 4, 26}; }
 constexpr Rect groupField(int first, int columns) { return {columnLeft(first), 56, columnWidth * columns - 4, 26}; }
 
-/// The bar over the table, in the main window's colours and with a light edge, so that it stands out on any ground; its
+/// The bar over the table as the main window has it, with a light edge, so that it stands out on any ground; its
 /// columns are where the fields are.
 void paintBar(Graphics& g) {
-    g.ForeColor(RGB(150, 152, 158));
+    constexpr Color edge = RGB(150, 152, 158);
+    constexpr int lightest = 52; // grey, above
+    constexpr int darkest = 18;
+    g.ForeColor(edge);
     g.FillRect(0, 0, g.Width(), g.Height());
-    g.ForeColor(RGB(36, 37, 40));
-    g.FillRect(1, 1, g.Width() - 2, g.Height() - 2);
-    g.ForeColor(RGB(150, 152, 158));
+    for (int row = 1; row < g.Height() - 1; ++row) {
+        const int grey = lightest - static_cast<int>((lightest - darkest) * row / g.Height());
+        g.ForeColor(RGB(grey, grey, grey));
+        g.FillRect(1, row, g.Width() - 2, 1);
+    }
+    g.ForeColor(edge);
     for (const int column : {3, 5, 7, 8, 9})
         g.FillRect(columnLeft(column) - fieldLeft - 2, 0, 1, g.Height());
 }

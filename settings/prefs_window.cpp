@@ -79,6 +79,7 @@ void PrefsWindow::build() {
     StaticText7.Align(TextAlign::center);
     PushButton1.Caption(tr("OK"));
     PushButton1.Default(true);
+    focusFirst(CheckBox1); // no field: each key in one takes effect at once
     Timer1.Period(100);
 }
 

@@ -18,9 +18,9 @@ public:
     CheckBox CheckBox1; // Show Indicator Lights
     // From above: a zone, then the limit between it and the next
     Canvas Canvas1, Canvas2, Canvas3, Canvas4, Canvas5;
-    Canvas LightGround; // behind the marks, whose colours are made for it
     StaticText StaticText2, StaticText3, StaticText4, StaticText5, StaticText6;
     TextField EditField1, EditField2, EditField3, EditField4;
+    Canvas LightGround; // behind the marks of the zones, whose colours are made for it
     StaticText StaticText7; // the units
     PushButton PushButton1; // OK
     Timer Timer1; // saves and closes

@@ -10,6 +10,15 @@
 
 namespace tallyvane {
 
+namespace {
+
+/// A key that leads somewhere, in a text or in a table.
+bool moves(const QKeyEvent& key) {
+    return key.key() >= Qt::Key_Home && key.key() <= Qt::Key_PageDown; // Home, End, the arrows and the Page keys
+}
+
+} // namespace
+
 CellEditor::CellEditor(Listbox& list, QWidget* parent) : Peer(list.ActiveCell(), parent), list_(&list) {
     // Light in every theme, as the list is.
     setStyleSheet(QStringLiteral("border: 1px solid #265caa; background: white; color: #10141a; padding: 0 3px;"
@@ -106,8 +115,9 @@ bool CellEditor::event(QEvent* event) {
         return QLineEdit::event(event);
     const auto& key = *static_cast<QKeyEvent*>(event);
     if (event->type() == QEvent::KeyPress) {
-        if (!takesKey(key))
-            QLineEdit::event(event);
+        const bool isUsed = takesKey(key) || (QLineEdit::event(event) && event->isAccepted());
+        if (!isUsed && moves(key))
+            QApplication::beep();
         event->accept(); // a key that climbed on would move the list's selection away from the open cell
         return true;
     }
@@ -121,7 +131,11 @@ void CellEditor::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
     const bool elsewhere = event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason ||
                            event->reason() == Qt::MenuBarFocusReason;
-    if (!elsewhere && list_ != nullptr)
+    if (list_ == nullptr)
+        return;
+    if (event->reason() == Qt::ActiveWindowFocusReason)
+        list_->confirmCell(); // going to another program saves it
+    if (!elsewhere)
         deliver([this] { list_->closeCell(); });
 }
 

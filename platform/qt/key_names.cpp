@@ -36,6 +36,8 @@ std::string nameOf(const QKeyEvent& key) {
         return Chr(11);
     case Qt::Key_PageDown:
         return Chr(12);
+    case Qt::Key_Delete:
+        return Chr(127);
     default:
         return fromQt(key.text());
     }

@@ -17,6 +17,7 @@ constexpr int headingHeight = 19;
 constexpr int headingLetters = 12;
 constexpr int scrollBarWidth = 15;
 constexpr int textMargin = 6;
+constexpr int pictureWidth = 16;
 
 constexpr Color ground = RGB(255, 255, 255);
 constexpr Color text = RGB(16, 20, 26);
@@ -93,6 +94,22 @@ QString ListboxPeer::shownHeading(int column, const QString& heading) const {
     return horizontalHeader()->fontMetrics().elidedText(heading, Qt::ElideRight, columnWidth(column) - margins);
 }
 
+bool ListboxPeer::isCellCut(int row, int column) const {
+    const int picture = column == 0 && control_->RowPicture(row) ? pictureWidth + textMargin : 0;
+    const QString whole = tallyvane::toQt(Left(control_->Cell(row, column), mostCharacters));
+    return QFontMetrics(letters(row, column)).horizontalAdvance(whole) > columnWidth(column) - 2 * textMargin - picture;
+}
+
+/// The letters of a cell, as its style sets them off.
+QFont ListboxPeer::letters(int row, int column) const {
+    const TextStyle style = control_->styleOf(row, column);
+    QFont cellFont = font();
+    cellFont.setBold(style.bold);
+    cellFont.setItalic(style.italic);
+    cellFont.setUnderline(style.underline);
+    return cellFont;
+}
+
 /// The last column leaves the scroll bar its room, whatever widths were set.
 void ListboxPeer::fitLastColumn() {
     const int last = model_->columnCount() - 1;
@@ -149,15 +166,10 @@ void ListboxPeer::drawText(QPainter& painter, const QRect& area, int row, int co
     if (drawn)
         return;
     painter.setPen(tallyvane::toQt(g.ForeColor()));
-    const TextStyle style = control_->styleOf(row, column);
-    QFont cellFont = font();
-    cellFont.setBold(style.bold);
-    cellFont.setItalic(style.italic);
-    cellFont.setUnderline(style.underline);
+    const QFont cellFont = letters(row, column);
     painter.setFont(cellFont);
     QRect place = inner.translated(-area.topLeft());
     if (const auto picture = column == 0 ? control_->RowPicture(row) : std::nullopt) {
-        constexpr int pictureWidth = 16;
         g.DrawPicture(*picture, place.left(), (area.height() - pictureWidth) / 2.0);
         place.setLeft(place.left() + pictureWidth + textMargin);
     }

@@ -36,7 +36,7 @@ QVariant ListboxModel::data(const QModelIndex& index, int role) const {
     case Qt::AccessibleTextRole:
         return toQt(spoken(index.row(), index.column()));
     case Qt::ToolTipRole:
-        return list_.CellHelpTag ? toQt(list_.CellHelpTag(index.row(), index.column())) : QVariant();
+        return toQt(tip(index.row(), index.column()));
     default:
         return {};
     }
@@ -50,18 +50,23 @@ std::string ListboxModel::spoken(int row, int column) const {
     return heading + name + shown(list_.Cell(row, column));
 }
 
+std::string ListboxModel::tip(int row, int column) const {
+    const std::string help = list_.CellHelpTag ? list_.CellHelpTag(row, column) : "";
+    return help.empty() && isCellCut && isCellCut(row, column) ? shown(list_.Cell(row, column)) : help;
+}
+
 QVariant ListboxModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation != Qt::Horizontal)
         return {};
     const QString whole = toQt(shown(list_.Heading(section)));
-    const QString fits = elideHeading ? elideHeading(section, whole) : whole;
+    const auto fits = [&] { return shownHeading ? shownHeading(section, whole) : whole; };
     switch (role) {
     case Qt::DisplayRole:
-        return fits;
+        return fits();
     case Qt::AccessibleTextRole:
         return whole;
     case Qt::ToolTipRole:
-        return fits == whole ? QVariant() : whole;
+        return fits() == whole ? QVariant() : whole;
     default:
         return {};
     }

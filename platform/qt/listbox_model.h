@@ -27,12 +27,15 @@ public:
     /// Widths, their number and the headings.
     void tellColumnsChanged();
     /// What shows of a heading. One that does not show whole has a tool tip.
-    std::function<QString(int column, const QString& heading)> elideHeading;
+    std::function<QString(int column, const QString& heading)> shownHeading;
+    /// Whether a text does not show whole. It has a tool tip then, if there is no other for its cell.
+    std::function<bool(int row, int column)> isCellCut;
     /// Of the columns that are shown.
     const std::vector<int>& widths() const { return widths_; }
 
 private:
     std::string spoken(int row, int column) const;
+    std::string tip(int row, int column) const;
 
     const Listbox& list_;
     int rows_ = 0;

@@ -27,7 +27,8 @@ ListboxPeer::ListboxPeer(Listbox& list, QWidget* parent)
         setModel(model_);
     }
     setUpLook();
-    model_->elideHeading = [this](int column, const QString& heading) { return shownHeading(column, heading); };
+    model_->shownHeading = [this](int column, const QString& heading) { return shownHeading(column, heading); };
+    model_->isCellCut = [this](int row, int column) { return isCellCut(row, column); };
     setEditTriggers(NoEditTriggers);
     setSelectionBehavior(SelectRows);
     setTabKeyNavigation(false);
@@ -102,6 +103,11 @@ void ListboxPeer::cellChanged(int row, int column) {
 
 void ListboxPeer::selectionChanged() {
     bringSelection();
+    if (!userSelects_ && control_->SelectedCount() > 0 && !control_->Selected(currentIndex().row())) {
+        // The keys of the list are for what is marked, not for where the user has been before.
+        const QModelIndex first = model_->index(control_->ListIndex(), std::max(0, currentIndex().column()));
+        selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+    }
     if (control_->SelectedCount() == 1)
         scrollTo(model_->index(control_->ListIndex(), std::max(0, currentIndex().column())));
 }
@@ -122,7 +128,7 @@ void ListboxPeer::bringSelection() {
 
 void ListboxPeer::hintGiven(const std::string& hint) {
     editor_->setAccessibleDescription(tallyvane::toQt(hint));
-    QToolTip::showText(editor_->mapToGlobal(editor_->rect().bottomLeft()), tallyvane::toQt(hint), editor_);
+    QToolTip::showText(editor_->mapToGlobal(editor_->rect().bottomLeft()), tallyvane::toQt(hint), viewport());
 }
 
 void ListboxPeer::bringIntoView(int row) { scrollTo(model_->index(row, 0), PositionAtTop); }
@@ -172,6 +178,7 @@ void ListboxPeer::selectionChanged(const QItemSelection& selected, const QItemSe
     for (const QItemSelectionRange& range : selectionModel()->selection())
         for (int row = range.top(); row <= range.bottom(); ++row)
             rows[static_cast<std::size_t>(row)] = true;
+    const QScopedValueRollback selecting(userSelects_, true);
     deliver([&] { control_->select(rows); });
     viewport()->update();
 }

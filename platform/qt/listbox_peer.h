@@ -61,6 +61,8 @@ private:
     void setLetters();
     void fitLastColumn();
     QString shownHeading(int column, const QString& heading) const;
+    bool isCellCut(int row, int column) const;
+    QFont letters(int row, int column) const;
     Qt::Alignment alignmentOf(int column) const;
     void bringSelection();
     void click(const QModelIndex& cell, const QPoint& place);
@@ -79,6 +81,7 @@ private:
     QModelIndex pressed_;
     bool pressedWithCommand_ = false;
     bool bringingSelection_ = false; // from the list to the view, not the other way
+    bool userSelects_ = false;
 };
 
 } // namespace tallyvane

@@ -63,7 +63,7 @@ void StaticTextPeer::sync() {
         setPalette(colors);
 }
 
-/// A line that is too long ends in dots, and shows whole in the tool tip.
+/// A line that is too long ends in dots, and shows whole in the tool tip. Labels keep their width.
 void StaticTextPeer::showText() {
     const QString whole = tallyvane::toQt(Left(control_->Text(), mostCharacters));
     setText(control_->Multiline() ? whole : fontMetrics().elidedText(whole, Qt::ElideRight, control_->Width()));
@@ -94,7 +94,6 @@ void CanvasPeer::paintEvent(QPaintEvent* /*event*/) {
     if (hasFocus()) {
         QStyleOptionFocusRect focus;
         focus.initFrom(this);
-        focus.state |= QStyle::State_KeyboardFocusChange; // else a window that has just opened shows none
         style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
     }
 }
@@ -194,7 +193,8 @@ BevelButtonPeer::BevelButtonPeer(BevelButton& button, QWidget* parent) : Peer(bu
 }
 
 void BevelButtonPeer::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    const bool presses = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (presses && !event->isAutoRepeat())
         click();
     else
         QToolButton::keyPressEvent(event);

@@ -31,10 +31,10 @@ bool isForTheWindow(int key) {
            key == Qt::Key_Escape;
 }
 
-/// With Shift or Ctrl it does so too.
-bool movesCursor(int key) {
+/// A key that moves the cursor or deletes. With Shift or Ctrl it does so too, and is no shortcut of the window.
+bool worksInFields(int key) {
     return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down ||
-           key == Qt::Key_Home || key == Qt::Key_End;
+           key == Qt::Key_Home || key == Qt::Key_End || key == Qt::Key_Delete || key == Qt::Key_Backspace;
 }
 
 } // namespace
@@ -74,9 +74,8 @@ bool TextFieldPeer::consumes(const std::string& key) {
 
 void TextFieldPeer::keyPressEvent(QKeyEvent* event) {
     const std::string key = nameOf(*event);
-    const bool isOffered = movesCursor(event->key()) || !isShortcut(*event);
-    const bool isForTheField = !key.empty() && isOffered && !isForTheWindow(event->key());
-    if (!isForTheField || !consumes(key))
+    const bool isForTheField = worksInFields(event->key()) || (!isShortcut(*event) && !isForTheWindow(event->key()));
+    if (key.empty() || !isForTheField || !consumes(key))
         QLineEdit::keyPressEvent(event);
 }
 
@@ -126,12 +125,13 @@ void TextAreaPeer::contextMenuEvent(QContextMenuEvent* event) {
     menu->exec(event->globalPos());
 }
 
-/// Puts what may have been meant by a misspelled word at the top of the menu.
+/// Nothing from a clipboard whose owner is gone: it has no form at all, and Qt would end the program over it.
 void TextAreaPeer::insertFromMimeData(const QMimeData* source) {
     if (source != nullptr && !source->formats().isEmpty())
         QPlainTextEdit::insertFromMimeData(source);
 }
 
+/// Puts what may have been meant by a misspelled word at the top of the menu.
 void TextAreaPeer::offerSpellings(QMenu& menu, QTextCursor place) {
     constexpr int most = 6;
     const QString line = place.block().text();

@@ -61,10 +61,10 @@ Qt::WindowFlags flagsOf(Window::Kind kind) {
 /// get hold of lies on a screen: the one on which it stood may be gone.
 QPoint withinReach(QPoint place, QSize size) {
     constexpr QSize hold(48, 16);
-    constexpr int titleHeight = 24;
+    constexpr int titleHeight = 24; // about; the desktop does not tell before the window is shown
     const QRect title(place, QSize(size.width(), titleHeight));
     for (const QScreen* screen : QGuiApplication::screens()) {
-        const QSize seen = screen->geometry().intersected(title).size();
+        const QSize seen = screen->availableGeometry().intersected(title).size();
         if (seen.expandedTo(hold) == seen)
             return place;
     }
@@ -130,6 +130,7 @@ WindowFrame::WindowFrame(Window& window, QWidget* owner, std::function<Window*()
         window, [this] { tellBounds(); }, this);
     // Frames count from the left. A table that Qt turned around would have its readings under the wrong headings.
     setLayoutDirection(Qt::LeftToRight);
+    setAttribute(Qt::WA_KeyboardFocusChange); // where the keys go is seen from the first moment
     setContextMenuPolicy(Qt::NoContextMenu); // Qt's own would hide the toolbar
     if (window.kind() == Window::Kind::dialog)
         setWindowModality(Qt::ApplicationModal);

@@ -29,8 +29,10 @@ TEST_F(CellWordsTest, ACellSaysWhatItIsAndWhereItStands) {
     check(3, "", "Before Lunch, 11/22/2026");
     check(2, "5,6", "After Breakfast, 11/22/2026, 5,6, counts as 5, in target zone", "counts as 5");
     check(5, "7.2x", "Before Supper, 11/22/2026, 7.2x, counts as 7.2, in target zone", "counts as 7.2");
-    const std::string noNumber = "no number: does not count, and its light does not mean \u201ctoo low\u201d";
-    check(5, "HI", "Before Supper, 11/22/2026, HI, " + noNumber, noNumber);
+    const std::string noNumber = "no number: does not count, and its light shows \u201ctoo low\u201d whatever it means";
+    for (const std::string word : {"HI", "LO", "-"})
+        check(5, word.c_str(), "Before Supper, 11/22/2026, " + word + ", " + noNumber, noNumber);
+    check(5, "0,9", "Before Supper, 11/22/2026, 0,9, read as 0: does not count, too low", "read as 0: does not count");
     const std::string negative = "below 0: lowers the day's average without being counted";
     check(5, "-5", "Before Supper, 11/22/2026, -5, " + negative + ", too low", negative);
     check(9, "80 kg", "Weight, 11/22/2026, 80 kg, counts as 80", "counts as 80");

@@ -27,15 +27,15 @@ click_from_bottom 550 426
 type_reading 7 8.8
 xdotool key Tab
 type_reading 7 9
+before=$(average_under 7)
 xdotool key Escape
-sleep 0.2
+until_true strip_differs 7 "$before"
 
 # By the keyboard on to the weight, as the line at the cell says.
 click_from_bottom 550 411
 xdotool key Tab Return Right Right Return
 xdotool type 777
 xdotool key Return
-sleep 0.2
 
 go_to_another_program
 until_true grep -q '@#@777@#@' "$days"
@@ -45,7 +45,7 @@ until_true grep -q '@#@777@#@' "$days"
 [[ $(row 7) == *'@#@777@#@'* ]] || fail "the seventh row: $(row 7)"
 [[ $(grep -c '@#@5@#@@#@@#@@#@@#@@#@@#@5.0' "$days") == 37 ]] || fail "another day was changed: $(cat "$days")"
 
-# The weights end before the scroll bar begins: its column has no letters' colour (that of weights is 0, 75, 127).
+# The weights end before the scroll bar begins: there nothing has their colour, which is 0, 75, 127.
 come_back
 eval "$(xdotool getwindowgeometry --shell "$window" | grep HEIGHT)"
 import -window "$window" -crop "15x220+731+$((HEIGHT - 470))" "$home/bar.png"

@@ -33,7 +33,7 @@ in_front
 # Preferences: the first limit and the switch, closed by Return, which is "OK".
 xdotool key ctrl+comma
 side_window Preferences
-xdotool key Tab Tab ctrl+a
+xdotool key Tab ctrl+a
 xdotool type 18x0 # the letter is refused
 close_by Preferences Return
 until_true holds "Brindlemarks Preferences" "$(printf 'true\n180\n9\n5\n3\nfalse\nfalse\nfalse\n%s\nApplicationSupport' "$folder")"

@@ -93,8 +93,9 @@ TEST_F(CellEditorTest, NobodyTypesIntoADayWhileOthersAreMarked) {
     list().select(added);
     list().bringIntoView(40);
     EXPECT_EQ(list().openRow(), -1);
-    QTest::keyClicks(table_, "99");
+    QTest::keyClick(table_, Qt::Key_F2); // opens the date of the day that is marked
     EXPECT_EQ(list().Cell(3, 1), "7");
+    EXPECT_EQ(table_->currentIndex().row(), 40) << "and keys go to the first that is marked";
     EXPECT_TRUE(table_->viewport()->rect().contains(table_->visualRect(table_->model()->index(40, 0)).center()));
 }
 
@@ -115,6 +116,17 @@ TEST_F(CellEditorTest, EscapeTakesTheTypingBack) {
     EXPECT_EQ(list().Cell(5, 2), "6");
     EXPECT_EQ(list().Cell(5, 8), "5.5");
     EXPECT_FALSE(editor()->isVisible());
+}
+
+TEST_F(CellEditorTest, WhatAnotherProgramHasSeenSavedIsNotTakenBack) {
+    click(5, 2);
+    QTest::keyClicks(editor(), "7.7");
+    QFocusEvent leaves(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+    QCoreApplication::sendEvent(editor(), &leaves);
+    EXPECT_EQ(list().openRow(), 5) << "the cell stays open";
+    QTest::keyClicks(editor(), "9");
+    QTest::keyClick(editor(), Qt::Key_Escape);
+    EXPECT_EQ(list().Cell(5, 2), "7.7");
 }
 
 TEST_F(CellEditorTest, PastedLinesBecomeOneLine) {

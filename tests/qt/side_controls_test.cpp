@@ -34,7 +34,8 @@ TEST_F(SideControlsTest, AFieldRefusesKeysAndTakesAPasteInOneLine) {
     QTest::keyClicks(field, "1x8,0");
     QTest::keyClick(field, Qt::Key_Home);
     for (const Qt::KeyboardModifier held : {Qt::ShiftModifier, Qt::ControlModifier})
-        QTest::keyClick(field, Qt::Key_Left, held);
+        for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Delete})
+            QTest::keyClick(field, key, held);
     EXPECT_EQ(prefs.EditField1.Text(), "180");
     EXPECT_EQ(field->cursorPosition(), 3) << "the keys were refused";
     EXPECT_FALSE(field->hasSelectedText());
