@@ -16,6 +16,19 @@ std::optional<FolderItem> file() {
     return folder ? folder->Child(DataFiles::dayTable) : std::nullopt;
 }
 
+UnsavedFiles::UserFile userFile() {
+    const std::optional<FolderItem>& folder = StartupGlobals::gDataFolder;
+    return {tr("Your days"), std::string(DataFiles::dayTable),
+            folder ? DataFiles::placeIn(*folder, DataFiles::dayTable) : std::nullopt};
+}
+
+std::string textOf(const Listbox& table) {
+    TextWriter rows;
+    for (int row = 0; row < table.ListCount(); ++row)
+        rows.WriteFields(table.cells(row).first(savedColumns), DataFiles::fieldSeparator);
+    return rows.text();
+}
+
 } // namespace
 
 void setUp(Listbox& table) {
@@ -38,15 +51,9 @@ void addDay(Listbox& table, const Date& day) {
     table.EditCell(table.LastIndex(), firstReading);
 }
 
-void save(const Listbox& table) {
-    TextWriter rows;
-    for (int row = 0; row < table.ListCount(); ++row)
-        rows.WriteFields(table.cells(row).first(savedColumns), DataFiles::fieldSeparator);
-    const std::optional<FolderItem>& folder = StartupGlobals::gDataFolder;
-    UnsavedFiles::save({tr("Your days"), std::string(DataFiles::dayTable),
-                        folder ? DataFiles::placeIn(*folder, DataFiles::dayTable) : std::nullopt},
-                       rows.text());
-}
+void save(const Listbox& table) { UnsavedFiles::save(userFile(), textOf(table)); }
+
+void wasRead(const Listbox& table) { UnsavedFiles::wasRead(userFile(), textOf(table)); }
 
 bool load(Listbox& table) {
     std::optional<TextInputStream> stream = DataFiles::openText(file());

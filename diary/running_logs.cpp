@@ -28,13 +28,15 @@ std::string keep(const std::string& journal) {
     }
 }
 
+UnsavedFiles::UserFile userFile() {
+    return UnsavedFiles::UserFile::ofApplication(tr("The journal and the logs"), DataFiles::runningLogs);
+}
+
 } // namespace
 
-void save() {
-    UnsavedFiles::save({tr("The journal and the logs"), std::string(DataFiles::runningLogs),
-                        DataFiles::applicationFileToWrite(DataFiles::runningLogs)},
-                       logRecord());
-}
+bool save() { return UnsavedFiles::save(userFile(), logRecord()); }
+
+void wasRead() { UnsavedFiles::wasRead(userFile(), logRecord()); }
 
 std::string load(const std::function<void(std::string)>& showJournal) {
     std::string journal;

@@ -7,8 +7,10 @@
 namespace tallyvane::RunningLogs {
 
 /// Writes the four globals as one line. When the file can't be had they wait among the unsaved files; so they do when
-/// the disk fails, which throws IOException.
-void save();
+/// the disk fails, which throws IOException. False while they wait.
+bool save();
+/// Takes down that the globals, as they stand, are what was read.
+void wasRead();
 
 /// Reads the logs into their globals, as they stand in the file; `showJournal` gets the journal with real line ends,
 /// and after that the whole of the file "Tallyvane Journal" if there is one, which wins. A journal that would be lost

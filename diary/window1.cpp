@@ -35,6 +35,7 @@ void Window1::Event_Open() {
         Top(50);
     if (Left() < 0)
         Left(0);
+    DayTable::wasRead(ListBox1);
 }
 
 void Window1::Event_Close() {
@@ -68,13 +69,14 @@ void Window1::getData() {
 }
 
 void Window1::saveLogs() {
-    RunningLogs::save();
-    savedLogs_ = logRecord();
+    if (RunningLogs::save())
+        savedLogs_ = logRecord();
 }
 
 void Window1::getLogs() {
     keptJournal = RunningLogs::load([this](const std::string& journal) { JournalFld.Text(journal); });
     savedLogs_ = logRecord();
+    RunningLogs::wasRead();
 }
 
 void Window1::getDetails(int row) {

@@ -211,6 +211,8 @@ std::string Date::LongTime() const { return DateSource::text(*this, DateSource::
 
 std::string Date::isoDate() const { return padded(Year(), 4) + '-' + padded(Month(), 2) + '-' + padded(Day(), 2); }
 
+std::string Date::isoTime() const { return padded(Hour(), 2) + ':' + padded(Minute(), 2) + ':' + padded(Second(), 2); }
+
 double Date::TotalSeconds() const {
     const auto days = (sys_days(day_) - origin).count();
     return static_cast<double>(days) * secondsADay + secondsOfDay_;

@@ -38,6 +38,8 @@ public:
     double TotalSeconds() const;
     /// "2026-11-22", in every locale.
     std::string isoDate() const;
+    /// "14:05:09", likewise.
+    std::string isoTime() const;
 
     int Hour() const { return secondsOfDay_ / 3600; }
     int Minute() const { return secondsOfDay_ / 60 % 60; }

@@ -6,6 +6,7 @@
 #include <stdexcept>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace tallyvane {
 
@@ -28,6 +29,13 @@ enum class Kind { none, file, folder, other };
 
 /// What stands at a path. A link is what it leads to.
 Kind kindOf(const std::string& path);
+
+/// Makes a folder that only its owner can enter, and all folders that it lacks above it. Those that can't be made are
+/// missed by whoever writes there.
+void makeFolders(const std::string& path);
+
+/// The names of what a folder holds, sorted; none for what is no folder or can't be read.
+[[nodiscard]] std::vector<std::string> namesIn(const std::string& path);
 
 /// Makes a folder that only its owner can enter. False when it could not be made.
 [[nodiscard]] bool makeFolder(const std::string& path);

@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -221,6 +222,25 @@ Kind kindOf(const std::string& path) {
 }
 
 bool makeFolder(const std::string& path) { return !hasNul(path) && ::mkdir(path.c_str(), ownerOnlyFolder) == 0; }
+
+void makeFolders(const std::string& path) {
+    for (std::size_t end = path.find('/', 1); end != std::string::npos; end = path.find('/', end + 1))
+        static_cast<void>(makeFolder(path.substr(0, end))); // mostly it is there
+    static_cast<void>(makeFolder(path));
+}
+
+std::vector<std::string> namesIn(const std::string& path) {
+    std::vector<std::string> names;
+    DIR* const folder = hasNul(path) ? nullptr : ::opendir(path.c_str());
+    if (folder == nullptr)
+        return names;
+    while (const dirent* entry = ::readdir(folder))
+        if (const std::string name = entry->d_name; name != "." && name != "..")
+            names.push_back(name);
+    ::closedir(folder);
+    std::sort(names.begin(), names.end());
+    return names;
+}
 
 void removeEmptyFolder(const std::string& path) {
     if (!hasNul(path))

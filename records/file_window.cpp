@@ -116,10 +116,9 @@ void fileWindow::Event_Close() {
 
 void fileWindow::getFileList() {
     const std::optional<FolderItem> file = DataFiles::innerFile(DataFiles::resources);
-    if (!file || !file->Exists())
-        return;
-    listFile = file;
-    std::optional<TextInputStream> stream = file->OpenAsTextFile();
+    if (file && file->Exists())
+        listFile = file;
+    std::optional<TextInputStream> stream = UnsavedFiles::openText(UnsavedFiles::innerName(DataFiles::resources), file);
     if (!stream)
         return;
     std::string_view text = stream->ReadAll();
@@ -135,8 +134,10 @@ void fileWindow::getFileList() {
 }
 
 bool fileWindow::saveFileList() {
-    if (ListBox1.ListCount() == 0)
+    if (ListBox1.ListCount() == 0) {
+        UnsavedFiles::forget(UnsavedFiles::innerName(DataFiles::resources)); // what waits has been removed since
         return false;
+    }
     TextWriter list;
     for (int row = 0; row < ListBox1.ListCount(); ++row) {
         if (row > 0)
@@ -146,8 +147,8 @@ bool fileWindow::saveFileList() {
         list.Write(ListBox1.Cell(row, targetColumn));
     }
     list.WriteLine("");
-    const std::string name = std::string(DataFiles::applicationName) + "/" + std::string(DataFiles::resources);
-    return UnsavedFiles::save({tr("The links"), name, DataFiles::innerFileToWrite(DataFiles::resources)}, list.text());
+    return UnsavedFiles::save(UnsavedFiles::UserFile::ofInnerFolder(tr("The links"), DataFiles::resources),
+                              list.text());
 }
 
 // Adding and removing

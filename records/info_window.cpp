@@ -16,6 +16,9 @@ namespace {
 
 constexpr int addressColumn = 4;
 
+std::string team() { return tr("The care team"); }
+std::string schedule() { return tr("The medication schedule"); }
+
 struct CellPlace {
     int row;
     int column;
@@ -52,6 +55,8 @@ void openWhole(Listbox& list, CellPlace cell) {
 void InfoWindow::Event_Open() {
     getContacts();
     getMeds();
+    RowFile::wasRead(ListBox1, team(), DataFiles::contacts);
+    RowFile::wasRead(ListBox2, schedule(), DataFiles::medications);
 }
 
 void InfoWindow::Event_Close() { saveBoth(); }
@@ -67,9 +72,9 @@ void InfoWindow::getContacts() {
 
 void InfoWindow::getMeds() { RowFile::load(ListBox2, DataFiles::medications, false); }
 
-void InfoWindow::saveContacts() { RowFile::save(ListBox1, tr("The care team"), DataFiles::contacts); }
+void InfoWindow::saveContacts() { RowFile::save(ListBox1, team(), DataFiles::contacts); }
 
-void InfoWindow::saveMeds() { RowFile::save(ListBox2, tr("The medication schedule"), DataFiles::medications); }
+void InfoWindow::saveMeds() { RowFile::save(ListBox2, schedule(), DataFiles::medications); }
 
 void InfoWindow::PushButton1_Action() {
     saveBoth();

@@ -14,6 +14,10 @@ namespace {
 constexpr unsigned lockAll = lockLeft | lockTop | lockRight | lockBottom;
 constexpr Rect fieldFrame{30, 108, 560, 330};
 
+UnsavedFiles::UserFile userFile() {
+    return UnsavedFiles::UserFile::ofInnerFolder(tr("The logs"), DataFiles::runningLogs);
+}
+
 } // namespace
 
 logsWindow::logsWindow() {
@@ -60,7 +64,8 @@ std::array<logsWindow::Page, 3> logsWindow::pages() {
 }
 
 void logsWindow::getLogs() {
-    std::optional<TextInputStream> stream = DataFiles::openText(DataFiles::innerFile(DataFiles::runningLogs));
+    std::optional<TextInputStream> stream = UnsavedFiles::openText(UnsavedFiles::innerName(DataFiles::runningLogs),
+                                                                   DataFiles::innerFile(DataFiles::runningLogs));
     if (!stream)
         return;
     const LogRecord record = readLogRecord(*stream);
@@ -76,6 +81,7 @@ void logsWindow::getLogs() {
 void logsWindow::Event_Open() {
     getLogs();
     savedRecord_ = logRecord();
+    UnsavedFiles::wasRead(userFile(), savedRecord_);
 }
 
 void logsWindow::saveChanged() {
@@ -85,9 +91,8 @@ void logsWindow::saveChanged() {
 
 void logsWindow::saveLogs() {
     const std::string record = logRecord();
-    const std::string name = std::string(DataFiles::applicationName) + "/" + std::string(DataFiles::runningLogs);
-    UnsavedFiles::save({tr("The logs"), name, DataFiles::innerFileToWrite(DataFiles::runningLogs)}, record);
-    savedRecord_ = record;
+    if (UnsavedFiles::save(userFile(), record))
+        savedRecord_ = record;
 }
 
 void logsWindow::saveToDisk(const TextArea& field, const std::string& prompt) {

@@ -7,7 +7,7 @@
 namespace tallyvane::RowFile {
 
 bool load(Listbox& list, std::string_view name, bool replace) {
-    std::optional<TextInputStream> stream = DataFiles::openText(DataFiles::applicationFile(name));
+    std::optional<TextInputStream> stream = UnsavedFiles::openText(name, DataFiles::applicationFile(name));
     if (!stream)
         return false;
     if (replace)
@@ -21,12 +21,24 @@ bool load(Listbox& list, std::string_view name, bool replace) {
     return true;
 }
 
-void save(const Listbox& list, const std::string& what, std::string_view name) {
+namespace {
+
+std::string textOf(const Listbox& list) {
     TextWriter rows;
     const auto columns = static_cast<std::size_t>(list.ColumnCount());
     for (int row = 0; row < list.ListCount(); ++row)
         rows.WriteFields(list.cells(row).first(columns), DataFiles::fieldSeparator);
-    UnsavedFiles::save({what, std::string(name), DataFiles::applicationFileToWrite(name)}, rows.text());
+    return rows.text();
+}
+
+} // namespace
+
+void save(const Listbox& list, const std::string& what, std::string_view name) {
+    UnsavedFiles::save(UnsavedFiles::UserFile::ofApplication(what, name), textOf(list));
+}
+
+void wasRead(const Listbox& list, const std::string& what, std::string_view name) {
+    UnsavedFiles::wasRead(UnsavedFiles::UserFile::ofApplication(what, name), textOf(list));
 }
 
 } // namespace tallyvane::RowFile

@@ -16,6 +16,8 @@ bool load(Listbox& list, std::string_view name, bool replace);
 /// Writes all columns; `what` is the list as the user knows it. When the file can't be had the rows wait among the
 /// unsaved files; so they do when the disk fails, which throws IOException.
 void save(const Listbox& list, const std::string& what, std::string_view name);
+/// Takes down that the list, as it stands, is what was read.
+void wasRead(const Listbox& list, const std::string& what, std::string_view name);
 
 } // namespace RowFile
 

@@ -85,6 +85,11 @@ void EditHeadings::fill(const Headings& headings) {
         fields()[i]->Text(headings[i]);
 }
 
+void EditHeadings::Event_Open() {
+    getHeadings();
+    headingsWereRead(texts());
+}
+
 void EditHeadings::getHeadings() {
     if (const std::optional<Headings> headings = readHeadings())
         fill(*headings);

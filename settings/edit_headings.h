@@ -26,7 +26,7 @@ public:
     /// Shows headings in the main window.
     std::function<void(const Headings& headings)> showHeadings;
 
-    void Event_Open() override { getHeadings(); }
+    void Event_Open() override;
     void Event_Close() override { SaveHeadings(); }
 
     void getHeadings();

@@ -12,7 +12,8 @@ Headings defaultHeadings() {
 }
 
 std::optional<Headings> readHeadings() {
-    std::optional<TextInputStream> stream = DataFiles::openText(DataFiles::applicationFile(DataFiles::headings));
+    std::optional<TextInputStream> stream =
+        UnsavedFiles::openText(DataFiles::headings, DataFiles::applicationFile(DataFiles::headings));
     if (!stream)
         return std::nullopt;
     Headings headings;
@@ -21,13 +22,23 @@ std::optional<Headings> readHeadings() {
     return headings;
 }
 
-void saveHeadings(const Headings& headings) {
+namespace {
+
+UnsavedFiles::UserFile userFile() {
+    return UnsavedFiles::UserFile::ofApplication(tr("The headings"), DataFiles::headings);
+}
+
+std::string textOf(const Headings& headings) {
     TextWriter lines;
     for (const std::string& heading : headings)
         lines.WriteLine(heading);
-    UnsavedFiles::save(
-        {tr("The headings"), std::string(DataFiles::headings), DataFiles::applicationFileToWrite(DataFiles::headings)},
-        lines.text());
+    return lines.text();
 }
+
+} // namespace
+
+void saveHeadings(const Headings& headings) { UnsavedFiles::save(userFile(), textOf(headings)); }
+
+void headingsWereRead(const Headings& headings) { UnsavedFiles::wasRead(userFile(), textOf(headings)); }
 
 } // namespace tallyvane

@@ -17,5 +17,7 @@ Headings defaultHeadings();
 [[nodiscard]] std::optional<Headings> readHeadings();
 /// Writes the file, a heading a line. Nothing when it can't be had; throws IOException when the disk fails.
 void saveHeadings(const Headings& headings);
+/// Takes down that these are what was read.
+void headingsWereRead(const Headings& headings);
 
 } // namespace tallyvane

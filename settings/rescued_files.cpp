@@ -1,7 +1,11 @@
 #include "settings/rescued_files.h"
 
+#include <algorithm>
+
+#include "platform/date.h"
 #include "platform/system_files.h"
 #include "platform/text.h"
+#include "platform/translation.h"
 #include "settings/data_files.h"
 #include "settings/unsaved_files.h"
 
@@ -9,36 +13,26 @@ namespace tallyvane::RescuedFiles {
 
 namespace {
 
-constexpr const char* setName = "Unsaved";
+constexpr std::string_view folderBeginning = "Unsaved ";
+constexpr const char* settledEnding = " not taken";
 
 std::optional<FolderItem> stateFolder() {
     return SpecialFolder::State ? SpecialFolder::State->Child(DataFiles::applicationName) : std::nullopt;
 }
 
-std::string pathIn(const Set& set, const std::string& name) { return set.folder.AbsolutePath() + "/" + name; }
-
-std::string contentOf(const Set& set, const Rescued& file) {
-    std::optional<std::string> content = SystemFiles::read(pathIn(set, file.name));
-    if (!content)
-        throw IOException("can't read " + pathIn(set, file.name));
-    return std::move(*content);
+/// The folders of the ends of the program, the oldest first.
+std::vector<FolderItem> folders() {
+    std::vector<FolderItem> found;
+    const std::optional<FolderItem> state = stateFolder();
+    if (!state)
+        return found;
+    for (const std::string& name : SystemFiles::namesIn(state->AbsolutePath()))
+        if (const auto folder = state->Child(name); name.starts_with(folderBeginning) && folder && folder->Directory())
+            found.push_back(*folder);
+    return found;
 }
 
-/// Keeps what stands at a place under another name beside it.
-void keepPresent(const std::string& place, const std::string& newText, const Date& today) {
-    const std::string present = SystemFiles::read(place).value_or("");
-    if (present.empty() || present == newText)
-        return;
-    const std::size_t slash = place.rfind('/');
-    const std::optional<FolderItem> folder = GetFolderItem(place.substr(0, slash));
-    const std::optional<FolderItem> copy =
-        folder ? DataFiles::freePlace(*folder, place.substr(slash + 1) + " before " + today.isoDate()) : std::nullopt;
-    if (!copy)
-        throw IOException("no place beside " + place);
-    SystemFiles::write(copy->AbsolutePath(), present);
-}
-
-/// Those of its list that were written.
+/// What a folder still holds of its list.
 std::vector<Rescued> filesIn(const FolderItem& folder) {
     std::vector<Rescued> files;
     std::optional<TextInputStream> list = DataFiles::openText(folder.Child(UnsavedFiles::listName));
@@ -47,62 +41,99 @@ std::vector<Rescued> filesIn(const FolderItem& folder) {
         Rescued file;
         for (std::string* field : {&file.what, &file.name, &file.place})
             *field = fields.next();
-        if (SystemFiles::kindOf(folder.AbsolutePath() + "/" + file.name) == SystemFiles::Kind::file)
+        file.keptAt = folder.AbsolutePath() + "/" + file.name;
+        file.when = folder.Name().substr(folderBeginning.size());
+        if (SystemFiles::kindOf(file.keptAt) == SystemFiles::Kind::file)
             files.push_back(std::move(file));
     }
     return files;
 }
 
-void takeAway(const Set& set) {
-    for (const Rescued& file : set.files)
-        static_cast<void>(SystemFiles::remove(pathIn(set, file.name)));
-    static_cast<void>(SystemFiles::remove(pathIn(set, std::string(UnsavedFiles::listName))));
-    SystemFiles::removeEmptyFolder(pathIn(set, std::string(DataFiles::applicationName)));
-    SystemFiles::removeEmptyFolder(set.folder.AbsolutePath());
+/// All that was kept, the oldest first.
+std::vector<Rescued> allKept() {
+    std::vector<Rescued> kept;
+    for (const FolderItem& folder : folders())
+        for (Rescued& file : filesIn(folder))
+            kept.push_back(std::move(file));
+    return kept;
+}
+
+bool isSameFile(const Rescued& a, const Rescued& b) { return a.name == b.name && a.place == b.place; }
+
+/// Gives a kept file the name by which it is not offered again. Its path from here on.
+std::string settle(const Rescued& file) {
+    for (int number = 1;; ++number) {
+        const std::string path = DataFiles::numbered(file.keptAt + settledEnding, number);
+        if (SystemFiles::kindOf(path) != SystemFiles::Kind::none)
+            continue;
+        return SystemFiles::rename(file.keptAt, path) ? path : file.keptAt;
+    }
+}
+
+/// Takes a folder away that holds no file any more but its list.
+void removeIfDone(const FolderItem& folder) {
+    SystemFiles::removeEmptyFolder(folder.AbsolutePath() + "/" + std::string(DataFiles::applicationName));
+    const std::vector<std::string> left = SystemFiles::namesIn(folder.AbsolutePath());
+    if (left != std::vector<std::string>{std::string(UnsavedFiles::listName)})
+        return;
+    static_cast<void>(SystemFiles::remove(folder.AbsolutePath() + "/" + left.front()));
+    SystemFiles::removeEmptyFolder(folder.AbsolutePath());
 }
 
 } // namespace
 
 void keep() {
-    if (!SpecialFolder::State)
+    if (!SpecialFolder::State || UnsavedFiles::all().empty())
         return;
-    const std::string path = SpecialFolder::State->AbsolutePath() + "/" + std::string(DataFiles::applicationName);
-    for (const std::string& folder : {SpecialFolder::State->AbsolutePath(), path})
-        static_cast<void>(SystemFiles::makeFolder(folder)); // mostly it is there
-    if (const std::optional<FolderItem> state = stateFolder())
-        static_cast<void>(UnsavedFiles::saveInto(*state, setName)); // what it does not take stays unsaved
+    SystemFiles::makeFolders(SpecialFolder::State->AbsolutePath() + "/" + std::string(DataFiles::applicationName));
+    const std::vector<Rescued> kept = offered();
+    const std::vector<UnsavedFiles::Unsaved> unsaved = UnsavedFiles::all();
+    for (const auto& [file, text, why] : unsaved) // an end like the one before it
+        if (std::any_of(kept.begin(), kept.end(), [&, name = file.name, &content = text](const Rescued& before) {
+                return before.name == name && SystemFiles::read(before.keptAt) == content;
+            }))
+            UnsavedFiles::forget(file.name);
+    const Date now;
+    const std::string name = std::string(folderBeginning) + now.isoDate() + " " + now.isoTime();
+    if (const std::optional<FolderItem> state = stateFolder(); state && !UnsavedFiles::all().empty())
+        static_cast<void>(UnsavedFiles::saveInto(*state, name)); // what it does not take stays unsaved
 }
 
-std::vector<Set> sets() {
-    std::vector<Set> found;
-    const std::optional<FolderItem> state = stateFolder();
-    for (int number = 1; state; ++number) {
-        const std::optional<FolderItem> folder = state->Child(DataFiles::numbered(setName, number));
-        if (!folder || !folder->Directory())
-            break;
-        found.push_back({*folder, filesIn(*folder)});
+std::vector<Rescued> offered() {
+    std::vector<Rescued> newest;
+    for (Rescued& file : allKept()) {
+        const auto known =
+            std::find_if(newest.begin(), newest.end(), [&](const Rescued& other) { return isSameFile(other, file); });
+        if (known == newest.end())
+            newest.push_back(std::move(file));
+        else
+            *known = std::move(file);
     }
-    return found;
+    return newest;
 }
 
-void putInPlace(const Set& set, const Date& today) {
-    for (const Rescued& file : set.files) {
-        const std::string content = contentOf(set, file);
-        if (file.place.empty())
-            throw IOException("no place for " + file.name);
-        keepPresent(file.place, content, today);
-        SystemFiles::write(file.place, content);
-    }
-    takeAway(set);
+void putInPlace(const Rescued& file) {
+    const std::optional<std::string> content = SystemFiles::read(file.keptAt);
+    if (!content)
+        throw IOException("can't read " + file.keptAt, tr("what was kept can't be read"));
+    if (file.place.empty())
+        throw IOException("no place for " + file.name, tr("the desktop has no folder for it"));
+    UnsavedFiles::keepPresent(file.place, *content);
+    SystemFiles::write(file.place, *content);
+    static_cast<void>(SystemFiles::remove(file.keptAt));
+    for (const Rescued& older : allKept())
+        if (isSameFile(older, file))
+            settle(older);
+    for (const FolderItem& folder : folders())
+        removeIfDone(folder);
 }
 
-std::string setAside(const Set& set, const Date& today) {
-    const std::optional<FolderItem> state = stateFolder();
-    const std::optional<FolderItem> place =
-        state ? DataFiles::freePlace(*state, "Not taken " + today.isoDate()) : std::nullopt;
-    if (!place || !set.folder.Name(place->Name()))
-        return set.folder.AbsolutePath();
-    return place->AbsolutePath();
+std::string setAside(const Rescued& file) {
+    std::string path;
+    for (const Rescued& kept : allKept())
+        if (isSameFile(kept, file))
+            path = settle(kept);
+    return path;
 }
 
 } // namespace tallyvane::RescuedFiles

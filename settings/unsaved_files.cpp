@@ -1,7 +1,9 @@
 #include "settings/unsaved_files.h"
 
 #include <algorithm>
+#include <map>
 
+#include "platform/date.h"
 #include "platform/system_files.h"
 #include "platform/translation.h"
 #include "settings/data_files.h"
@@ -10,38 +12,54 @@ namespace tallyvane::UnsavedFiles {
 
 namespace {
 
-std::vector<Unsaved>& waiting() {
-    static std::vector<Unsaved> files;
-    return files;
+/// What is known of a file since it was read.
+struct Read {
+    std::string text; // that a save would write if nothing had changed
+    bool isInTheWay = false; // something stood there that could not be read
+};
+
+struct State {
+    std::vector<Unsaved> waiting;
+    std::map<std::string, Read> read; // by name
+};
+
+/// Never destroyed: a lost display saves after all other objects are gone.
+State& state() {
+    static auto* const instance = new State;
+    return *instance;
 }
 
-void forget(const std::string& name) {
-    std::erase_if(waiting(), [&](const Unsaved& unsaved) { return unsaved.file.name == name; });
+const Unsaved* waitingFor(std::string_view name) {
+    const std::vector<Unsaved>& waiting = state().waiting;
+    const auto isIt = [&](const Unsaved& unsaved) { return unsaved.file.name == name; };
+    const auto found = std::find_if(waiting.begin(), waiting.end(), isIt);
+    return found == waiting.end() ? nullptr : &*found;
+}
+
+const Read* readOf(const std::string& name) {
+    const auto found = state().read.find(name);
+    return found == state().read.end() ? nullptr : &found->second;
 }
 
 void remember(const UserFile& file, const std::string& text, const std::string& why) {
-    const auto isIt = [&](const Unsaved& unsaved) { return unsaved.file.name == file.name; };
-    const auto known = std::find_if(waiting().begin(), waiting().end(), isIt);
-    if (known == waiting().end())
-        waiting().push_back({file, text, why});
+    if (const Unsaved* known = waitingFor(file.name))
+        state().waiting[static_cast<std::size_t>(known - state().waiting.data())] = {file, text, why};
     else
-        *known = {file, text, why};
+        state().waiting.push_back({file, text, why});
 }
 
-/// Makes the text the content of a file. Why that can't be, for the user; nothing when nothing is lost. Throws
-/// IOException when writing fails.
+/// Makes the text the content of a file. Why that can't be, for the user; nothing when it is done. Throws IOException
+/// when writing fails.
 std::optional<std::string> writeOrTellWhy(const std::optional<FolderItem>& place, const std::string& text) {
     if (!place)
-        return text.empty() ? std::nullopt : std::optional(tr("the desktop has no folder for it"));
+        return tr("the desktop has no folder for it");
     const std::string& path = place->AbsolutePath();
     std::string why;
     if (const auto file = SystemFiles::Replacement::open(path, &why)) {
         file->replace(text);
         return std::nullopt;
     }
-    const bool isThere = SystemFiles::read(path) == text;
-    const bool isNoLoss = text.empty() && SystemFiles::kindOf(path) == SystemFiles::Kind::none;
-    return isThere || isNoLoss ? std::nullopt : std::optional(why);
+    return SystemFiles::read(path) == text ? std::nullopt : std::optional(why);
 }
 
 std::string listOf(const std::vector<Unsaved>& files) {
@@ -55,24 +73,59 @@ std::string listOf(const std::vector<Unsaved>& files) {
 
 } // namespace
 
+std::string innerName(std::string_view name) {
+    return std::string(DataFiles::applicationName) + "/" + std::string(name);
+}
+
+UserFile UserFile::ofApplication(std::string what, std::string_view name) {
+    return {std::move(what), std::string(name), DataFiles::applicationFileToWrite(name)};
+}
+
+UserFile UserFile::ofInnerFolder(std::string what, std::string_view name) {
+    return {std::move(what), innerName(name), DataFiles::innerFileToWrite(name)};
+}
+
+void wasRead(const UserFile& file, const std::string& text) {
+    if (waitingFor(file.name) != nullptr) // that was read, and no disk has it
+        return;
+    const std::string path = file.place ? file.place->AbsolutePath() : "";
+    const bool isThere = SystemFiles::kindOf(path) != SystemFiles::Kind::none;
+    state().read[file.name] = {text, isThere && !SystemFiles::read(path)};
+}
+
 bool save(const UserFile& file, const std::string& text) {
+    const Read* read = readOf(file.name);
+    const bool hasChanged = read == nullptr || read->text != text;
+    const bool isInTheWay = read != nullptr && read->isInTheWay;
+    if (isInTheWay && !hasChanged)
+        return true;
     try {
+        if (isInTheWay && file.place)
+            keepPresent(file.place->AbsolutePath(), text);
         const std::optional<std::string> why = writeOrTellWhy(file.place, text);
-        if (why)
+        if (why && hasChanged)
             remember(file, text, *why);
         else
             forget(file.name);
+        if (!why)
+            state().read[file.name] = {text, false};
         return !why;
     } catch (const IOException& failure) {
-        remember(file, text, failure.why());
+        if (hasChanged)
+            remember(file, text, failure.why());
         throw;
     }
 }
 
-const std::vector<Unsaved>& all() { return waiting(); }
+std::optional<TextInputStream> openText(std::string_view name, const std::optional<FolderItem>& place) {
+    const Unsaved* unsaved = waitingFor(name);
+    return unsaved != nullptr ? TextInputStream(unsaved->text) : DataFiles::openText(place);
+}
+
+const std::vector<Unsaved>& all() { return state().waiting; }
 
 void tryAgain() {
-    const std::vector<Unsaved> files = waiting();
+    const std::vector<Unsaved> files = state().waiting;
     for (const Unsaved& unsaved : files) {
         try {
             save(unsaved.file, unsaved.text);
@@ -85,7 +138,7 @@ std::optional<FolderItem> saveInto(const FolderItem& folder, const std::string& 
     const std::optional<FolderItem> target = DataFiles::freePlace(folder, name);
     if (!target || !target->CreateAsFolder())
         return std::nullopt;
-    const std::vector<Unsaved> files = waiting();
+    const std::vector<Unsaved> files = state().waiting;
     try {
         SystemFiles::write(DataFiles::placeIn(*target, listName)->AbsolutePath(), listOf(files));
     } catch (const IOException&) {
@@ -94,7 +147,7 @@ std::optional<FolderItem> saveInto(const FolderItem& folder, const std::string& 
     }
     for (const Unsaved& unsaved : files) {
         const std::string path = target->AbsolutePath() + "/" + unsaved.file.name;
-        static_cast<void>(SystemFiles::makeFolder(path.substr(0, path.rfind('/')))); // mostly it is there
+        SystemFiles::makeFolders(path.substr(0, path.rfind('/')));
         try {
             SystemFiles::write(path, unsaved.text);
             forget(unsaved.file.name);
@@ -104,6 +157,23 @@ std::optional<FolderItem> saveInto(const FolderItem& folder, const std::string& 
     return target;
 }
 
-void forgetAll() { waiting().clear(); }
+void forget(const std::string& name) {
+    std::erase_if(state().waiting, [&](const Unsaved& unsaved) { return unsaved.file.name == name; });
+}
+
+void forgetAll() { state() = {}; }
+
+void keepPresent(const std::string& place, const std::string& newText) {
+    const std::string present = SystemFiles::read(place).value_or("");
+    if (present.empty() || present == newText)
+        return;
+    const std::size_t slash = place.rfind('/');
+    const std::optional<FolderItem> folder = GetFolderItem(place.substr(0, slash));
+    const std::string name = place.substr(slash + 1) + " before " + Date().isoDate();
+    const std::optional<FolderItem> copy = folder ? DataFiles::freePlace(*folder, name) : std::nullopt;
+    if (!copy)
+        throw IOException("no place beside " + place, tr("the folder is not there"));
+    SystemFiles::write(copy->AbsolutePath(), present);
+}
 
 } // namespace tallyvane::UnsavedFiles

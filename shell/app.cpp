@@ -68,6 +68,10 @@ void App::Event_Open() {
     }
     if (listenForSecondStart)
         listenForSecondStart();
+    if (!UnsavedWork::offerRescued()) { // before anything is read
+        Quit(1);
+        return;
+    }
     PrefsModule::getPrefs();
     if (!window1_)
         return;
@@ -137,7 +141,7 @@ void App::bringUpMainWindow() {
         giveWay();
         return;
     }
-    if (!UnsavedWork::offerRescued(Date()) || !tableIsReady()) {
+    if (!tableIsReady()) {
         Quit(1);
         return;
     }
@@ -264,21 +268,28 @@ void App::run(const std::function<void()>& event) {
 
 bool App::Event_UnhandledException() {
     // Going to another program to make room for the diary saves again, and may fail again: one message is enough.
-    if (std::exchange(showingException_, true))
+    if (showingException_)
         return false;
+    const WhileTrue showing(showingException_);
     MsgBox(tr("An error has occured. You should quit Tallyvane now to save your data."));
-    showingException_ = false;
     return false;
 }
 
 void App::Event_Deactivate() {
-    if (!window1_)
+    if (!window1_ || asksAboutUnsaved_)
         return;
     const auto saveOpenLogs = [this] {
         if (logs_ && logs_->isOpen())
             logs_->saveChanged();
     };
-    saveEach({[this] { window1_->saveChanged(); }, saveOpenLogs});
+    try {
+        saveEach({[this] { window1_->saveChanged(); }, saveOpenLogs});
+        UnsavedFiles::tryAgain();
+        toldOfFailedSave_ = false;
+    } catch (const IOException&) { // told once until a save succeeds, not at each look at another program
+        if (!std::exchange(toldOfFailedSave_, true))
+            throw;
+    }
 }
 
 void App::Event_EndRequested() {
@@ -291,14 +302,21 @@ void App::Event_EndRequested() {
 
 /// What no disk has taken is the user's to decide, or is kept for the next start. The exit code.
 int App::settleUnsaved(int code) {
+    UnsavedFiles::tryAgain(); // an hour after a full disk there may be room
     if (UnsavedFiles::all().empty())
         return code;
     if (!endsUnasked_) {
         const WhileTrue asking(asksAboutUnsaved_);
-        UnsavedWork::ask();
+        switch (UnsavedWork::ask()) {
+        case UnsavedWork::Outcome::saved:
+            return code;
+        case UnsavedWork::Outcome::givenUp:
+            return 1;
+        case UnsavedWork::Outcome::unanswered:
+            break;
+        }
     }
-    if (endsUnasked_)
-        RescuedFiles::keep();
+    RescuedFiles::keep();
     return UnsavedFiles::all().empty() ? code : 1;
 }
 

@@ -99,6 +99,7 @@ private:
 
     Toolbar1 toolbar_;
     bool showingException_ = false;
+    bool toldOfFailedSave_ = false; // since the last save that succeeded
     bool asksAboutUnsaved_ = false;
     bool endsUnasked_ = false;
     std::vector<std::unique_ptr<SystemFiles::FolderClaim>> claims_;

@@ -37,79 +37,97 @@ void saveElsewhere() {
         MsgBox(tr("Nothing can be saved in \u201c%1\u201d.", {folder->AbsolutePath()}));
 }
 
-std::string listOf(const RescuedFiles::Set& set) {
+std::string listOf(const std::vector<RescuedFiles::Rescued>& files) {
     std::string list;
-    for (const RescuedFiles::Rescued& file : set.files)
-        list.append("\n").append(tr("%1: %2", {file.what, file.place}));
+    for (const RescuedFiles::Rescued& file : files)
+        list.append("\n").append(tr("%1, kept %2: %3", {file.what, file.when, file.place}));
     return list;
 }
 
-void putInPlaceOrTell(const RescuedFiles::Set& set, const Date& today) {
-    try {
-        RescuedFiles::putInPlace(set, today);
-    } catch (const IOException& failure) {
-        MsgBox(
-            tr("The files can't be put in their places: %1\n\nThey stay in \u201c%2\u201d and will be offered again.",
-               {failure.why().empty() ? failure.what() : failure.why(), set.folder.AbsolutePath()}));
+void putInPlace(const std::vector<RescuedFiles::Rescued>& files) {
+    std::string failures;
+    for (const RescuedFiles::Rescued& file : files) {
+        try {
+            RescuedFiles::putInPlace(file);
+        } catch (const IOException& failure) {
+            failures.append("\n").append(tr("%1: %2", {file.what, failure.why()})).append("\n").append(file.keptAt);
+        }
     }
+    if (!failures.empty())
+        MsgBox(tr("These can't be put in their places. They stay where they are kept, and will be offered again:\n%1",
+                  {failures}));
+}
+
+void setAside(const std::vector<RescuedFiles::Rescued>& files) {
+    std::string list;
+    for (const RescuedFiles::Rescued& file : files)
+        list.append("\n").append(tr("%1: %2", {file.what, RescuedFiles::setAside(file)}));
+    MsgBox(tr("They are kept:\n%1", {list}));
+}
+
+/// Something stands there that is not what belongs there.
+bool isInTheWay(const std::optional<FolderItem>& place, SystemFiles::Kind wanted) {
+    const SystemFiles::Kind kind = place ? SystemFiles::kindOf(place->AbsolutePath()) : SystemFiles::Kind::none;
+    return kind != SystemFiles::Kind::none && kind != wanted;
 }
 
 } // namespace
 
-void ask() {
+Outcome ask() {
     enum Choice : std::size_t { tryAgain, elsewhere, giveUp };
     while (!UnsavedFiles::all().empty()) {
         const std::optional<std::size_t> choice =
             Ask(tr("Not everything could be saved.%1", {listOfUnsaved()}),
                 {tr("Try Again"), tr("Save Elsewhere..."), tr("Quit Without Saving")}, tryAgain);
-        if (!choice || *choice == giveUp)
-            return;
+        if (!choice)
+            return Outcome::unanswered;
+        if (*choice == giveUp)
+            return Outcome::givenUp;
         if (*choice == tryAgain)
             UnsavedFiles::tryAgain();
         else
             saveElsewhere();
     }
+    return Outcome::saved;
 }
 
-bool offerRescued(const Date& today) {
-    for (const RescuedFiles::Set& set : RescuedFiles::sets()) {
-        if (set.files.empty())
-            continue;
-        const Answer answer =
-            Ask(tr("When Tallyvane was ended, these files could not be saved in their places, and were kept in "
-                   "\u201c%1\u201d:"
-                   "\n%2\n\nDo you want to put them in their places now? What stands there is kept beside them.",
-                   {set.folder.AbsolutePath(), listOf(set)}),
-                tr("Put Them in Place"), tr("Go On Without Them"));
-        if (answer == Answer::none)
-            return false;
-        if (answer == Answer::yes)
-            putInPlaceOrTell(set, today);
-        else
-            MsgBox(tr("They are kept in \u201c%1\u201d.", {RescuedFiles::setAside(set, today)}));
-    }
-    return true;
+bool offerRescued() {
+    const std::vector<RescuedFiles::Rescued> files = RescuedFiles::offered();
+    if (files.empty())
+        return true;
+    const Answer answer = Ask(tr("When Tallyvane was ended, these files could not be saved in their places:\n%1\n\nDo "
+                                 "you want to put them in their places now? What stands there is kept beside them.",
+                                 {listOf(files)}),
+                              tr("Put Them in Place"), tr("Go On Without Them"));
+    if (answer == Answer::yes)
+        putInPlace(files);
+    else if (answer == Answer::no)
+        setAside(files);
+    return answer != Answer::none;
 }
 
 void tellOfUnreadable() {
     using namespace DataFiles;
+    using enum SystemFiles::Kind;
     constexpr std::array names{preferences, headings, runningLogs, journal, contacts, medications};
-    std::vector<std::optional<FolderItem>> files;
-    const std::optional<FolderItem>& folder = StartupGlobals::gDataFolder;
-    files.push_back(folder ? folder->Child(dayTable) : std::nullopt);
+    std::vector<std::optional<FolderItem>> inTheWay;
+    const auto look = [&](const std::optional<FolderItem>& place, SystemFiles::Kind wanted) {
+        if (isInTheWay(place, wanted))
+            inTheWay.push_back(place);
+    };
+    const std::optional<FolderItem>& days = StartupGlobals::gDataFolder;
+    look(days ? days->Child(dayTable) : std::nullopt, file);
     for (const std::string_view name : names)
-        files.push_back(applicationFile(name));
+        look(applicationFile(name), file);
+    look(applicationFile(applicationName), folder);
     for (const std::string_view name : {runningLogs, resources})
-        files.push_back(innerFile(name));
+        look(innerFile(name), file);
     std::string list;
-    for (const std::optional<FolderItem>& file : files) {
-        const SystemFiles::Kind kind = file ? SystemFiles::kindOf(file->AbsolutePath()) : SystemFiles::Kind::none;
-        if (kind == SystemFiles::Kind::folder || kind == SystemFiles::Kind::other)
-            list.append("\n").append(file->AbsolutePath());
-    }
+    for (const std::optional<FolderItem>& place : inTheWay)
+        list.append("\n").append(place->AbsolutePath());
     if (!list.empty())
-        MsgBox(tr("This can't be read or saved, since what stands in its place is no file. Move it away, then start "
-                  "Tallyvane again:\n%1",
+        MsgBox(tr("This can't be read or saved, since something else stands in its place. Close Tallyvane, move that "
+                  "away, then start it again:\n%1",
                   {list}));
 }
 

@@ -2,16 +2,19 @@
 /// start after an end with nobody to ask.
 #pragma once
 
-#include "platform/date.h"
-
 namespace tallyvane::UnsavedWork {
 
-/// Asks what to do about the files that still wait for a disk, until none waits or the user gives them up. It ends also
-/// when the program is ended meanwhile.
-void ask();
+enum class Outcome {
+    saved, // in their places, or elsewhere
+    givenUp,
+    unanswered, // the program was ended meanwhile
+};
 
-/// Offers what was kept at an end with nobody to ask. False when the program was ended meanwhile.
-[[nodiscard]] bool offerRescued(const Date& today);
+/// Asks what to do about the files that still wait for a disk, until none waits or the user gives them up.
+[[nodiscard]] Outcome ask();
+
+/// Offers what was kept at an end with nobody to ask. False when the program was ended before the user had answered.
+[[nodiscard]] bool offerRescued();
 
 /// Tells of the user's files in whose place stands something that can be neither read nor written.
 void tellOfUnreadable();

@@ -33,14 +33,18 @@ clean_up() {
 }
 trap clean_up EXIT
 
-exec 3>"$home/display"
-# A server that starts over when a client leaves it alone would throw out the window manager that is just coming.
-Xvfb -noreset -displayfd 3 -screen 0 "$((1280 * scale))x$((1024 * scale))x24" >/dev/null 2>&1 &
-display_server=$!
-until_true grep -q . "$home/display"
-export DISPLAY=":$(cat "$home/display")"
-openbox >/dev/null 2>&1 &
-until_true xdotool get_desktop
+open_display() {
+    exec 3>"$home/display"
+    # A server that starts over when a client leaves it alone would throw out the window manager that is just coming.
+    Xvfb -noreset -displayfd 3 -screen 0 "$((1280 * scale))x$((1024 * scale))x24" >/dev/null 2>&1 &
+    display_server=$!
+    until_true grep -q . "$home/display"
+    export DISPLAY=":$(cat "$home/display")"
+    openbox >/dev/null 2>&1 &
+    until_true xdotool get_desktop
+}
+
+open_display
 
 start() {
     "$program" 2>"$home/errors" &

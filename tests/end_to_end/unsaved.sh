@@ -7,6 +7,8 @@ export XDG_STATE_HOME="$home/state" HOME="$home"
 folder="$home/data/Tallyvane"
 mkdir -p "$folder" "$home/stick"
 
+asked_anew() { asked && [[ $(xdotool getwindowfocus) != "$question" ]]; }
+
 asked() { has_keys Tallyvane && [[ $(xdotool getwindowfocus) != "$window" ]]; }
 
 # What stands in the table's place is a folder: told at the start.
@@ -21,9 +23,9 @@ xdotool key ctrl+q
 until_true asked
 
 # Once more, in vain; then into another folder.
+question=$(xdotool getwindowfocus)
 xdotool key Return
-sleep 0.3
-until_true asked
+until_true asked_anew
 xdotool key Right Return
 answer 'Select a folder to save in' "$home/stick"
 until_true asked
@@ -41,8 +43,8 @@ xdotool key alt+F4
 until_true asked
 kill -TERM "$pid"
 ends_well
-kept="$XDG_STATE_HOME/Tallyvane/Unsaved/7VXData"
-[[ $(stat -c %a "$kept") == 600 ]] || fail "not kept for the owner alone"
+kept=("$XDG_STATE_HOME"/Tallyvane/Unsaved*/7VXData)
+[[ $(stat -c %a "${kept[0]}") == 600 ]] || fail "not kept for the owner alone"
 rmdir "$days"
 "$program" 2>"$home/errors" &
 pid=$!
@@ -53,7 +55,7 @@ in_front
 xdotool key ctrl+q
 ends_well
 grep -q '@#@5\.6@#@7@#@' "$days" || fail "not put in place: $(cat "$days")"
-[[ ! -e $kept ]] || fail "still kept"
+[[ ! -e ${kept[0]} ]] || fail "still kept"
 
 # A window's place that can't be written is no reason for a question.
 rm -f "$folder/QVXWindowData"

@@ -36,7 +36,7 @@ protected:
         next.Event_Open();
         return toolkit_.questions;
     }
-    std::filesystem::path kept() const { return folder_ / "state" / "Tallyvane" / "Unsaved"; }
+    std::filesystem::path kept() const { return folder_ / "state" / "Tallyvane" / "Unsaved 2026-11-22 12:00:00"; }
 
     std::unique_ptr<App> app_;
 };
@@ -58,19 +58,54 @@ TEST_F(AppEndTest, WhatCannotBeSavedIsAskedAboutOnceAndNeverTrapsTheUser) {
 }
 
 TEST_F(AppEndTest, AFullDiskIsTriedAgainAndTheWindowsPlaceNeverStopsTheEnd) {
-    {
-        const FailingDisk disk(FailingDisk::Call::reserve, 0, false);
-        toolkit_.answers = {};
-        app_->FileQuit_Action();
-    }
+    std::optional<FailingDisk> disk(std::in_place, FailingDisk::Call::reserve, 0, false);
+    toolkit_.answers = {0};
+    toolkit_.onQuestion = [&] { disk.reset(); }; // the user makes room before the answer
+    app_->FileQuit_Action();
     ASSERT_EQ(toolkit_.questions.size(), 1U);
     EXPECT_NE(toolkit_.questions[0].find("Your days: No space left on device"), std::string::npos);
     EXPECT_NE(toolkit_.questions[0].find("The journal and the logs: No space"), std::string::npos);
     EXPECT_EQ(toolkit_.questions[0].find("QVXWindowData"), std::string::npos);
-    EXPECT_EQ(toolkit_.quits, std::vector<int>{1});
-    UnsavedFiles::tryAgain();
-    EXPECT_TRUE(UnsavedFiles::all().empty());
+    EXPECT_EQ(toolkit_.quits, std::vector<int>{0});
     EXPECT_TRUE(isWhole(applicationFile("7VXData")));
+    EXPECT_EQ(read(applicationFile("QVXLogData")), "@#@@#@felt well@#@\n");
+}
+
+TEST_F(AppEndTest, WhatWaitsIsReadWhenItsWindowOpensAgain) {
+    app_->window1()->showLogs();
+    std::filesystem::create_directory(applicationFile("Tallyvane"));
+    std::filesystem::create_directory(applicationFile("Tallyvane") / "QVXLogData");
+    app_->logs()->FoodFld.userTyped("bread");
+    app_->logs()->Close();
+    app_->window1()->showLogs();
+    EXPECT_EQ(app_->logs()->FoodFld.Text(), "bread");
+    toolkit_.answers = {2};
+    app_->FileQuit_Action();
+    ASSERT_EQ(toolkit_.questions.size(), 1U);
+    EXPECT_NE(toolkit_.questions[0].find("The logs: a folder"), std::string::npos);
+}
+
+TEST_F(AppEndTest, WhatCouldNotBeReadIsNotReplacedUnseen) {
+    const auto startBlocked = [this] {
+        app_.reset();
+        StartupGlobals::gDataFolder.reset();
+        UnsavedFiles::forgetAll();
+        std::filesystem::create_directories(applicationFile("7VXData"));
+        app_ = std::make_unique<App>();
+        app_->Event_Open();
+        unblockTable(); // the user brings the real file back
+        write(applicationFile("7VXData"), "11/21/2026@#@7\n");
+    };
+    startBlocked();
+    app_->FileQuit_Action();
+    EXPECT_EQ(read(applicationFile("7VXData")), "11/21/2026@#@7\n") << "nothing was typed";
+    std::filesystem::remove(applicationFile("7VXData"));
+
+    startBlocked();
+    app_->window1()->BevelButton1_Action();
+    app_->FileQuit_Action();
+    EXPECT_EQ(read(applicationFile("7VXData before 2026-11-22")), "11/21/2026@#@7\n");
+    EXPECT_TRUE(toolkit_.questions.empty());
 }
 
 TEST_F(AppEndTest, SavedElsewhereNothingIsLostAndNothingReplaced) {
@@ -105,17 +140,35 @@ TEST_F(AppEndTest, ASignalKeepsWhatIsUnsavedForTheNextStart) {
     EXPECT_TRUE(offered(0).empty());
 }
 
+TEST_F(AppEndTest, OfEachFileTheLastThatWasKeptIsOfferedAndNothingTwice) {
+    blockTable();
+    app_->Event_EndRequested();
+    const std::filesystem::path older = folder_ / "state" / "Tallyvane" / "Unsaved 2026-11-20 09:00:00";
+    write(older / "7VXData", "11/20/2026@#@4\n");
+    write(older / "QVXLogData", "@#@@#@an older journal@#@\n");
+    write(older / "Places", "Your days@#@7VXData@#@" + applicationFile("7VXData").string() +
+                                "\nThe journal and the logs@#@QVXLogData@#@" + applicationFile("QVXLogData").string() +
+                                "\n");
+    EXPECT_EQ(offered(0).size(), 1U);
+    EXPECT_NE(toolkit_.messages.back().find("Your days: a folder of that name stands there"), std::string::npos);
+    EXPECT_EQ(read(applicationFile("QVXLogData")), "@#@@#@an older journal@#@\n") << "what can be is put in place";
+    unblockTable();
+    ASSERT_EQ(offered(0).size(), 1U);
+    EXPECT_EQ(toolkit_.questions[0].find("QVXLogData"), std::string::npos) << "and not a second time";
+    EXPECT_TRUE(isWhole(applicationFile("7VXData"))) << "the newer one";
+    EXPECT_TRUE(offered(0).empty());
+    EXPECT_EQ(read(older / "7VXData not taken"), "11/20/2026@#@4\n");
+}
+
 TEST_F(AppEndTest, WhatTheUserDoesNotWantBackIsKeptAndNotOfferedAgain) {
     blockTable();
     app_->Event_EndRequested();
-    EXPECT_EQ(offered(0).size(), 1U) << "still blocked";
-    EXPECT_NE(toolkit_.messages.back().find("a folder of that name stands there"), std::string::npos);
-    EXPECT_TRUE(isWhole(kept() / "7VXData"));
     unblockTable();
     EXPECT_EQ(offered(1).size(), 1U);
+    EXPECT_NE(toolkit_.messages.back().find((kept() / "7VXData not taken").string()), std::string::npos);
     EXPECT_TRUE(offered(1).empty());
     EXPECT_FALSE(std::filesystem::exists(applicationFile("7VXData")));
-    EXPECT_TRUE(isWhole(folder_ / "state" / "Tallyvane" / "Not taken 2026-11-22" / "7VXData"));
+    EXPECT_TRUE(isWhole(kept() / "7VXData not taken"));
 }
 
 } // namespace

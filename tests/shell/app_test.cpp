@@ -178,6 +178,7 @@ TEST_F(AppTest, AFolderThatTakesNoFilesIsBorneInSilence) {
     app_.Event_Deactivate();
     PrefsModule::savePrefs();
     EXPECT_TRUE(toolkit_.messages.empty());
+    toolkit_.answers = {2}; // quit without saving
     app_.FileQuit_Action();
     EXPECT_EQ(toolkit_.questions.size(), 1U) << "until the end";
     EXPECT_EQ(toolkit_.quits, std::vector<int>{1});
@@ -312,10 +313,10 @@ TEST_F(AppTest, AFileThatCannotBeSavedDoesNotCostTheOthers) {
         const FailingDisk disk(FailingDisk::Call::reserve); // once: under the main window
         Quit(0);
     }
-    EXPECT_EQ(toolkit_.questions.size(), 1U);
+    EXPECT_TRUE(toolkit_.questions.empty()) << "it is tried once more before anybody is asked";
     EXPECT_EQ(read(applicationFile("7VXHeadings")).substr(0, 5), "Dawn\n");
     EXPECT_EQ(read(applicationFile("Tallyvane") / "QVXLogData"), "@#@bread@#@@#@\n");
-    EXPECT_EQ(toolkit_.quits, std::vector<int>{1});
+    EXPECT_EQ(toolkit_.quits, std::vector<int>{0});
 }
 
 TEST_F(AppTest, HelpAndAboutItems) {

@@ -29,6 +29,8 @@ public:
     std::optional<std::size_t> ask(const std::string& question, const std::vector<std::string>& /*answers*/,
                                    std::size_t /*onEscape*/) override {
         questions.push_back(question);
+        if (onQuestion)
+            onQuestion();
         if (answers.empty())
             return std::nullopt;
         const std::optional<std::size_t> given = answers.front();
@@ -80,6 +82,7 @@ public:
     std::vector<int> quits;
     std::vector<std::string> dialogs;
     std::vector<std::string> questions;
+    std::function<void()> onQuestion; // before it is answered
     std::vector<std::optional<std::size_t>>
         answers; // to the questions that come; after them the program is being ended
     std::string answer; // the path that the user chooses; "" cancels
