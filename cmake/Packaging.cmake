@@ -11,6 +11,7 @@ foreach(SIZE 64 128)
     RENAME tallyvane.png)
 endforeach()
 install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/tallyvane RENAME copyright)
+install(FILES packaging/THIRD_PARTY.md CHANGELOG.md SECURITY.md DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/tallyvane)
 
 find_program(GZIP gzip REQUIRED)
 add_custom_command(OUTPUT ${CMAKE_BINARY_DIR}/tallyvane.1.gz
@@ -25,7 +26,8 @@ set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
 set(CPACK_PACKAGE_CONTACT "The Tallyvane team <team@${TALLYVANE_WEB_HOST}>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "diary for people with type 2 diabetes")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "One table of days with glucose readings and weight, lights against personal limits,
-averages, graphs, a journal, logs, reports and archives. All data are plain text.")
+averages, graphs, a journal, logs, reports and archives. All data are plain text.
+It is no medical device: any change of treatment belongs to a doctor.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
