@@ -4,7 +4,8 @@ include(Houseplan)
 #
 # Declares a room of the house as a static library, "room_NAME" with "/" as "_". Its sources see the headers of the
 # room itself and of the rooms that the plan allows, and of no other: every room has a view of its own, a folder with
-# links to its headers, and only the views of the allowed rooms are on the include path.
+# links to its headers, and only the views of the allowed rooms are on the include path. A library hands on what it
+# links, and not what it sees: else a room would see all that its neighbours see.
 function(room NAME)
   cmake_parse_arguments(ARG "" "" "SOURCES" ${ARGN})
   string(REPLACE "/" "_" SLUG ${NAME})
@@ -25,7 +26,19 @@ function(room NAME)
   foreach(ALLOWED IN LISTS MAY_INCLUDE_${NAME})
     string(REPLACE "/" "_" ALLOWED_SLUG ${ALLOWED})
     if(TARGET room_${ALLOWED_SLUG} AND NOT ALLOWED STREQUAL NAME AND NOT ALLOWED STREQUAL "platform/qt")
-      target_link_libraries(${TARGET} PUBLIC room_${ALLOWED_SLUG})
+      target_link_libraries(${TARGET} PRIVATE room_${ALLOWED_SLUG})
+    endif()
+  endforeach()
+endfunction()
+
+# see_all_rooms(TARGET)
+#
+# Has a target outside of the house, such as the program or its tests, see and link all rooms but that of the toolkit.
+function(see_all_rooms TARGET)
+  foreach(ROOM IN LISTS HOUSE_ROOMS)
+    string(REPLACE "/" "_" SLUG ${ROOM})
+    if(TARGET room_${SLUG} AND NOT ROOM STREQUAL "platform/qt")
+      target_link_libraries(${TARGET} PUBLIC room_${SLUG})
     endif()
   endforeach()
 endfunction()

@@ -4,9 +4,9 @@
 #include <functional>
 #include <memory>
 
+#include "auto_button/auto_button.h"
 #include "diary/averages.h"
 #include "platform/window.h"
-#include "records/auto_button/auto_button.h"
 #include "settings/headings.h"
 
 namespace tallyvane {

@@ -4,10 +4,10 @@
 #include <memory>
 #include <optional>
 
+#include "auto_button/auto_button.h"
 #include "charting/gt_graph.h"
 #include "graphwindow/day_graph.h"
 #include "platform/window.h"
-#include "records/auto_button/auto_button.h"
 
 namespace tallyvane {
 

@@ -2,8 +2,8 @@
 
 #include <optional>
 
+#include "auto_button/auto_button.h"
 #include "platform/window.h"
-#include "records/auto_button/auto_button.h"
 
 namespace tallyvane {
 

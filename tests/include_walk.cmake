@@ -18,7 +18,7 @@ endfunction()
 
 set(FAULTS 0)
 set(INCLUDES 0)
-foreach(TOP platform charting settings diary exchange reports graphwindow records shell)
+foreach(TOP platform charting settings auto_button diary exchange reports graphwindow records shell)
   file(GLOB_RECURSE FILES RELATIVE ${SOURCE} ${SOURCE}/${TOP}/*.h ${SOURCE}/${TOP}/*.cpp)
   foreach(FILE IN LISTS FILES)
     room_of(${FILE} ROOM)

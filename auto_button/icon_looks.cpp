@@ -1,4 +1,4 @@
-#include "records/auto_button/icon_looks.h"
+#include "auto_button/icon_looks.h"
 
 #include <algorithm>
 #include <cmath>

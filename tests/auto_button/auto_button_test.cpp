@@ -1,11 +1,11 @@
-#include "records/auto_button/auto_button.h"
+#include "auto_button/auto_button.h"
 
 #include <gtest/gtest.h>
 
 #include <sstream>
 
+#include "auto_button/icon_looks.h"
 #include "platform/graphics_recorder.h"
-#include "records/auto_button/icon_looks.h"
 #include "support/cells.h"
 
 namespace tallyvane {

@@ -1,7 +1,7 @@
-#include "records/auto_button/auto_button.h"
+#include "auto_button/auto_button.h"
 
+#include "auto_button/icon_looks.h"
 #include "platform/graphics.h"
-#include "records/auto_button/icon_looks.h"
 
 namespace tallyvane {
 
