@@ -4,6 +4,7 @@
 
 #include "diary/cell_words.h"
 #include "diary/day_table.h"
+#include "platform/keys.h"
 #include "platform/text.h"
 #include "platform/toolkit.h"
 
@@ -20,13 +21,13 @@ struct Target {
 /// Where a key leads; nothing for a key that does not move.
 std::optional<Target> targetOf(const Listbox& table, int row, int column, std::string_view key) {
     const int selected = table.ListIndex();
-    if (key == Chr(30)) // Up
+    if (key == Keys::up)
         return Target{selected - 1, column, selected - 1 >= 0};
-    if (key == Chr(31)) // Down
+    if (key == Keys::down)
         return Target{selected + 1, column, selected + 1 <= table.ListCount() - 1};
-    if (key == Chr(28)) // Left
+    if (key == Keys::left)
         return Target{row, column - 1, column - 1 >= DayTable::firstReading};
-    if (key == Chr(29) || key == Chr(9)) // Right, Tab
+    if (key == Keys::right || key == Keys::tab)
         return Target{row, column + 1, column + 1 <= DayTable::lastReading};
     return std::nullopt;
 }
@@ -36,7 +37,7 @@ std::optional<Target> targetOf(const Listbox& table, int row, int column, std::s
 void stayAtEdge(Listbox& table, int column, std::string_view key) {
     table.confirmCell();
     Beep();
-    if (column == DayTable::lastReading && (key == Chr(29) || key == Chr(9)))
+    if (column == DayTable::lastReading && (key == Keys::right || key == Keys::tab))
         table.giveHint(CellWords::wayToWeight(table));
 }
 

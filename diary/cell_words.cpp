@@ -13,22 +13,6 @@ bool isTypedAsNumber(int column) {
     return (column >= DayTable::firstReading && column <= DayTable::lastReading) || column == DayTable::weightColumn;
 }
 
-std::string rangeName(Indicators::Range range) {
-    switch (range) {
-    case Indicators::Range::over:
-        return tr("too high");
-    case Indicators::Range::caution:
-        return tr("high");
-    case Indicators::Range::inZone:
-        return tr("in target zone");
-    case Indicators::Range::low:
-        return tr("low");
-    case Indicators::Range::under:
-        break;
-    }
-    return tr("too low");
-}
-
 bool isDoubtful(const Listbox& table, int row, int column) {
     const std::string& text = table.Cell(row, column);
     if (text.empty())
@@ -46,9 +30,9 @@ bool isWord(std::string_view text) {
 
 /// Of a reading that is a word the light shows the range of 0, which the meter need not have meant.
 std::string wordHelp(const Listbox& table, int row, int column) {
-    const std::optional<Indicators::Range> light = Indicators::rangeOf(table, row, column);
+    const std::optional<Ranges::Range> light = Indicators::rangeOf(table, row, column);
     return light ? tr("no number: does not count, and its light shows \u201c%1\u201d whatever it means",
-                      {rangeName(*light)})
+                      {Ranges::words(*light)})
                  : tr("no number: does not count");
 }
 
@@ -82,9 +66,9 @@ std::string spoken(const Listbox& table, int row, int column, const std::string&
     if (column != DayTable::dateColumn)
         say(table.Cell(row, column));
     say(helpTag(table, row, column));
-    const std::optional<Indicators::Range> range = Indicators::rangeOf(table, row, column);
+    const std::optional<Ranges::Range> range = Indicators::rangeOf(table, row, column);
     if (range && !(isDoubtful(table, row, column) && isWord(table.Cell(row, column)))) // whose tag has named it
-        say(rangeName(*range));
+        say(Ranges::words(*range));
     return words;
 }
 

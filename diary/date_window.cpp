@@ -1,14 +1,13 @@
 #include "diary/date_window.h"
 
 #include "diary/day_table.h"
-#include "diary/window1.h"
 #include "platform/translation.h"
 
 namespace tallyvane {
 
-DateWindow::DateWindow(Window1& diary) : diary_(diary) {
+DateWindow::DateWindow(Window& owner, Listbox& days) : days_(days) {
     shape(Kind::dialog, 289, 186);
-    belongTo(&diary);
+    belongTo(&owner);
     Title(tr("Change Date"));
     place({
         {&Canvas1, {14, 14, 64, 64}},
@@ -29,15 +28,14 @@ DateWindow::DateWindow(Window1& diary) : diary_(diary) {
 }
 
 void DateWindow::CalendarControl1_Open() {
-    const Listbox& table = diary_.ListBox1;
-    if (const std::optional<Date> date = ParseDate(table.Cell(table.ListIndex(), DayTable::dateColumn)))
+    if (const std::optional<Date> date = ParseDate(days_.Cell(days_.ListIndex(), DayTable::dateColumn)))
         CalendarControl1.SelectedDate(*date);
 }
 
 void DateWindow::PushButton1_Action() {
-    Listbox& table = diary_.ListBox1;
-    table.Cell(table.ListIndex(), DayTable::dateColumn, CalendarControl1.SelectedDate().ShortDate());
-    diary_.doSortColumns();
+    days_.Cell(days_.ListIndex(), DayTable::dateColumn, CalendarControl1.SelectedDate().ShortDate());
+    if (dateChanged)
+        dateChanged();
     Close();
 }
 

@@ -155,7 +155,8 @@ void Window1::ListBox1_Change() { doAverages(); }
 bool Window1::ListBox1_CellClick(int row, int column, int /*x*/, int /*y*/) {
     if (column != DayTable::dateColumn)
         return false;
-    dateWindow_ = std::make_unique<DateWindow>(*this);
+    dateWindow_ = std::make_unique<DateWindow>(*this, ListBox1);
+    dateWindow_->dateChanged = [this] { doSortColumns(); };
     dateWindow_->Open();
     if (const std::optional<Date> date = ParseDate(ListBox1.Cell(row, column)))
         dateWindow_->CalendarControl1.SelectedDate(*date);

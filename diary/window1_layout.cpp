@@ -18,8 +18,6 @@ constexpr Color stripGround = RGB(242, 245, 250);
 constexpr Color stripLine = RGB(128, 140, 156);
 constexpr Color stripText = RGB(20, 24, 30);
 
-constexpr unsigned lockAll = lockLeft | lockTop | lockRight | lockBottom;
-
 /// Left edge of a visible column.
 constexpr int columnLeft(int column) { return column == 0 ? 0 : 82 + 72 * (column - 1); }
 

@@ -7,20 +7,13 @@
 
 namespace tallyvane {
 
-namespace {
-
-constexpr unsigned lockAll = lockLeft | lockTop | lockRight | lockBottom;
-constexpr unsigned lockCorner = lockRight | lockBottom;
-
-} // namespace
-
 archiveWindow::archiveWindow() {
     shape(Kind::document, 700, 500, {400, anySize, 260, anySize});
     Title(tr("Tallyvane Archive"));
     place({
         {&EditField1, {16, 16, 668, 424}, lockAll},
-        {&PushButton1, {462, 454, 106, 30}, lockCorner},
-        {&PushButton2, {578, 454, 106, 30}, lockCorner},
+        {&PushButton1, {462, 454, 106, 30}, lockBottomRight},
+        {&PushButton2, {578, 454, 106, 30}, lockBottomRight},
     });
     EditField1.ReadOnly(true);
     EditField1.AccessibleName(tr("Archived days"));

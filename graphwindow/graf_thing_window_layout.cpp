@@ -6,9 +6,6 @@ namespace tallyvane {
 
 namespace {
 
-constexpr unsigned lockAll = lockLeft | lockTop | lockRight | lockBottom;
-constexpr unsigned lockCorner = lockTop | lockRight;
-
 constexpr int width = 716;
 constexpr int height = 431;
 
@@ -38,17 +35,17 @@ std::array<Rectangle*, 8> GrafThingWindow::swatches() {
 
 void GrafThingWindow::layOut() {
     place({
-        {&Canvas1, {20, 14, 499, 397}, lockAll},         {&GroupBox3, {531, 22, 165, 212}, lockCorner},
-        {&Rectangle1, swatchFrame(0), lockCorner},       {&CheckBox13, boxFrame(0), lockCorner},
-        {&Rectangle2, swatchFrame(1), lockCorner},       {&CheckBox12, boxFrame(1), lockCorner},
-        {&Rectangle3, swatchFrame(2), lockCorner},       {&CheckBox11, boxFrame(2), lockCorner},
-        {&Rectangle4, swatchFrame(3), lockCorner},       {&CheckBox10, boxFrame(3), lockCorner},
-        {&Rectangle5, swatchFrame(4), lockCorner},       {&CheckBox9, boxFrame(4), lockCorner},
-        {&Rectangle6, swatchFrame(5), lockCorner},       {&CheckBox8, boxFrame(5), lockCorner},
-        {&Rectangle7, swatchFrame(6), lockCorner},       {&CheckBox7, boxFrame(6), lockCorner},
-        {&Rectangle8, swatchFrame(7), lockCorner},       {&CheckBox6, boxFrame(7), lockCorner},
-        {&StaticText7, {536, 242, 160, 28}, lockCorner}, {&Canvas3, {599, 282, 30, 32}, lockCorner},
-        {&StaticText8, {563, 316, 100, 20}, lockCorner}, {&Canvas2, {598, 338, 32, 32}, lockCorner},
+        {&Canvas1, {20, 14, 499, 397}, lockAll},           {&GroupBox3, {531, 22, 165, 212}, lockTopRight},
+        {&Rectangle1, swatchFrame(0), lockTopRight},       {&CheckBox13, boxFrame(0), lockTopRight},
+        {&Rectangle2, swatchFrame(1), lockTopRight},       {&CheckBox12, boxFrame(1), lockTopRight},
+        {&Rectangle3, swatchFrame(2), lockTopRight},       {&CheckBox11, boxFrame(2), lockTopRight},
+        {&Rectangle4, swatchFrame(3), lockTopRight},       {&CheckBox10, boxFrame(3), lockTopRight},
+        {&Rectangle5, swatchFrame(4), lockTopRight},       {&CheckBox9, boxFrame(4), lockTopRight},
+        {&Rectangle6, swatchFrame(5), lockTopRight},       {&CheckBox8, boxFrame(5), lockTopRight},
+        {&Rectangle7, swatchFrame(6), lockTopRight},       {&CheckBox7, boxFrame(6), lockTopRight},
+        {&Rectangle8, swatchFrame(7), lockTopRight},       {&CheckBox6, boxFrame(7), lockTopRight},
+        {&StaticText7, {536, 242, 160, 28}, lockTopRight}, {&Canvas3, {599, 282, 30, 32}, lockTopRight},
+        {&StaticText8, {563, 316, 100, 20}, lockTopRight}, {&Canvas2, {598, 338, 32, 32}, lockTopRight},
     });
 }
 

@@ -183,8 +183,8 @@ public:
     std::function<void()> Open;
     std::function<void()> Change;
     std::function<bool(int row, int column, int x, int y)> CellClick;
-    /// A key in the open cell; true when it was consumed. Control keys come as in TextField::KeyDown, and Tab as 9,
-    /// Return as 13, Escape as 27.
+    /// A key in the open cell; true when it was consumed. Those that type no text come as `Keys` (platform/keys.h) names
+    /// them.
     std::function<bool(int row, int column, const std::string& key)> CellKeyDown;
     std::function<void(int row, int column)> CellTextChange;
     std::function<bool(int column)> HeaderPressed;

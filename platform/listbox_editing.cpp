@@ -9,7 +9,7 @@ namespace tallyvane {
 namespace {
 
 /// A cell holds no line end. One behind a pasted text, as spreadsheets leave it, goes; others become blanks.
-std::string inOneLine(std::string_view text) {
+std::string cellText(std::string_view text) {
     const std::size_t end = text.find_last_not_of("\r\n");
     return ReplaceLineEndings(text.substr(0, end + 1), " ");
 }
@@ -38,7 +38,7 @@ void Listbox::userTyped(std::string text, int selStart, int selLength) {
     const int column = openColumn_;
     if (cellsBeforeTyping_.empty())
         cellsBeforeTyping_ = rows_[index(row)].cells;
-    std::string line = inOneLine(text);
+    std::string line = cellText(text);
     write(row, column, line);
     activeCell_.userChanged(std::move(text), selStart, selLength);
     activeCell_.Text(std::move(line));

@@ -45,8 +45,8 @@ public:
     }
 
     std::function<void()> Open;
-    /// A key; true when it was consumed. Control keys come as characters below 32: Home 1, End 4, Insert 5, Backspace
-    /// 8, Page Up 11, Page Down 12, the arrows 28 to 31, Delete 127. Tab, Return and Escape are the window's.
+    /// A key; true when it was consumed. Those that type no text come as `Keys` (platform/keys.h) names them. Tab, Return
+    /// and Escape are the window's.
     std::function<bool(const std::string& key)> KeyDown;
     std::function<void()> TextChange;
 

@@ -27,7 +27,15 @@ public:
 };
 
 /// Which edges of a control keep their distance from the same edge of the window.
-enum Lock : unsigned { lockLeft = 1, lockTop = 2, lockRight = 4, lockBottom = 8 };
+enum Lock : unsigned {
+    lockLeft = 1,
+    lockTop = 2,
+    lockRight = 4,
+    lockBottom = 8,
+    lockTopRight = lockTop | lockRight,
+    lockBottomRight = lockBottom | lockRight,
+    lockAll = lockLeft | lockTop | lockRight | lockBottom,
+};
 
 /// A line of a window's table of controls: what, where, and how it follows the window's size.
 struct Placement {

@@ -16,7 +16,6 @@ namespace {
 
 constexpr int nameColumn = 0;
 constexpr int targetColumn = 1;
-constexpr unsigned lockAll = lockLeft | lockTop | lockRight | lockBottom;
 
 bool isWebAddress(std::string_view text) { return InStr(text, "www") > 0; }
 bool isMailAddress(std::string_view text) { return InStr(text, "@") > 0; }
@@ -47,7 +46,7 @@ std::string withoutEmptyFragment(std::string_view link) {
 }
 
 /// What is dropped may hold line ends; the list and its file have lines of one.
-std::string inOneLine(std::string_view text) { return Trim(ReplaceLineEndings(text, " ")); }
+std::string droppedLine(std::string_view text) { return Trim(ReplaceLineEndings(text, " ")); }
 
 } // namespace
 
@@ -154,7 +153,7 @@ bool fileWindow::saveFileList() {
 // Adding and removing
 
 void fileWindow::addFile(const FolderItem& file) {
-    const std::string name = inOneLine(file.DisplayName());
+    const std::string name = droppedLine(file.DisplayName());
     if (const std::string_view separator = separatorIn(name); !separator.empty()) {
         tellOfSeparator(name, separator);
         return;
@@ -189,11 +188,11 @@ void fileWindow::ListBox1_DropObject(const DragItem& item) {
     else if (!item.text)
         Beep();
     else if (isLink(*item.text))
-        addLink(withoutEmptyFragment(inOneLine(*item.text)));
+        addLink(withoutEmptyFragment(droppedLine(*item.text)));
     else
         MsgBox(tr("\u201c%1\u201d is not added: a web address has \u201cwww\u201d in it, and an e-mail address "
                   "\u201c@\u201d.",
-                  {inOneLine(*item.text)}));
+                  {droppedLine(*item.text)}));
 }
 
 void fileWindow::BevelButton2_Action() {

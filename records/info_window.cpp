@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "platform/keys.h"
 #include "platform/save_each.h"
 #include "platform/text.h"
 #include "platform/toolkit.h"
@@ -28,13 +29,13 @@ struct CellPlace {
 /// move.
 std::optional<CellPlace> cellBeside(const Listbox& list, CellPlace cell, const std::string& key) {
     CellPlace next = cell;
-    if (key == Chr(30)) // Up
+    if (key == Keys::up)
         --next.row;
-    else if (key == Chr(31)) // Down
+    else if (key == Keys::down)
         ++next.row;
-    else if (key == Chr(28)) // Left
+    else if (key == Keys::left)
         --next.column;
-    else if (key == Chr(29) || key == Chr(9)) // Right, Tab
+    else if (key == Keys::right || key == Keys::tab)
         ++next.column;
     else
         return std::nullopt;

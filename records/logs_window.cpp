@@ -11,7 +11,6 @@ namespace tallyvane {
 
 namespace {
 
-constexpr unsigned lockAll = lockLeft | lockTop | lockRight | lockBottom;
 constexpr Rect fieldFrame{30, 108, 560, 330};
 
 UnsavedFiles::UserFile userFile() {

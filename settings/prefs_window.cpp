@@ -1,11 +1,13 @@
 #include "settings/prefs_window.h"
 
+#include "platform/keys.h"
 #include "platform/number.h"
 #include "platform/text.h"
 #include "platform/toolkit.h"
 #include "platform/translation.h"
 #include "settings/globals.h"
 #include "settings/prefs_module.h"
+#include "settings/ranges.h"
 
 namespace tallyvane {
 
@@ -64,16 +66,14 @@ void PrefsWindow::build() {
     };
     const std::array<Canvas*, 5> marks{&Canvas1, &Canvas2, &Canvas3, &Canvas4, &Canvas5};
     const std::array<StaticText*, 5> names{&StaticText2, &StaticText3, &StaticText4, &StaticText5, &StaticText6};
-    const std::array<const char*, 5> pictures{"over2.tiff", "caution2.tiff", "zone2.tiff", "low3.tiff", "under3.tiff"};
-    const std::array<std::string, 5> zones{tr("Too High"), tr("High"), tr("Target Zone"), tr("Low"), tr("Too Low")};
-    for (std::size_t i = 0; i < zones.size(); ++i) {
-        marks[i]->Backdrop(Picture(pictures[i]));
-        names[i]->Text(zones[i]);
+    for (std::size_t i = 0; i < Ranges::all.size(); ++i) {
+        marks[i]->Backdrop(Ranges::picture(Ranges::all[i]));
+        names[i]->Text(Ranges::title(Ranges::all[i]));
     }
     const std::array<const char*, 4> built{"13.0", "9.0", "5.0", "3.0"};
     for (std::size_t i = 0; i < built.size(); ++i) {
         fields()[i]->Text(built[i]);
-        fields()[i]->AccessibleName(tr("Limit between %1 and %2", {zones[i], zones[i + 1]}));
+        fields()[i]->AccessibleName(tr("Limit between %1 and %2", {names[i]->Text(), names[i + 1]->Text()}));
     }
     StaticText7.Text(tr("mmol/L or mg/dL"));
     StaticText7.Align(TextAlign::center);
@@ -101,7 +101,7 @@ void PrefsWindow::EditField_Open(std::size_t field) { fields()[field]->Text(Str(
 
 /// Takes figures, the point and the backspace key. Any other key is refused.
 bool PrefsWindow::EditField_KeyDown(const std::string& key) {
-    if (InStr(".0123456789", key) > 0 || key == Chr(8))
+    if (InStr(".0123456789", key) > 0 || key == Keys::backspace)
         return false;
     Beep();
     return true;

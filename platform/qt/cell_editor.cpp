@@ -5,6 +5,7 @@
 
 #include <limits>
 
+#include "platform/keys.h"
 #include "platform/qt/event_guard.h"
 #include "platform/qt/key_names.h"
 
@@ -87,13 +88,13 @@ bool CellEditor::takesKey(const QKeyEvent& key) {
         return false;
     if (raiseKeyDown(name) || list_ == nullptr)
         return true;
-    if (name == Chr(13))
+    if (name == Keys::enter)
         deliver([this] { list_->closeCell(); });
-    else if (name == Chr(27))
+    else if (name == Keys::escape)
         deliver([this] { list_->revertCell(); });
-    else if (name == Chr(11)) // Page Up
+    else if (name == Keys::pageUp)
         movePages(-1);
-    else if (name == Chr(12)) // Page Down
+    else if (name == Keys::pageDown)
         movePages(1);
     else
         return false;

@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 
+#include "platform/keys.h"
 #include "platform/qt/convert.h"
 
 namespace tallyvane {
@@ -9,35 +10,35 @@ namespace tallyvane {
 std::string nameOf(const QKeyEvent& key) {
     switch (key.key()) {
     case Qt::Key_Backspace:
-        return Chr(8);
+        return Keys::backspace;
     case Qt::Key_Tab:
-        return Chr(9);
+        return Keys::tab;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        return Chr(13);
+        return Keys::enter;
     case Qt::Key_Escape:
-        return Chr(27);
+        return Keys::escape;
     case Qt::Key_Left:
     case Qt::Key_Backtab: // back to where Tab came from
-        return Chr(28);
+        return Keys::left;
     case Qt::Key_Right:
-        return Chr(29);
+        return Keys::right;
     case Qt::Key_Up:
-        return Chr(30);
+        return Keys::up;
     case Qt::Key_Down:
-        return Chr(31);
+        return Keys::down;
     case Qt::Key_Home:
-        return Chr(1);
+        return Keys::home;
     case Qt::Key_End:
-        return Chr(4);
+        return Keys::end;
     case Qt::Key_Insert:
-        return Chr(5);
+        return Keys::insert;
     case Qt::Key_PageUp:
-        return Chr(11);
+        return Keys::pageUp;
     case Qt::Key_PageDown:
-        return Chr(12);
+        return Keys::pageDown;
     case Qt::Key_Delete:
-        return Chr(127);
+        return Keys::remove;
     default:
         return fromQt(key.text());
     }

@@ -4,8 +4,8 @@
 #include <cmath>
 
 #include "platform/qt/convert.h"
+#include "platform/qt/image_bitmap.h"
 #include "platform/qt/pictures.h"
-#include "platform/qt/qt_bitmap.h"
 #include "platform/qt/shape_runs.h"
 
 namespace tallyvane {
@@ -89,7 +89,7 @@ void PainterGraphics::DrawString(std::string_view string, double x, double y) {
 
 void PainterGraphics::DrawPicture(const Picture& picture, double x, double y) {
     const QPointF place(reachable(x), reachable(y));
-    if (const auto* bitmap = dynamic_cast<QtBitmap*>(picture.Bitmap())) {
+    if (const auto* bitmap = dynamic_cast<ImageBitmap*>(picture.Bitmap())) {
         painter_.drawImage(place, bitmap->image());
     } else if (!picture.File().empty()) {
         const LoadedPicture& loaded = loadPicture(picture.File());

@@ -1,20 +1,20 @@
 #pragma once
 
-#include <QImage>
 #include <QPainter>
 
+#include "platform/qt/image_bitmap.h"
 #include "platform/qt/painter_graphics.h"
 
 namespace tallyvane {
 
 /// Pixels in memory, `scale` of them to a point.
-class QtBitmap : public Bitmap {
+class QtBitmap : public ImageBitmap {
 public:
     QtBitmap(int width, int height, double scale);
 
     PainterGraphics& surface() override { return surface_; }
     void changePixels(const std::function<Pixel(Pixel)>& change) override;
-    const QImage& image() const { return image_; }
+    const QImage& image() const override { return image_; }
 
 private:
     QImage image_;

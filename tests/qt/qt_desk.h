@@ -69,7 +69,7 @@ protected:
         for (const auto& show : {window.showHeadingsEditor, window.showLogs, window.showTeamAndMedications,
                                  window.showResources, window.showGraph})
             show();
-        others_.push_back(std::make_unique<DateWindow>(window));
+        others_.push_back(std::make_unique<DateWindow>(window, window.ListBox1));
         others_.push_back(std::make_unique<archiveWindow>());
         others_.push_back(std::make_unique<newVersionWindow>(window, "Tallyvane"));
         others_.push_back(std::make_unique<SplashWindow>());
