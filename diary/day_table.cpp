@@ -53,10 +53,10 @@ void addDay(Listbox& table, const Date& day) {
 
 void save(const Listbox& table) { UnsavedFiles::save(userFile(), textOf(table)); }
 
-void wasRead(const Listbox& table) { UnsavedFiles::wasRead(userFile(), textOf(table)); }
+void startedFrom(const Listbox& table) { UnsavedFiles::startedFrom(userFile(), textOf(table)); }
 
 bool load(Listbox& table) {
-    std::optional<TextInputStream> stream = DataFiles::openText(file());
+    std::optional<TextInputStream> stream = UnsavedFiles::openText(DataFiles::dayTable, file());
     if (!stream)
         return false;
     while (!stream->EndOfFile()) {

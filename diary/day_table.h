@@ -39,7 +39,7 @@ void addDay(Listbox& table, const Date& day);
 void save(const Listbox& table);
 
 /// Takes down that the table, as it stands, is what was read: as long as nothing changes, nothing of it can be lost.
-void wasRead(const Listbox& table);
+void startedFrom(const Listbox& table);
 
 /// Appends the days of "7VXData" to the table. False when there is no such file or it can't be opened.
 [[nodiscard]] bool load(Listbox& table);

@@ -14,18 +14,10 @@ namespace tallyvane::RunningLogs {
 namespace {
 
 /// Keeps a journal in a dated file of the application's folder. Its path; "" when such a file holds the text already.
-/// Throws IOException when the disk fails.
 std::string keep(const std::string& journal) {
-    const std::string name = std::string(DataFiles::journal) + " " + Date().isoDate();
-    for (int number = 1;; ++number) {
-        const std::optional<FolderItem> place = DataFiles::applicationFile(DataFiles::numbered(name, number));
-        if (!place || SystemFiles::read(place->AbsolutePath()) == journal)
-            return "";
-        if (place->Exists())
-            continue;
-        SystemFiles::write(place->AbsolutePath(), journal);
-        return place->AbsolutePath();
-    }
+    const std::optional<FolderItem> folder = DataFiles::applicationFolder();
+    return folder ? UnsavedFiles::keepCopy(*folder, std::string(DataFiles::journal) + " " + Date().isoDate(), journal)
+                  : "";
 }
 
 UnsavedFiles::UserFile userFile() {
@@ -34,13 +26,16 @@ UnsavedFiles::UserFile userFile() {
 
 } // namespace
 
-bool save() { return UnsavedFiles::save(userFile(), logRecord()); }
+void save() { UnsavedFiles::save(userFile(), logRecord()); }
 
-void wasRead() { UnsavedFiles::wasRead(userFile(), logRecord()); }
+void saveIfChanged() { UnsavedFiles::saveIfChanged(userFile(), logRecord()); }
+
+void startedFrom() { UnsavedFiles::startedFrom(userFile(), logRecord()); }
 
 std::string load(const std::function<void(std::string)>& showJournal) {
     std::string journal;
-    if (auto stream = DataFiles::openText(DataFiles::applicationFile(DataFiles::runningLogs))) {
+    if (auto stream =
+            UnsavedFiles::openText(DataFiles::runningLogs, DataFiles::applicationFile(DataFiles::runningLogs))) {
         const LogRecord record = readLogRecord(*stream);
         journal = withLineEnds(record.journal);
         Globals::gExercise = record.exercise;

@@ -16,7 +16,6 @@
 #include "platform/toolkit.h"
 #include "platform/translation.h"
 #include "settings/globals.h"
-#include "settings/log_record.h"
 
 namespace tallyvane {
 
@@ -35,7 +34,7 @@ void Window1::Event_Open() {
         Top(50);
     if (Left() < 0)
         Left(0);
-    DayTable::wasRead(ListBox1);
+    DayTable::startedFrom(ListBox1);
 }
 
 void Window1::Event_Close() {
@@ -51,11 +50,7 @@ void Window1::saveAll() {
 }
 
 void Window1::saveChanged() {
-    const auto saveChangedLogs = [this] {
-        if (logRecord() != savedLogs_)
-            saveLogs();
-    };
-    saveEach({[this] { saveData(); }, saveChangedLogs});
+    saveEach({[this] { saveData(); }, [] { RunningLogs::saveIfChanged(); }});
     AutosaveTimer.Mode(Timer::ModeMultiple); // counts anew
 }
 
@@ -68,15 +63,11 @@ void Window1::getData() {
     doSortColumns();
 }
 
-void Window1::saveLogs() {
-    if (RunningLogs::save())
-        savedLogs_ = logRecord();
-}
+void Window1::saveLogs() { RunningLogs::save(); }
 
 void Window1::getLogs() {
     keptJournal = RunningLogs::load([this](const std::string& journal) { JournalFld.Text(journal); });
-    savedLogs_ = logRecord();
-    RunningLogs::wasRead();
+    RunningLogs::startedFrom();
 }
 
 void Window1::getDetails(int row) {

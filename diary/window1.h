@@ -128,7 +128,6 @@ private:
     std::array<Canvas*, 8> stripLights();
 
     Averages averages_{ListBox1};
-    std::string savedLogs_; // the record of the logs as it was read or saved last
     std::unique_ptr<DateWindow> dateWindow_;
 };
 

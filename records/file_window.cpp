@@ -21,6 +21,10 @@ bool isWebAddress(std::string_view text) { return InStr(text, "www") > 0; }
 bool isMailAddress(std::string_view text) { return InStr(text, "@") > 0; }
 bool isLink(std::string_view text) { return isWebAddress(text) || isMailAddress(text); }
 
+UnsavedFiles::UserFile userFile() {
+    return UnsavedFiles::UserFile::ofInnerFolder(tr("The links"), DataFiles::resources);
+}
+
 constexpr std::array separators{DataFiles::subfieldSeparator, DataFiles::entrySeparator};
 
 /// The separator that a text holds, and that would split its entry in the file; "" for none.
@@ -100,6 +104,7 @@ fileWindow::fileWindow() {
 
 void fileWindow::Event_Open() {
     getFileList();
+    UnsavedFiles::startedFrom(userFile(), textOfList());
     Globals::gFileWindowOpen = true;
 }
 
@@ -132,11 +137,7 @@ void fileWindow::getFileList() {
     }
 }
 
-bool fileWindow::saveFileList() {
-    if (ListBox1.ListCount() == 0) {
-        UnsavedFiles::forget(UnsavedFiles::innerName(DataFiles::resources)); // what waits has been removed since
-        return false;
-    }
+std::string fileWindow::textOfList() const {
     TextWriter list;
     for (int row = 0; row < ListBox1.ListCount(); ++row) {
         if (row > 0)
@@ -146,8 +147,15 @@ bool fileWindow::saveFileList() {
         list.Write(ListBox1.Cell(row, targetColumn));
     }
     list.WriteLine("");
-    return UnsavedFiles::save(UnsavedFiles::UserFile::ofInnerFolder(tr("The links"), DataFiles::resources),
-                              list.text());
+    return list.text();
+}
+
+bool fileWindow::saveFileList() {
+    if (ListBox1.ListCount() == 0) {
+        UnsavedFiles::forget(UnsavedFiles::innerName(DataFiles::resources)); // what waits has been removed since
+        return false;
+    }
+    return UnsavedFiles::save(userFile(), textOfList());
 }
 
 // Adding and removing

@@ -44,6 +44,7 @@ public:
 private:
     void addFile(const FolderItem& file);
     void addLink(const std::string& link);
+    std::string textOfList() const;
 };
 
 } // namespace tallyvane

@@ -56,8 +56,8 @@ void openWhole(Listbox& list, CellPlace cell) {
 void InfoWindow::Event_Open() {
     getContacts();
     getMeds();
-    RowFile::wasRead(ListBox1, team(), DataFiles::contacts);
-    RowFile::wasRead(ListBox2, schedule(), DataFiles::medications);
+    RowFile::startedFrom(ListBox1, team(), DataFiles::contacts);
+    RowFile::startedFrom(ListBox2, schedule(), DataFiles::medications);
 }
 
 void InfoWindow::Event_Close() { saveBoth(); }

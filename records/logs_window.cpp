@@ -79,20 +79,12 @@ void logsWindow::getLogs() {
 
 void logsWindow::Event_Open() {
     getLogs();
-    savedRecord_ = logRecord();
-    UnsavedFiles::wasRead(userFile(), savedRecord_);
+    UnsavedFiles::startedFrom(userFile(), logRecord());
 }
 
-void logsWindow::saveChanged() {
-    if (logRecord() != savedRecord_)
-        saveLogs();
-}
+void logsWindow::saveChanged() { UnsavedFiles::saveIfChanged(userFile(), logRecord()); }
 
-void logsWindow::saveLogs() {
-    const std::string record = logRecord();
-    if (UnsavedFiles::save(userFile(), record))
-        savedRecord_ = record;
-}
+void logsWindow::saveLogs() { UnsavedFiles::save(userFile(), logRecord()); }
 
 void logsWindow::saveToDisk(const TextArea& field, const std::string& prompt) {
     for (const Page& candidate : pages())

@@ -43,7 +43,6 @@ private:
         std::string prompt;
     };
     std::array<Page, 3> pages();
-    std::string savedRecord_; // as it was read or saved last
     Page page() { return pages().at(static_cast<std::size_t>(TabPanel1.Value())); }
 };
 

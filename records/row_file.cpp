@@ -37,8 +37,8 @@ void save(const Listbox& list, const std::string& what, std::string_view name) {
     UnsavedFiles::save(UnsavedFiles::UserFile::ofApplication(what, name), textOf(list));
 }
 
-void wasRead(const Listbox& list, const std::string& what, std::string_view name) {
-    UnsavedFiles::wasRead(UnsavedFiles::UserFile::ofApplication(what, name), textOf(list));
+void startedFrom(const Listbox& list, const std::string& what, std::string_view name) {
+    UnsavedFiles::startedFrom(UnsavedFiles::UserFile::ofApplication(what, name), textOf(list));
 }
 
 } // namespace tallyvane::RowFile

@@ -17,7 +17,7 @@ bool load(Listbox& list, std::string_view name, bool replace);
 /// unsaved files; so they do when the disk fails, which throws IOException.
 void save(const Listbox& list, const std::string& what, std::string_view name);
 /// Takes down that the list, as it stands, is what was read.
-void wasRead(const Listbox& list, const std::string& what, std::string_view name);
+void startedFrom(const Listbox& list, const std::string& what, std::string_view name);
 
 } // namespace RowFile
 

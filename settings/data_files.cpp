@@ -51,10 +51,6 @@ std::optional<FolderItem> innerFile(std::string_view name) {
     return folder ? folder->Child(name) : std::nullopt;
 }
 
-std::optional<FolderItem> innerFileToWrite(std::string_view name) {
-    return childToWrite(applicationFileToWrite(applicationName), name);
-}
-
 std::optional<TextInputStream> openText(const std::optional<FolderItem>& file) {
     return file ? file->OpenAsTextFile() : std::nullopt;
 }

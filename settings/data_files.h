@@ -35,8 +35,6 @@ std::optional<FolderItem> applicationFileToWrite(std::string_view name);
 /// A file of the folder of that same name inside the application's folder, where some windows keep theirs; nil when it
 /// does not exist.
 std::optional<FolderItem> innerFile(std::string_view name);
-/// The same, with both folders made first where they are missing; its place also where they can't be made.
-std::optional<FolderItem> innerFileToWrite(std::string_view name);
 /// A stream on a file that may be nil, missing or unreadable; all three give nil.
 std::optional<TextInputStream> openText(const std::optional<FolderItem>& file);
 /// A stream that replaces a file; nil for a nil file and for one that can't be opened.

@@ -87,7 +87,7 @@ void EditHeadings::fill(const Headings& headings) {
 
 void EditHeadings::Event_Open() {
     getHeadings();
-    headingsWereRead(texts());
+    startedFromHeadings(texts());
 }
 
 void EditHeadings::getHeadings() {

@@ -39,6 +39,6 @@ std::string textOf(const Headings& headings) {
 
 void saveHeadings(const Headings& headings) { UnsavedFiles::save(userFile(), textOf(headings)); }
 
-void headingsWereRead(const Headings& headings) { UnsavedFiles::wasRead(userFile(), textOf(headings)); }
+void startedFromHeadings(const Headings& headings) { UnsavedFiles::startedFrom(userFile(), textOf(headings)); }
 
 } // namespace tallyvane

@@ -15,9 +15,10 @@ using Headings = std::array<std::string, 13>;
 Headings defaultHeadings();
 /// The headings as they were saved; a file that is too short gives empty ones for the rest. Nothing without a file.
 [[nodiscard]] std::optional<Headings> readHeadings();
-/// Writes the file, a heading a line. Nothing when it can't be had; throws IOException when the disk fails.
+/// Writes the file, a heading a line. It waits among the unsaved files when it can't be had, and when
+/// the disk fails, which throws IOException.
 void saveHeadings(const Headings& headings);
-/// Takes down that these are what was read.
-void headingsWereRead(const Headings& headings);
+/// Takes down that these are what the program starts from.
+void startedFromHeadings(const Headings& headings);
 
 } // namespace tallyvane

@@ -77,6 +77,26 @@ void read(TextInputStream& stream) {
     gDataLocation = location.empty() ? defaultLocation : location;
 }
 
+UnsavedFiles::UserFile userFile() {
+    const std::optional<FolderItem>& folder = StartupGlobals::gDataFolder;
+    return {tr("The preferences"), std::string(DataFiles::preferences),
+            folder ? DataFiles::placeIn(*folder, DataFiles::preferences) : std::nullopt};
+}
+
+std::string text() {
+    TextWriter lines;
+    lines.WriteLine(truth(Globals::gShowIndicators));
+    for (const double limit : {Globals::gOver, Globals::gCaution, Globals::gLow, Globals::gUnder})
+        lines.WriteLine(Str(limit));
+    for (const bool included : {Globals::gIncludeMeds, Globals::gIncludeExercise, Globals::gIncludeFood})
+        lines.WriteLine(truth(included));
+    const std::string& missing = StartupGlobals::gMissingDataFolder; // a folder that is away is not forgotten
+    const std::optional<FolderItem>& folder = StartupGlobals::gDataFolder;
+    lines.WriteLine(missing.empty() && folder ? folder->AbsolutePath() : missing);
+    lines.WriteLine(gDataLocation);
+    return lines.text();
+}
+
 } // namespace
 
 void getPrefs() {
@@ -85,29 +105,18 @@ void getPrefs() {
             read(*stream);
         else
             useDefaultFolder();
+        UnsavedFiles::startedFrom(userFile(), text());
     }
     if (bringUpMainWindow)
         bringUpMainWindow();
 }
 
 void savePrefs() {
-    const std::optional<FolderItem>& folder = StartupGlobals::gDataFolder;
-    if (!folder)
+    if (!StartupGlobals::gDataFolder)
         return;
     if (gDataLocation.empty())
         gDataLocation = defaultLocation;
-    TextWriter lines;
-    lines.WriteLine(truth(Globals::gShowIndicators));
-    for (const double limit : {Globals::gOver, Globals::gCaution, Globals::gLow, Globals::gUnder})
-        lines.WriteLine(Str(limit));
-    for (const bool included : {Globals::gIncludeMeds, Globals::gIncludeExercise, Globals::gIncludeFood})
-        lines.WriteLine(truth(included));
-    const std::string& missing = StartupGlobals::gMissingDataFolder;
-    lines.WriteLine(missing.empty() ? folder->AbsolutePath() : missing); // a folder that is away is not forgotten
-    lines.WriteLine(gDataLocation);
-    UnsavedFiles::save({tr("The preferences"), std::string(DataFiles::preferences),
-                        DataFiles::placeIn(*folder, DataFiles::preferences)},
-                       lines.text());
+    UnsavedFiles::save(userFile(), text());
 }
 
 } // namespace tallyvane::PrefsModule

@@ -87,12 +87,17 @@ void keep() {
         return;
     SystemFiles::makeFolders(SpecialFolder::State->AbsolutePath() + "/" + std::string(DataFiles::applicationName));
     const std::vector<Rescued> kept = offered();
-    const std::vector<UnsavedFiles::Unsaved> unsaved = UnsavedFiles::all();
-    for (const auto& [file, text, why] : unsaved) // an end like the one before it
-        if (std::any_of(kept.begin(), kept.end(), [&, name = file.name, &content = text](const Rescued& before) {
-                return before.name == name && SystemFiles::read(before.keptAt) == content;
-            }))
-            UnsavedFiles::forget(file.name);
+    const auto isKept = [&kept](const UnsavedFiles::Unsaved& unsaved) { // by an end like this one
+        const std::string place = unsaved.file.place ? unsaved.file.place->AbsolutePath() : "";
+        return std::any_of(kept.begin(), kept.end(), [&](const Rescued& before) {
+            return before.name == unsaved.file.name && before.place == place &&
+                   SystemFiles::read(before.keptAt) == unsaved.text;
+        });
+    };
+    const std::vector<UnsavedFiles::Unsaved> files = UnsavedFiles::all();
+    for (const UnsavedFiles::Unsaved& unsaved : files)
+        if (isKept(unsaved))
+            UnsavedFiles::forget(unsaved.file.name);
     const Date now;
     const std::string name = std::string(folderBeginning) + now.isoDate() + " " + now.isoTime();
     if (const std::optional<FolderItem> state = stateFolder(); state && !UnsavedFiles::all().empty())
@@ -116,24 +121,27 @@ void putInPlace(const Rescued& file) {
     const std::optional<std::string> content = SystemFiles::read(file.keptAt);
     if (!content)
         throw IOException("can't read " + file.keptAt, tr("what was kept can't be read"));
-    if (file.place.empty())
-        throw IOException("no place for " + file.name, tr("the desktop has no folder for it"));
-    UnsavedFiles::keepPresent(file.place, *content);
-    SystemFiles::write(file.place, *content);
+    const UnsavedFiles::UserFile target{file.what, file.name, GetFolderItem(file.place), false};
+    try {
+        UnsavedFiles::keepPresent(file.place, *content);
+        SystemFiles::write(file.place, *content);
+    } catch (const IOException& failure) { // it is shown all the same, and saved as soon as that is possible
+        UnsavedFiles::wait(target, *content, failure.why());
+        setAside(file);
+        throw;
+    }
     static_cast<void>(SystemFiles::remove(file.keptAt));
-    for (const Rescued& older : allKept())
-        if (isSameFile(older, file))
-            settle(older);
+    setAside(file); // those that were kept before it
     for (const FolderItem& folder : folders())
         removeIfDone(folder);
 }
 
-std::string setAside(const Rescued& file) {
-    std::string path;
+std::vector<std::string> setAside(const Rescued& file) {
+    std::vector<std::string> paths;
     for (const Rescued& kept : allKept())
         if (isSameFile(kept, file))
-            path = settle(kept);
-    return path;
+            paths.push_back(settle(kept));
+    return paths;
 }
 
 } // namespace tallyvane::RescuedFiles

@@ -22,12 +22,12 @@ void keep();
 /// What no start has settled: of each file the one that was kept last.
 std::vector<Rescued> offered();
 
-/// Puts a file in its place, keeps what stood there beside it, such as "7VXData before 2026-11-23", and settles all
-/// that was kept of it. Throws IOException when a disk fails or the place can't be written; the file is then offered
-/// again.
+/// Puts a file in its place, keeps what stood there beside it, such as "7VXData before 2026-11-23", and sets aside what
+/// was kept of it before. Throws IOException when a disk fails or the place can't be written: the file then waits among
+/// the unsaved ones, so that it is read and saved later, and what was kept of it is set aside too.
 void putInPlace(const Rescued& file);
 
-/// Leaves all that was kept of a file where it is, under a name by which it is not offered again. Its path.
-std::string setAside(const Rescued& file);
+/// Leaves all that was kept of a file where it is, under names by which it is not offered again. The paths.
+std::vector<std::string> setAside(const Rescued& file);
 
 } // namespace tallyvane::RescuedFiles

@@ -1,6 +1,7 @@
 #include "settings/unsaved_files.h"
 
 #include <algorithm>
+#include <functional>
 #include <map>
 
 #include "platform/date.h"
@@ -12,15 +13,15 @@ namespace tallyvane::UnsavedFiles {
 
 namespace {
 
-/// What is known of a file since it was read.
-struct Read {
-    std::string text; // that a save would write if nothing had changed
-    bool isInTheWay = false; // something stood there that could not be read
+/// What is known of a file since it was read or saved.
+struct Known {
+    std::string text; // that a save would write if nothing has changed
+    std::optional<std::size_t> onDisk; // hash of what stood at its place; nothing for what was not there or unreadable
 };
 
 struct State {
     std::vector<Unsaved> waiting;
-    std::map<std::string, Read> read; // by name
+    std::map<std::string, Known> known; // by name
 };
 
 /// Never destroyed: a lost display saves after all other objects are gone.
@@ -29,23 +30,20 @@ State& state() {
     return *instance;
 }
 
-const Unsaved* waitingFor(std::string_view name) {
-    const std::vector<Unsaved>& waiting = state().waiting;
-    const auto isIt = [&](const Unsaved& unsaved) { return unsaved.file.name == name; };
-    const auto found = std::find_if(waiting.begin(), waiting.end(), isIt);
-    return found == waiting.end() ? nullptr : &*found;
+std::vector<Unsaved>::iterator waitingFor(std::string_view name) {
+    std::vector<Unsaved>& waiting = state().waiting;
+    return std::find_if(waiting.begin(), waiting.end(),
+                        [&](const Unsaved& unsaved) { return unsaved.file.name == name; });
 }
 
-const Read* readOf(const std::string& name) {
-    const auto found = state().read.find(name);
-    return found == state().read.end() ? nullptr : &found->second;
+const Known* knownOf(const std::string& name) {
+    const auto found = state().known.find(name);
+    return found == state().known.end() ? nullptr : &found->second;
 }
 
-void remember(const UserFile& file, const std::string& text, const std::string& why) {
-    if (const Unsaved* known = waitingFor(file.name))
-        state().waiting[static_cast<std::size_t>(known - state().waiting.data())] = {file, text, why};
-    else
-        state().waiting.push_back({file, text, why});
+std::optional<std::size_t> hashAt(const std::optional<FolderItem>& place) {
+    const std::optional<std::string> content = place ? SystemFiles::read(place->AbsolutePath()) : std::nullopt;
+    return content ? std::optional(std::hash<std::string>()(*content)) : std::nullopt;
 }
 
 /// Makes the text the content of a file. Why that can't be, for the user; nothing when it is done. Throws IOException
@@ -61,6 +59,8 @@ std::optional<std::string> writeOrTellWhy(const std::optional<FolderItem>& place
     }
     return SystemFiles::read(path) == text ? std::nullopt : std::optional(why);
 }
+
+std::string folderOf(const std::string& path) { return path.substr(0, path.rfind('/')); }
 
 std::string listOf(const std::vector<Unsaved>& files) {
     TextWriter list;
@@ -78,48 +78,68 @@ std::string innerName(std::string_view name) {
 }
 
 UserFile UserFile::ofApplication(std::string what, std::string_view name) {
-    return {std::move(what), std::string(name), DataFiles::applicationFileToWrite(name)};
+    const std::optional<FolderItem> folder = DataFiles::applicationFolder();
+    return {std::move(what), std::string(name), folder ? DataFiles::placeIn(*folder, name) : std::nullopt, true};
 }
 
 UserFile UserFile::ofInnerFolder(std::string what, std::string_view name) {
-    return {std::move(what), innerName(name), DataFiles::innerFileToWrite(name)};
+    return ofApplication(std::move(what), innerName(name));
 }
 
-void wasRead(const UserFile& file, const std::string& text) {
-    if (waitingFor(file.name) != nullptr) // that was read, and no disk has it
-        return;
-    const std::string path = file.place ? file.place->AbsolutePath() : "";
-    const bool isThere = SystemFiles::kindOf(path) != SystemFiles::Kind::none;
-    state().read[file.name] = {text, isThere && !SystemFiles::read(path)};
+void startedFrom(const UserFile& file, const std::string& text) {
+    if (waitingFor(file.name) == state().waiting.end()) // else no disk has it
+        state().known[file.name] = {text, hashAt(file.place)};
 }
 
 bool save(const UserFile& file, const std::string& text) {
-    const Read* read = readOf(file.name);
-    const bool hasChanged = read == nullptr || read->text != text;
-    const bool isInTheWay = read != nullptr && read->isInTheWay;
-    if (isInTheWay && !hasChanged)
+    const Known* known = knownOf(file.name);
+    const bool hasChanged = known == nullptr || known->text != text;
+    const std::optional<std::size_t> onDisk = hashAt(file.place);
+    const bool placeHasChanged = known != nullptr && known->onDisk != onDisk;
+    const bool wasNeverSeen = known != nullptr && !known->onDisk && onDisk; // what stands there now
+    if (wasNeverSeen && !hasChanged) {
+        forget(file.name);
         return true;
+    }
+    const bool isLost = hasChanged || placeHasChanged; // if it can't be written
     try {
-        if (isInTheWay && file.place)
+        if (file.makesFolders && file.place)
+            SystemFiles::makeFolders(folderOf(file.place->AbsolutePath()));
+        if (wasNeverSeen)
             keepPresent(file.place->AbsolutePath(), text);
         const std::optional<std::string> why = writeOrTellWhy(file.place, text);
-        if (why && hasChanged)
-            remember(file, text, *why);
+        if (why && isLost)
+            wait(file, text, *why);
         else
             forget(file.name);
         if (!why)
-            state().read[file.name] = {text, false};
+            state().known[file.name] = {text, std::hash<std::string>()(text)};
         return !why;
     } catch (const IOException& failure) {
-        if (hasChanged)
-            remember(file, text, failure.why());
+        if (isLost)
+            wait(file, text, failure.why());
         throw;
     }
 }
 
+bool saveIfChanged(const UserFile& file, const std::string& text) {
+    const Known* known = knownOf(file.name);
+    if (known == nullptr || known->text != text)
+        return save(file, text);
+    forget(file.name); // what waits was taken back
+    return true;
+}
+
 std::optional<TextInputStream> openText(std::string_view name, const std::optional<FolderItem>& place) {
-    const Unsaved* unsaved = waitingFor(name);
-    return unsaved != nullptr ? TextInputStream(unsaved->text) : DataFiles::openText(place);
+    const auto unsaved = waitingFor(name);
+    return unsaved != state().waiting.end() ? TextInputStream(unsaved->text) : DataFiles::openText(place);
+}
+
+void wait(const UserFile& file, const std::string& text, const std::string& why) {
+    if (const auto known = waitingFor(file.name); known != state().waiting.end())
+        *known = {file, text, why};
+    else
+        state().waiting.push_back({file, text, why});
 }
 
 const std::vector<Unsaved>& all() { return state().waiting; }
@@ -139,22 +159,29 @@ std::optional<FolderItem> saveInto(const FolderItem& folder, const std::string& 
     if (!target || !target->CreateAsFolder())
         return std::nullopt;
     const std::vector<Unsaved> files = state().waiting;
+    const std::string list = target->AbsolutePath() + "/" + std::string(listName);
+    bool isAnySafe = false;
     try {
-        SystemFiles::write(DataFiles::placeIn(*target, listName)->AbsolutePath(), listOf(files));
+        SystemFiles::write(list, listOf(files));
     } catch (const IOException&) {
         SystemFiles::removeEmptyFolder(target->AbsolutePath());
         return std::nullopt;
     }
     for (const Unsaved& unsaved : files) {
         const std::string path = target->AbsolutePath() + "/" + unsaved.file.name;
-        SystemFiles::makeFolders(path.substr(0, path.rfind('/')));
+        SystemFiles::makeFolders(folderOf(path));
         try {
             SystemFiles::write(path, unsaved.text);
             forget(unsaved.file.name);
+            isAnySafe = true;
         } catch (const IOException&) { // it goes on waiting
         }
     }
-    return target;
+    if (isAnySafe)
+        return target;
+    static_cast<void>(SystemFiles::remove(list));
+    SystemFiles::removeEmptyFolder(target->AbsolutePath());
+    return std::nullopt;
 }
 
 void forget(const std::string& name) {
@@ -163,17 +190,27 @@ void forget(const std::string& name) {
 
 void forgetAll() { state() = {}; }
 
+std::string keepCopy(const FolderItem& folder, const std::string& name, const std::string& text) {
+    for (int number = 1;; ++number) {
+        const std::optional<FolderItem> place = folder.Child(DataFiles::numbered(name, number));
+        if (!place)
+            throw IOException("no place for " + name, tr("the folder is not there"));
+        if (SystemFiles::read(place->AbsolutePath()) == text)
+            return "";
+        if (place->Exists())
+            continue;
+        SystemFiles::write(place->AbsolutePath(), text);
+        return place->AbsolutePath();
+    }
+}
+
 void keepPresent(const std::string& place, const std::string& newText) {
     const std::string present = SystemFiles::read(place).value_or("");
     if (present.empty() || present == newText)
         return;
     const std::size_t slash = place.rfind('/');
-    const std::optional<FolderItem> folder = GetFolderItem(place.substr(0, slash));
-    const std::string name = place.substr(slash + 1) + " before " + Date().isoDate();
-    const std::optional<FolderItem> copy = folder ? DataFiles::freePlace(*folder, name) : std::nullopt;
-    if (!copy)
-        throw IOException("no place beside " + place, tr("the folder is not there"));
-    SystemFiles::write(copy->AbsolutePath(), present);
+    if (const std::optional<FolderItem> folder = GetFolderItem(place.substr(0, slash)))
+        keepCopy(*folder, place.substr(slash + 1) + " before " + Date().isoDate(), present);
 }
 
 } // namespace tallyvane::UnsavedFiles

@@ -20,7 +20,10 @@ struct UserFile {
     /// Where it belongs; nil where the desktop has no place for it.
     std::optional<FolderItem> place;
 
-    /// A file of the application's folder, or of the folder inside it; folders that are missing are made.
+    /// Whether a save makes the folders that are missing.
+    bool makesFolders = false;
+
+    /// A file of the application's folder, or of the folder inside it; a save makes both.
     static UserFile ofApplication(std::string what, std::string_view name);
     static UserFile ofInnerFolder(std::string what, std::string_view name);
 };
@@ -35,17 +38,22 @@ struct Unsaved {
     std::string why; // for the user: "No space left on device"
 };
 
-/// Takes down what was read: `text` is what a save would write if nothing is changed from here on. If something stands
-/// at the place that could not be read, the file is not written before something is changed, and what stands there then
-/// is kept beside it.
-void wasRead(const UserFile& file, const std::string& text);
+/// Takes down what the program starts from: `text` is what a save would write if nothing is changed from here on. What
+/// stands at the place and could not be read, or was not there yet, is then never replaced unseen: it stays as long as
+/// nothing is changed, and is kept beside the file otherwise.
+void startedFrom(const UserFile& file, const std::string& text);
 
 /// Makes the text the content of the file. False, and the text waits, when the file can't be had; also when writing
-/// fails, which throws IOException. Nothing waits that has not changed since it was read.
+/// fails, which throws IOException. Nothing waits that has not changed, as long as its place has not changed either.
 bool save(const UserFile& file, const std::string& text);
+/// The same, but nothing for a text that has not changed since it was read or saved.
+bool saveIfChanged(const UserFile& file, const std::string& text);
 
 /// The text that waits for that file, or else the file; nil for a file that is nil, missing or unreadable.
 std::optional<TextInputStream> openText(std::string_view name, const std::optional<FolderItem>& place);
+
+/// Has a text wait that no disk has.
+void wait(const UserFile& file, const std::string& text, const std::string& why);
 
 /// What waits, in the order in which it first failed.
 const std::vector<Unsaved>& all();
@@ -55,7 +63,7 @@ void tryAgain();
 
 /// Writes them into a new folder inside that one, with a list of the places where they belong, and forgets those that
 /// are safe there. The new folder is named `name`, or "name 2" and so on where that is taken; nil when it or the list
-/// can't be written. A file that can't be written goes on waiting.
+/// nothing can be written. A file that can't be written goes on waiting.
 std::optional<FolderItem> saveInto(const FolderItem& folder, const std::string& name);
 /// In such a folder: a line for each file, with what it is, its name and its place.
 inline constexpr std::string_view listName = "Places";
@@ -65,8 +73,11 @@ void forget(const std::string& name);
 /// Of all files nothing waits, and nothing is known of what was read.
 void forgetAll();
 
-/// Keeps what stands at a place under another name beside it, such as "7VXData before 2026-11-23", if it is anything
-/// else than that text. Throws IOException when it can't be kept.
+/// Writes a text into a file of that name, or "name 2" and so on where others are, unless one of them holds it already.
+/// The path; "" when it was there. Throws IOException when the disk fails.
+std::string keepCopy(const FolderItem& folder, const std::string& name, const std::string& text);
+/// Keeps what stands at a place beside it, such as "7VXData before 2026-11-23", if it is anything else than that text.
+/// Throws IOException when it can't be kept.
 void keepPresent(const std::string& place, const std::string& newText);
 
 } // namespace tallyvane::UnsavedFiles

@@ -1,5 +1,6 @@
 #include "shell/app.h"
 
+#include <exception>
 #include <utility>
 
 #include "charting/gt_graph.h"
@@ -68,7 +69,8 @@ void App::Event_Open() {
     }
     if (listenForSecondStart)
         listenForSecondStart();
-    if (!UnsavedWork::offerRescued()) { // before anything is read
+    const auto mayWriteIn = [this](const std::optional<FolderItem>& place) { return claim(place); };
+    if (!UnsavedWork::offerRescued(mayWriteIn)) { // before anything is read
         Quit(1);
         return;
     }
@@ -282,14 +284,17 @@ void App::Event_Deactivate() {
         if (logs_ && logs_->isOpen())
             logs_->saveChanged();
     };
+    std::exception_ptr failure;
     try {
         saveEach({[this] { window1_->saveChanged(); }, saveOpenLogs});
-        UnsavedFiles::tryAgain();
-        toldOfFailedSave_ = false;
-    } catch (const IOException&) { // told once until a save succeeds, not at each look at another program
-        if (!std::exchange(toldOfFailedSave_, true))
-            throw;
+    } catch (const IOException&) {
+        failure = std::current_exception();
     }
+    UnsavedFiles::tryAgain();
+    if (UnsavedFiles::all().empty())
+        toldOfFailedSave_ = false;
+    else if (failure && !std::exchange(toldOfFailedSave_, true))
+        std::rethrow_exception(failure); // told once until all is saved, not at each look at another program
 }
 
 void App::Event_EndRequested() {

@@ -12,7 +12,7 @@ namespace {
 std::string absolutePath(const std::string& path) {
     std::error_code failed;
     const std::filesystem::path absolute = std::filesystem::absolute(path, failed);
-    return failed ? path : absolute.lexically_normal().string();
+    return failed ? path : absolute.string();
 }
 
 } // namespace

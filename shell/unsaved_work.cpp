@@ -44,31 +44,42 @@ std::string listOf(const std::vector<RescuedFiles::Rescued>& files) {
     return list;
 }
 
-void putInPlace(const std::vector<RescuedFiles::Rescued>& files) {
-    std::string failures;
+void putInPlace(const std::vector<RescuedFiles::Rescued>& files, const FolderGuard& mayWriteIn) {
+    std::string held;
+    std::string failed;
     for (const RescuedFiles::Rescued& file : files) {
+        if (!mayWriteIn(GetFolderItem(file.place.substr(0, file.place.rfind('/'))))) {
+            held.append("\n").append(file.place);
+            continue;
+        }
         try {
             RescuedFiles::putInPlace(file);
         } catch (const IOException& failure) {
-            failures.append("\n").append(tr("%1: %2", {file.what, failure.why()})).append("\n").append(file.keptAt);
+            failed.append("\n").append(tr("%1: %2", {file.what, failure.why()})).append("\n").append(file.place);
         }
     }
-    if (!failures.empty())
-        MsgBox(tr("These can't be put in their places. They stay where they are kept, and will be offered again:\n%1",
-                  {failures}));
+    if (!held.empty())
+        MsgBox(tr("Another Tallyvane has these open. They will be offered again:\n%1", {held}));
+    if (!failed.empty())
+        MsgBox(
+            tr("These can't be put in their places yet. They are shown as they were kept, and saved as soon as that is "
+               "possible:\n%1",
+               {failed}));
 }
 
 void setAside(const std::vector<RescuedFiles::Rescued>& files) {
     std::string list;
     for (const RescuedFiles::Rescued& file : files)
-        list.append("\n").append(tr("%1: %2", {file.what, RescuedFiles::setAside(file)}));
+        for (const std::string& path : RescuedFiles::setAside(file))
+            list.append("\n").append(tr("%1: %2", {file.what, path}));
     MsgBox(tr("They are kept:\n%1", {list}));
 }
 
-/// Something stands there that is not what belongs there.
+/// Something stands there that is not what belongs there, or can't be read.
 bool isInTheWay(const std::optional<FolderItem>& place, SystemFiles::Kind wanted) {
     const SystemFiles::Kind kind = place ? SystemFiles::kindOf(place->AbsolutePath()) : SystemFiles::Kind::none;
-    return kind != SystemFiles::Kind::none && kind != wanted;
+    const bool isUnreadable = kind == SystemFiles::Kind::file && !SystemFiles::read(place->AbsolutePath());
+    return kind != SystemFiles::Kind::none && (kind != wanted || isUnreadable);
 }
 
 } // namespace
@@ -91,7 +102,7 @@ Outcome ask() {
     return Outcome::saved;
 }
 
-bool offerRescued() {
+bool offerRescued(const FolderGuard& mayWriteIn) {
     const std::vector<RescuedFiles::Rescued> files = RescuedFiles::offered();
     if (files.empty())
         return true;
@@ -100,7 +111,7 @@ bool offerRescued() {
                                  {listOf(files)}),
                               tr("Put Them in Place"), tr("Go On Without Them"));
     if (answer == Answer::yes)
-        putInPlace(files);
+        putInPlace(files, mayWriteIn);
     else if (answer == Answer::no)
         setAside(files);
     return answer != Answer::none;
@@ -126,8 +137,9 @@ void tellOfUnreadable() {
     for (const std::optional<FolderItem>& place : inTheWay)
         list.append("\n").append(place->AbsolutePath());
     if (!list.empty())
-        MsgBox(tr("This can't be read or saved, since something else stands in its place. Close Tallyvane, move that "
-                  "away, then start it again:\n%1",
+        MsgBox(tr("This can't be read or saved, since something else stands in its place, or is not "
+                  "yours to read. Close Tallyvane, mend that, "
+                  "then start it again:\n%1",
                   {list}));
 }
 

@@ -2,6 +2,11 @@
 /// start after an end with nobody to ask.
 #pragma once
 
+#include <functional>
+#include <optional>
+
+#include "platform/folder_item.h"
+
 namespace tallyvane::UnsavedWork {
 
 enum class Outcome {
@@ -13,8 +18,11 @@ enum class Outcome {
 /// Asks what to do about the files that still wait for a disk, until none waits or the user gives them up.
 [[nodiscard]] Outcome ask();
 
+/// Whether files in a folder may be written: not while another program holds it.
+using FolderGuard = std::function<bool(const std::optional<FolderItem>& folder)>;
+
 /// Offers what was kept at an end with nobody to ask. False when the program was ended before the user had answered.
-[[nodiscard]] bool offerRescued();
+[[nodiscard]] bool offerRescued(const FolderGuard& mayWriteIn);
 
 /// Tells of the user's files in whose place stands something that can be neither read nor written.
 void tellOfUnreadable();

@@ -31,13 +31,7 @@ TEST_F(JournalTest, TheThreeButtons) {
 }
 
 TEST_F(JournalTest, OnNarrowPaperTheTitleStandsAboveTheText) {
-    class A5 : public Paper {
-        double width() const override { return 384; }
-        double height() const override { return 559; }
-        int resolution() const override { return 72; }
-        bool ask() override { return true; }
-    };
-    toolkit_.printerPaper = std::make_unique<A5>();
+    toolkit_.printerPaper = paperOf(384, 559);
     printText("felt well", "A title");
     ASSERT_EQ(toolkit_.printed.size(), 2U);
     EXPECT_EQ(toolkit_.printed[0].numbers[1], 50);

@@ -107,14 +107,8 @@ TEST_F(DiaryReportTest, PagesAreFilledLineByLine) {
 }
 
 TEST_F(DiaryReportTest, LandscapePagesAreLower) {
-    class Landscape : public Paper {
-        double width() const override { return 756; }
-        double height() const override { return 576; }
-        int resolution() const override { return 72; }
-        bool ask() override { return true; }
-    };
     addDays(30); // 37 lines a page
-    toolkit_.nextPaper = [] { return std::make_unique<Landscape>(); };
+    toolkit_.nextPaper = [] { return paperOf(756, 576); };
     FilePrintSetup_Action();
     report_.PrintAll();
     EXPECT_EQ(toolkit_.pageBreaks(), 1);
@@ -127,12 +121,6 @@ TEST_F(DiaryReportTest, LandscapePagesAreLower) {
 }
 
 TEST_F(DiaryReportTest, DetailsEndWhereThePageDoes) {
-    class A4 : public Paper {
-        double width() const override { return 559; }
-        double height() const override { return 806; }
-        int resolution() const override { return 72; }
-        bool ask() override { return true; }
-    };
     // 73 letters of 6 points: they would fit in 450 points, but not in the 439 that are left beside 120.
     const std::string ten = "abcdefghi ";
     std::string food;
@@ -142,7 +130,7 @@ TEST_F(DiaryReportTest, DetailsEndWhereThePageDoes) {
     Globals::gIncludeFood = true;
     table_.AddRows({{"11/2/2026"}});
     Globals::ps.reset();
-    toolkit_.nextPaper = [] { return std::make_unique<A4>(); };
+    toolkit_.nextPaper = [] { return paperOf(559, 806); };
     report_.PrintAll();
     EXPECT_EQ(body(), (Texts{"104: 50 '11/2/2026'", "116: 50 'Food: ' 120 '" + food + "abc '", "128: 120 'd'",
                              "164: 50 'Averages: '"}));

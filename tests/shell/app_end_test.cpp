@@ -152,12 +152,49 @@ TEST_F(AppEndTest, OfEachFileTheLastThatWasKeptIsOfferedAndNothingTwice) {
     EXPECT_EQ(offered(0).size(), 1U);
     EXPECT_NE(toolkit_.messages.back().find("Your days: a folder of that name stands there"), std::string::npos);
     EXPECT_EQ(read(applicationFile("QVXLogData")), "@#@@#@an older journal@#@\n") << "what can be is put in place";
+    EXPECT_EQ(UnsavedFiles::all().size(), 1U) << "what can't be waits";
     unblockTable();
-    ASSERT_EQ(offered(0).size(), 1U);
-    EXPECT_EQ(toolkit_.questions[0].find("QVXLogData"), std::string::npos) << "and not a second time";
+    UnsavedFiles::tryAgain();
     EXPECT_TRUE(isWhole(applicationFile("7VXData"))) << "the newer one";
     EXPECT_TRUE(offered(0).empty());
     EXPECT_EQ(read(older / "7VXData not taken"), "11/20/2026@#@4\n");
+}
+
+TEST_F(AppEndTest, RescuedDaysThatCannotBePutInPlaceAreShownAndSavedLater) {
+    blockTable();
+    app_->Event_EndRequested();
+    app_.reset();
+    toolkit_.answers = {0};
+    StartupGlobals::gDataFolder.reset();
+    app_ = std::make_unique<App>();
+    app_->Event_Open();
+    EXPECT_EQ(app_->window1()->ListBox1.Cell(0, 1), "5.6");
+    app_->window1()->BevelButton1_Action();
+    app_->window1()->ListBox1.userTyped("7", 1, 0);
+    unblockTable();
+    app_->FileQuit_Action();
+    EXPECT_TRUE(isWhole(applicationFile("7VXData")));
+    EXPECT_NE(read(applicationFile("7VXData")).find("@#@7@#@"), std::string::npos) << "with what was typed since";
+    EXPECT_EQ(toolkit_.questions.size(), 1U);
+}
+
+TEST_F(AppEndTest, DaysThatWereSavedAndWhosePlaceIsGoneAreNotSafe) {
+    app_->Event_Deactivate();
+    ASSERT_TRUE(isWhole(applicationFile("7VXData")));
+    std::filesystem::remove(applicationFile("7VXData"));
+    blockTable();
+    app_->Event_EndRequested();
+    EXPECT_TRUE(isWhole(kept() / "7VXData")) << "though nothing was typed since";
+}
+
+TEST_F(AppEndTest, ATableThatAppearsLaterIsNotEmptied) {
+    app_.reset();
+    StartupGlobals::gDataFolder.reset();
+    app_ = std::make_unique<App>();
+    app_->Event_Open(); // as on a folder that is not synchronised yet
+    write(applicationFile("7VXData"), "11/21/2026@#@7\n");
+    app_->FileQuit_Action();
+    EXPECT_EQ(read(applicationFile("7VXData")), "11/21/2026@#@7\n");
 }
 
 TEST_F(AppEndTest, WhatTheUserDoesNotWantBackIsKeptAndNotOfferedAgain) {

@@ -20,13 +20,16 @@ constexpr double pointsAnInch = 72;
 
 class RecordedPaper : public Paper {
 public:
-    explicit RecordedPaper(const bool& accepted) : accepted_(accepted) {}
-    double width() const override { return letterWidth; }
-    double height() const override { return letterHeight; }
+    RecordedPaper(double width, double height, const bool& accepted)
+        : width_(width), height_(height), accepted_(accepted) {}
+    double width() const override { return width_; }
+    double height() const override { return height_; }
     int resolution() const override { return 96; }
     bool ask() override { return accepted_; }
 
 private:
+    double width_;
+    double height_;
     const bool& accepted_;
 };
 
@@ -49,8 +52,13 @@ private:
 
 } // namespace
 
+std::unique_ptr<Paper> paperOf(double width, double height) {
+    static const bool isAccepted = true;
+    return std::make_unique<RecordedPaper>(width, height, isAccepted);
+}
+
 std::unique_ptr<Paper> RecordingToolkit::makePaper() {
-    return nextPaper ? nextPaper() : std::make_unique<RecordedPaper>(pageSetupReady);
+    return nextPaper ? nextPaper() : std::make_unique<RecordedPaper>(letterWidth, letterHeight, pageSetupReady);
 }
 
 std::unique_ptr<Graphics> RecordingToolkit::openPrinterDialog(const Paper* chosen, int resolution, PrintTarget target) {

@@ -14,6 +14,9 @@
 
 namespace tallyvane {
 
+/// Paper with a printable area of that size, in points.
+std::unique_ptr<Paper> paperOf(double width, double height);
+
 /// A desktop without a screen: it keeps what the program asks of it.
 class RecordingToolkit : public Toolkit {
 public:
