@@ -11,6 +11,7 @@
 
 #include "settings/data_files.h"
 #include "settings/globals.h"
+#include "settings/unsaved_files.h"
 
 // A process for each save would make the fuzzer a hundred times slower: the saves are done in place of it.
 extern "C" pid_t fork() {
@@ -79,6 +80,7 @@ void checkReader(std::string_view name, const std::string& content,
     if (!first)
         return;
     write(name, "");
+    UnsavedFiles::forgetAll(); // else the empty file is another program's, and stays
     save();
     const std::string saved = read(name);
     expectEqual(*first, load().value_or("what the file can't keep apart"), "reads otherwise after it was written");

@@ -152,7 +152,7 @@ std::string fileWindow::textOfList() const {
 
 bool fileWindow::saveFileList() {
     if (ListBox1.ListCount() == 0) {
-        UnsavedFiles::forget(UnsavedFiles::innerName(DataFiles::resources)); // what waits has been removed since
+        UnsavedFiles::forget(userFile()); // what waits has been removed since
         return false;
     }
     return UnsavedFiles::save(userFile(), textOfList());

@@ -101,7 +101,7 @@ std::string text() {
 
 void getPrefs() {
     if (const std::optional<FolderItem> file = preferencesFile()) {
-        if (std::optional<TextInputStream> stream = DataFiles::openText(file))
+        if (std::optional<TextInputStream> stream = UnsavedFiles::openText(DataFiles::preferences, file))
             read(*stream);
         else
             useDefaultFolder();

@@ -97,7 +97,7 @@ void keep() {
     const std::vector<UnsavedFiles::Unsaved> files = UnsavedFiles::all();
     for (const UnsavedFiles::Unsaved& unsaved : files)
         if (isKept(unsaved))
-            UnsavedFiles::forget(unsaved.file.name);
+            UnsavedFiles::forget(unsaved.file);
     const Date now;
     const std::string name = std::string(folderBeginning) + now.isoDate() + " " + now.isoTime();
     if (const std::optional<FolderItem> state = stateFolder(); state && !UnsavedFiles::all().empty())
@@ -117,23 +117,25 @@ std::vector<Rescued> offered() {
     return newest;
 }
 
-void putInPlace(const Rescued& file) {
+std::optional<Failure> putInPlace(const Rescued& file) {
     const std::optional<std::string> content = SystemFiles::read(file.keptAt);
     if (!content)
-        throw IOException("can't read " + file.keptAt, tr("what was kept can't be read"));
+        return Failure{tr("what was kept can't be read"), file.keptAt};
     const UnsavedFiles::UserFile target{file.what, file.name, GetFolderItem(file.place), false};
     try {
         UnsavedFiles::keepPresent(file.place, *content);
         SystemFiles::write(file.place, *content);
     } catch (const IOException& failure) { // it is shown all the same, and saved as soon as that is possible
         UnsavedFiles::wait(target, *content, failure.why());
-        setAside(file);
-        throw;
+        const std::string keptAt = settle(file);
+        setAside(file); // those that were kept before it
+        return Failure{failure.why(), keptAt};
     }
     static_cast<void>(SystemFiles::remove(file.keptAt));
     setAside(file); // those that were kept before it
     for (const FolderItem& folder : folders())
         removeIfDone(folder);
+    return std::nullopt;
 }
 
 std::vector<std::string> setAside(const Rescued& file) {

@@ -2,6 +2,7 @@
 /// kept in the user's folder for temporary state until a later start has offered it.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,10 +23,16 @@ void keep();
 /// What no start has settled: of each file the one that was kept last.
 std::vector<Rescued> offered();
 
+/// Why a file could not be put in its place, for the user, and where it is kept from here on.
+struct Failure {
+    std::string why;
+    std::string keptAt;
+};
+
 /// Puts a file in its place, keeps what stood there beside it, such as "7VXData before 2026-11-23", and sets aside what
-/// was kept of it before. Throws IOException when a disk fails or the place can't be written: the file then waits among
-/// the unsaved ones, so that it is read and saved later, and what was kept of it is set aside too.
-void putInPlace(const Rescued& file);
+/// was kept of it before. When that can't be, the file waits among the unsaved ones, so that it is read and saved
+/// later, and is not offered again.
+std::optional<Failure> putInPlace(const Rescued& file);
 
 /// Leaves all that was kept of a file where it is, under names by which it is not offered again. The paths.
 std::vector<std::string> setAside(const Rescued& file);

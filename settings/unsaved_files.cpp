@@ -21,7 +21,7 @@ struct Known {
 
 struct State {
     std::vector<Unsaved> waiting;
-    std::map<std::string, Known> known; // by name
+    std::map<std::string, Known> known; // by place
 };
 
 /// Never destroyed: a lost display saves after all other objects are gone.
@@ -30,14 +30,20 @@ State& state() {
     return *instance;
 }
 
-std::vector<Unsaved>::iterator waitingFor(std::string_view name) {
-    std::vector<Unsaved>& waiting = state().waiting;
-    return std::find_if(waiting.begin(), waiting.end(),
-                        [&](const Unsaved& unsaved) { return unsaved.file.name == name; });
+std::string keyOf(std::string_view name, const std::optional<FolderItem>& place) {
+    return place ? place->AbsolutePath() : std::string(name);
 }
 
-const Known* knownOf(const std::string& name) {
-    const auto found = state().known.find(name);
+std::string keyOf(const UserFile& file) { return keyOf(file.name, file.place); }
+
+std::vector<Unsaved>::iterator waitingFor(const std::string& key) {
+    std::vector<Unsaved>& waiting = state().waiting;
+    return std::find_if(waiting.begin(), waiting.end(),
+                        [&](const Unsaved& unsaved) { return keyOf(unsaved.file) == key; });
+}
+
+const Known* knownOf(const UserFile& file) {
+    const auto found = state().known.find(keyOf(file));
     return found == state().known.end() ? nullptr : &found->second;
 }
 
@@ -87,33 +93,33 @@ UserFile UserFile::ofInnerFolder(std::string what, std::string_view name) {
 }
 
 void startedFrom(const UserFile& file, const std::string& text) {
-    if (waitingFor(file.name) == state().waiting.end()) // else no disk has it
-        state().known[file.name] = {text, hashAt(file.place)};
+    if (waitingFor(keyOf(file)) == state().waiting.end()) // else no disk has it
+        state().known[keyOf(file)] = {text, hashAt(file.place)};
 }
 
 bool save(const UserFile& file, const std::string& text) {
-    const Known* known = knownOf(file.name);
+    const Known* known = knownOf(file);
     const bool hasChanged = known == nullptr || known->text != text;
     const std::optional<std::size_t> onDisk = hashAt(file.place);
     const bool placeHasChanged = known != nullptr && known->onDisk != onDisk;
-    const bool wasNeverSeen = known != nullptr && !known->onDisk && onDisk; // what stands there now
-    if (wasNeverSeen && !hasChanged) {
-        forget(file.name);
+    const bool isUnseen = onDisk && (known == nullptr || placeHasChanged); // what stands there now
+    if (isUnseen && !hasChanged) {
+        forget(file);
         return true;
     }
     const bool isLost = hasChanged || placeHasChanged; // if it can't be written
     try {
         if (file.makesFolders && file.place)
             SystemFiles::makeFolders(folderOf(file.place->AbsolutePath()));
-        if (wasNeverSeen)
+        if (isUnseen)
             keepPresent(file.place->AbsolutePath(), text);
         const std::optional<std::string> why = writeOrTellWhy(file.place, text);
         if (why && isLost)
             wait(file, text, *why);
         else
-            forget(file.name);
+            forget(file);
         if (!why)
-            state().known[file.name] = {text, std::hash<std::string>()(text)};
+            state().known[keyOf(file)] = {text, std::hash<std::string>()(text)};
         return !why;
     } catch (const IOException& failure) {
         if (isLost)
@@ -123,20 +129,20 @@ bool save(const UserFile& file, const std::string& text) {
 }
 
 bool saveIfChanged(const UserFile& file, const std::string& text) {
-    const Known* known = knownOf(file.name);
+    const Known* known = knownOf(file);
     if (known == nullptr || known->text != text)
         return save(file, text);
-    forget(file.name); // what waits was taken back
+    forget(file); // what waits was taken back
     return true;
 }
 
 std::optional<TextInputStream> openText(std::string_view name, const std::optional<FolderItem>& place) {
-    const auto unsaved = waitingFor(name);
+    const auto unsaved = waitingFor(keyOf(name, place));
     return unsaved != state().waiting.end() ? TextInputStream(unsaved->text) : DataFiles::openText(place);
 }
 
 void wait(const UserFile& file, const std::string& text, const std::string& why) {
-    if (const auto known = waitingFor(file.name); known != state().waiting.end())
+    if (const auto known = waitingFor(keyOf(file)); known != state().waiting.end())
         *known = {file, text, why};
     else
         state().waiting.push_back({file, text, why});
@@ -172,7 +178,7 @@ std::optional<FolderItem> saveInto(const FolderItem& folder, const std::string& 
         SystemFiles::makeFolders(folderOf(path));
         try {
             SystemFiles::write(path, unsaved.text);
-            forget(unsaved.file.name);
+            forget(unsaved.file);
             isAnySafe = true;
         } catch (const IOException&) { // it goes on waiting
         }
@@ -184,8 +190,8 @@ std::optional<FolderItem> saveInto(const FolderItem& folder, const std::string& 
     return std::nullopt;
 }
 
-void forget(const std::string& name) {
-    std::erase_if(state().waiting, [&](const Unsaved& unsaved) { return unsaved.file.name == name; });
+void forget(const UserFile& file) {
+    std::erase_if(state().waiting, [&](const Unsaved& unsaved) { return keyOf(unsaved.file) == keyOf(file); });
 }
 
 void forgetAll() { state() = {}; }

@@ -39,8 +39,8 @@ struct Unsaved {
 };
 
 /// Takes down what the program starts from: `text` is what a save would write if nothing is changed from here on. What
-/// stands at the place and could not be read, or was not there yet, is then never replaced unseen: it stays as long as
-/// nothing is changed, and is kept beside the file otherwise.
+/// comes to stand at the place in another way is never replaced unseen: it stays as long as nothing is changed here,
+/// and is kept beside the file otherwise.
 void startedFrom(const UserFile& file, const std::string& text);
 
 /// Makes the text the content of the file. False, and the text waits, when the file can't be had; also when writing
@@ -69,7 +69,7 @@ std::optional<FolderItem> saveInto(const FolderItem& folder, const std::string& 
 inline constexpr std::string_view listName = "Places";
 
 /// The file is no more, or the user gives its text up: nothing of it waits.
-void forget(const std::string& name);
+void forget(const UserFile& file);
 /// Of all files nothing waits, and nothing is known of what was read.
 void forgetAll();
 

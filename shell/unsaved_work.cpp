@@ -45,25 +45,23 @@ std::string listOf(const std::vector<RescuedFiles::Rescued>& files) {
 }
 
 void putInPlace(const std::vector<RescuedFiles::Rescued>& files, const FolderGuard& mayWriteIn) {
-    std::string held;
+    std::string away;
     std::string failed;
     for (const RescuedFiles::Rescued& file : files) {
-        if (!mayWriteIn(GetFolderItem(file.place.substr(0, file.place.rfind('/'))))) {
-            held.append("\n").append(file.place);
-            continue;
-        }
-        try {
-            RescuedFiles::putInPlace(file);
-        } catch (const IOException& failure) {
-            failed.append("\n").append(tr("%1: %2", {file.what, failure.why()})).append("\n").append(file.place);
-        }
+        const std::optional<FolderItem> folder = GetFolderItem(file.place.substr(0, file.place.rfind('/')));
+        if (!folder || !folder->Directory() || !mayWriteIn(folder))
+            away.append("\n").append(file.place);
+        else if (const std::optional<RescuedFiles::Failure> failure = RescuedFiles::putInPlace(file))
+            failed.append("\n").append(tr("%1: %2", {file.what, failure->why})).append("\n").append(failure->keptAt);
     }
-    if (!held.empty())
-        MsgBox(tr("Another Tallyvane has these open. They will be offered again:\n%1", {held}));
+    if (!away.empty())
+        MsgBox(tr(
+            "The folders of these are not there, or another Tallyvane has them open. They will be offered again:\n%1",
+            {away}));
     if (!failed.empty())
         MsgBox(
             tr("These can't be put in their places yet. They are shown as they were kept, and saved as soon as that is "
-               "possible:\n%1",
+               "possible; until then they are kept here too:\n%1",
                {failed}));
 }
 

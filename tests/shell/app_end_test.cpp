@@ -187,6 +187,17 @@ TEST_F(AppEndTest, DaysThatWereSavedAndWhosePlaceIsGoneAreNotSafe) {
     EXPECT_TRUE(isWhole(kept() / "7VXData")) << "though nothing was typed since";
 }
 
+TEST_F(AppEndTest, WhatAnotherProgramHasWrittenIsNotReplacedUnseen) {
+    app_->Event_Deactivate();
+    write(applicationFile("7VXData"), "11/21/2026@#@7\n"); // on another computer, say
+    app_->Event_Deactivate();
+    EXPECT_EQ(read(applicationFile("7VXData")), "11/21/2026@#@7\n") << "nothing was typed here";
+    app_->window1()->BevelButton1_Action();
+    app_->FileQuit_Action();
+    EXPECT_TRUE(isWhole(applicationFile("7VXData")));
+    EXPECT_EQ(read(applicationFile("7VXData before 2026-11-22")), "11/21/2026@#@7\n");
+}
+
 TEST_F(AppEndTest, ATableThatAppearsLaterIsNotEmptied) {
     app_.reset();
     StartupGlobals::gDataFolder.reset();
