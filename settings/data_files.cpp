@@ -3,7 +3,8 @@
 namespace tallyvane::DataFiles {
 
 std::optional<FolderItem> placeIn(const FolderItem& folder, std::string_view name) {
-    return GetFolderItem(folder.AbsolutePath() + "/" + std::string(name));
+    const std::string& path = folder.AbsolutePath();
+    return GetFolderItem(path + (path.ends_with('/') ? "" : "/") + std::string(name));
 }
 
 std::string numbered(const std::string& name, int number) {

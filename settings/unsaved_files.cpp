@@ -17,6 +17,7 @@ namespace {
 struct Known {
     std::string text; // that a save would write if nothing has changed
     std::optional<std::size_t> onDisk; // hash of what stood at its place; nothing for what was not there or unreadable
+    bool hasChangedHere = false; // since the start
 };
 
 struct State {
@@ -47,9 +48,11 @@ const Known* knownOf(const UserFile& file) {
     return found == state().known.end() ? nullptr : &found->second;
 }
 
+std::size_t hashOf(const std::string& text) { return std::hash<std::string>()(text); }
+
 std::optional<std::size_t> hashAt(const std::optional<FolderItem>& place) {
     const std::optional<std::string> content = place ? SystemFiles::read(place->AbsolutePath()) : std::nullopt;
-    return content ? std::optional(std::hash<std::string>()(*content)) : std::nullopt;
+    return content ? std::optional(hashOf(*content)) : std::nullopt;
 }
 
 /// Makes the text the content of a file. Why that can't be, for the user; nothing when it is done. Throws IOException
@@ -84,8 +87,9 @@ std::string innerName(std::string_view name) {
 }
 
 UserFile UserFile::ofApplication(std::string what, std::string_view name) {
-    const std::optional<FolderItem> folder = DataFiles::applicationFolder();
-    return {std::move(what), std::string(name), folder ? DataFiles::placeIn(*folder, name) : std::nullopt, true};
+    const std::optional<FolderItem>& data = SpecialFolder::ApplicationData; // also while it is away
+    const std::string path = std::string(DataFiles::applicationName) + "/" + std::string(name);
+    return {std::move(what), std::string(name), data ? DataFiles::placeIn(*data, path) : std::nullopt, true};
 }
 
 UserFile UserFile::ofInnerFolder(std::string what, std::string_view name) {
@@ -94,7 +98,7 @@ UserFile UserFile::ofInnerFolder(std::string what, std::string_view name) {
 
 void startedFrom(const UserFile& file, const std::string& text) {
     if (waitingFor(keyOf(file)) == state().waiting.end()) // else no disk has it
-        state().known[keyOf(file)] = {text, hashAt(file.place)};
+        state().known[keyOf(file)] = {text, hashAt(file.place), false};
 }
 
 bool save(const UserFile& file, const std::string& text) {
@@ -103,7 +107,8 @@ bool save(const UserFile& file, const std::string& text) {
     const std::optional<std::size_t> onDisk = hashAt(file.place);
     const bool placeHasChanged = known != nullptr && known->onDisk != onDisk;
     const bool isUnseen = onDisk && (known == nullptr || placeHasChanged); // what stands there now
-    if (isUnseen && !hasChanged) {
+    const bool hasChangedHere = hasChanged || known->hasChangedHere;
+    if (isUnseen && !hasChangedHere && onDisk != hashOf("")) {
         forget(file);
         return true;
     }
@@ -119,7 +124,7 @@ bool save(const UserFile& file, const std::string& text) {
         else
             forget(file);
         if (!why)
-            state().known[keyOf(file)] = {text, std::hash<std::string>()(text)};
+            state().known[keyOf(file)] = {text, hashOf(text), hasChangedHere};
         return !why;
     } catch (const IOException& failure) {
         if (isLost)

@@ -44,11 +44,18 @@ std::string listOf(const std::vector<RescuedFiles::Rescued>& files) {
     return list;
 }
 
+bool isInApplicationFolder(const std::string& path) {
+    const std::optional<FolderItem> folder = DataFiles::applicationFolder();
+    return folder && path.starts_with(folder->AbsolutePath() + "/");
+}
+
 void putInPlace(const std::vector<RescuedFiles::Rescued>& files, const FolderGuard& mayWriteIn) {
     std::string away;
     std::string failed;
     for (const RescuedFiles::Rescued& file : files) {
         const std::optional<FolderItem> folder = GetFolderItem(file.place.substr(0, file.place.rfind('/')));
+        if (isInApplicationFolder(file.place)) // which may lack the folder inside it
+            SystemFiles::makeFolders(folder->AbsolutePath());
         if (!folder || !folder->Directory() || !mayWriteIn(folder))
             away.append("\n").append(file.place);
         else if (const std::optional<RescuedFiles::Failure> failure = RescuedFiles::putInPlace(file))

@@ -189,13 +189,19 @@ TEST_F(AppEndTest, DaysThatWereSavedAndWhosePlaceIsGoneAreNotSafe) {
 
 TEST_F(AppEndTest, WhatAnotherProgramHasWrittenIsNotReplacedUnseen) {
     app_->Event_Deactivate();
-    write(applicationFile("7VXData"), "11/21/2026@#@7\n"); // on another computer, say
-    app_->Event_Deactivate();
-    EXPECT_EQ(read(applicationFile("7VXData")), "11/21/2026@#@7\n") << "nothing was typed here";
-    app_->window1()->BevelButton1_Action();
+    const auto writeElsewhere = [this] { write(applicationFile("7VXData"), "11/21/2026@#@7\n"); };
+    writeElsewhere(); // an older table that a synchronised folder puts back, say
     app_->FileQuit_Action();
-    EXPECT_TRUE(isWhole(applicationFile("7VXData")));
+    EXPECT_TRUE(isWhole(applicationFile("7VXData"))) << "what was typed here, though it was saved before";
     EXPECT_EQ(read(applicationFile("7VXData before 2026-11-22")), "11/21/2026@#@7\n");
+
+    app_.reset();
+    StartupGlobals::gDataFolder.reset();
+    app_ = std::make_unique<App>();
+    app_->Event_Open();
+    writeElsewhere();
+    app_->FileQuit_Action();
+    EXPECT_EQ(read(applicationFile("7VXData")), "11/21/2026@#@7\n") << "nothing was typed here";
 }
 
 TEST_F(AppEndTest, ATableThatAppearsLaterIsNotEmptied) {
