@@ -10,12 +10,6 @@ namespace tallyvane::DayTable {
 
 namespace {
 
-/// Nil when there is no data folder, or none any more.
-std::optional<FolderItem> file() {
-    const std::optional<FolderItem>& folder = StartupGlobals::gDataFolder;
-    return folder ? folder->Child(DataFiles::dayTable) : std::nullopt;
-}
-
 UnsavedFiles::UserFile userFile() {
     const std::optional<FolderItem>& folder = StartupGlobals::gDataFolder;
     return {tr("Your days"), std::string(DataFiles::dayTable),
@@ -56,7 +50,7 @@ void save(const Listbox& table) { UnsavedFiles::save(userFile(), textOf(table));
 void startedFrom(const Listbox& table) { UnsavedFiles::startedFrom(userFile(), textOf(table)); }
 
 bool load(Listbox& table) {
-    std::optional<TextInputStream> stream = UnsavedFiles::openText(DataFiles::dayTable, file());
+    std::optional<TextInputStream> stream = UnsavedFiles::openText(userFile());
     if (!stream)
         return false;
     while (!stream->EndOfFile()) {

@@ -34,8 +34,7 @@ void startedFrom() { UnsavedFiles::startedFrom(userFile(), logRecord()); }
 
 std::string load(const std::function<void(std::string)>& showJournal) {
     std::string journal;
-    if (auto stream =
-            UnsavedFiles::openText(DataFiles::runningLogs, DataFiles::applicationFile(DataFiles::runningLogs))) {
+    if (auto stream = UnsavedFiles::openText(userFile())) {
         const LogRecord record = readLogRecord(*stream);
         journal = withLineEnds(record.journal);
         Globals::gExercise = record.exercise;

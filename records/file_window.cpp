@@ -122,7 +122,7 @@ void fileWindow::getFileList() {
     const std::optional<FolderItem> file = DataFiles::innerFile(DataFiles::resources);
     if (file && file->Exists())
         listFile = file;
-    std::optional<TextInputStream> stream = UnsavedFiles::openText(UnsavedFiles::innerName(DataFiles::resources), file);
+    std::optional<TextInputStream> stream = UnsavedFiles::openText(userFile());
     if (!stream)
         return;
     std::string_view text = stream->ReadAll();

@@ -63,8 +63,7 @@ std::array<logsWindow::Page, 3> logsWindow::pages() {
 }
 
 void logsWindow::getLogs() {
-    std::optional<TextInputStream> stream = UnsavedFiles::openText(UnsavedFiles::innerName(DataFiles::runningLogs),
-                                                                   DataFiles::innerFile(DataFiles::runningLogs));
+    std::optional<TextInputStream> stream = UnsavedFiles::openText(userFile());
     if (!stream)
         return;
     const LogRecord record = readLogRecord(*stream);

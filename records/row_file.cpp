@@ -7,7 +7,7 @@
 namespace tallyvane::RowFile {
 
 bool load(Listbox& list, std::string_view name, bool replace) {
-    std::optional<TextInputStream> stream = UnsavedFiles::openText(name, DataFiles::applicationFile(name));
+    std::optional<TextInputStream> stream = UnsavedFiles::openText(UnsavedFiles::UserFile::ofApplication({}, name));
     if (!stream)
         return false;
     if (replace)

@@ -6,14 +6,21 @@
 
 namespace tallyvane {
 
+namespace {
+
+UnsavedFiles::UserFile userFile() {
+    return UnsavedFiles::UserFile::ofApplication(tr("The headings"), DataFiles::headings);
+}
+
+} // namespace
+
 Headings defaultHeadings() {
     return {tr("Breakfast"), tr("Lunch"),  tr("Supper"), tr("Weight"),     tr("Before"),  tr("After"), tr("Before"),
             tr("After"),     tr("Before"), tr("After"),  tr("Before Bed"), tr("Average"), tr("Weight")};
 }
 
 std::optional<Headings> readHeadings() {
-    std::optional<TextInputStream> stream =
-        UnsavedFiles::openText(DataFiles::headings, DataFiles::applicationFile(DataFiles::headings));
+    std::optional<TextInputStream> stream = UnsavedFiles::openText(userFile());
     if (!stream)
         return std::nullopt;
     Headings headings;
@@ -23,10 +30,6 @@ std::optional<Headings> readHeadings() {
 }
 
 namespace {
-
-UnsavedFiles::UserFile userFile() {
-    return UnsavedFiles::UserFile::ofApplication(tr("The headings"), DataFiles::headings);
-}
 
 std::string textOf(const Headings& headings) {
     TextWriter lines;

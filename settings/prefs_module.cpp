@@ -21,7 +21,7 @@ bool isTrue(std::string_view line) { return compareTexts(line, "true") == 0; }
 std::string_view truth(bool value) { return value ? "true" : "false"; }
 
 /// Where the preferences are looked for: the application's folder, and the user's synchronised folder where the
-/// desktop gives no place for the first. Nil when neither can be had.
+/// desktop gives no place for the first. Empty when neither can be had.
 std::optional<FolderItem> preferencesFile() {
     if (std::optional<FolderItem> file = DataFiles::applicationFile(DataFiles::preferences))
         return file;
@@ -101,7 +101,7 @@ std::string text() {
 
 void getPrefs() {
     if (const std::optional<FolderItem> file = preferencesFile()) {
-        if (std::optional<TextInputStream> stream = UnsavedFiles::openText(DataFiles::preferences, file))
+        if (std::optional<TextInputStream> stream = DataFiles::openText(file))
             read(*stream);
         else
             useDefaultFolder();

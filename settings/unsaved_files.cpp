@@ -31,11 +31,7 @@ State& state() {
     return *instance;
 }
 
-std::string keyOf(std::string_view name, const std::optional<FolderItem>& place) {
-    return place ? place->AbsolutePath() : std::string(name);
-}
-
-std::string keyOf(const UserFile& file) { return keyOf(file.name, file.place); }
+std::string keyOf(const UserFile& file) { return file.place ? file.place->AbsolutePath() : file.name; }
 
 std::vector<Unsaved>::iterator waitingFor(const std::string& key) {
     std::vector<Unsaved>& waiting = state().waiting;
@@ -82,10 +78,6 @@ std::string listOf(const std::vector<Unsaved>& files) {
 
 } // namespace
 
-std::string innerName(std::string_view name) {
-    return std::string(DataFiles::applicationName) + "/" + std::string(name);
-}
-
 UserFile UserFile::ofApplication(std::string what, std::string_view name) {
     const std::optional<FolderItem>& data = SpecialFolder::ApplicationData; // also while it is away
     const std::string path = std::string(DataFiles::applicationName) + "/" + std::string(name);
@@ -93,7 +85,7 @@ UserFile UserFile::ofApplication(std::string what, std::string_view name) {
 }
 
 UserFile UserFile::ofInnerFolder(std::string what, std::string_view name) {
-    return ofApplication(std::move(what), innerName(name));
+    return ofApplication(std::move(what), std::string(DataFiles::applicationName) + "/" + std::string(name));
 }
 
 void startedFrom(const UserFile& file, const std::string& text) {
@@ -141,9 +133,9 @@ bool saveIfChanged(const UserFile& file, const std::string& text) {
     return true;
 }
 
-std::optional<TextInputStream> openText(std::string_view name, const std::optional<FolderItem>& place) {
-    const auto unsaved = waitingFor(keyOf(name, place));
-    return unsaved != state().waiting.end() ? TextInputStream(unsaved->text) : DataFiles::openText(place);
+std::optional<TextInputStream> openText(const UserFile& file) {
+    const auto unsaved = waitingFor(keyOf(file));
+    return unsaved != state().waiting.end() ? TextInputStream(unsaved->text) : DataFiles::openText(file.place);
 }
 
 void wait(const UserFile& file, const std::string& text, const std::string& why) {

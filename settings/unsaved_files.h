@@ -17,7 +17,7 @@ struct UserFile {
     std::string what;
     /// Its path within a folder that holds all of them: "7VXData", "Tallyvane/QVXFileData".
     std::string name;
-    /// Where it belongs; nil where the desktop has no place for it.
+    /// Where it belongs; empty where the desktop has no place for it.
     std::optional<FolderItem> place;
 
     /// Whether a save makes the folders that are missing.
@@ -27,9 +27,6 @@ struct UserFile {
     static UserFile ofApplication(std::string what, std::string_view name);
     static UserFile ofInnerFolder(std::string what, std::string_view name);
 };
-
-/// The name of a file of the folder inside the application's.
-std::string innerName(std::string_view name);
 
 /// A file that the disk did not take.
 struct Unsaved {
@@ -49,8 +46,8 @@ bool save(const UserFile& file, const std::string& text);
 /// The same, but nothing for a text that has not changed since it was read or saved.
 bool saveIfChanged(const UserFile& file, const std::string& text);
 
-/// The text that waits for that file, or else the file; nil for a file that is nil, missing or unreadable.
-std::optional<TextInputStream> openText(std::string_view name, const std::optional<FolderItem>& place);
+/// The text that waits for that file, or else the file; none for one that has no place, is missing or unreadable.
+std::optional<TextInputStream> openText(const UserFile& file);
 
 /// Has a text wait that no disk has.
 void wait(const UserFile& file, const std::string& text, const std::string& why);
@@ -62,7 +59,7 @@ const std::vector<Unsaved>& all();
 void tryAgain();
 
 /// Writes them into a new folder inside that one, with a list of the places where they belong, and forgets those that
-/// are safe there. The new folder is named `name`, or "name 2" and so on where that is taken; nil when it or the list
+/// are safe there. The new folder is named `name`, or "name 2" and so on where that is taken; empty when it or the list
 /// nothing can be written. A file that can't be written goes on waiting.
 std::optional<FolderItem> saveInto(const FolderItem& folder, const std::string& name);
 /// In such a folder: a line for each file, with what it is, its name and its place.

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/text.h"
+#include "settings/unsaved_files.h"
 #include "support/failing_disk.h"
 #include "support/test_desk.h"
 
@@ -43,6 +44,30 @@ TEST_F(InfoWindowTest, WhatWasReadIsWrittenAgain) {
     EXPECT_FALSE(info_.isOpen());
     EXPECT_EQ(read(applicationFile("QVXContacts")), contacts);
     EXPECT_EQ(read(applicationFile("QVXMedications")), medications);
+}
+
+TEST_F(InfoWindowTest, WhatNoFolderTookIsThereAgain) {
+    const auto typedThenOpenedAgain = [](const std::string& name) {
+        {
+            InfoWindow first;
+            first.Show();
+            first.ListBox1.ListIndex(0);
+            first.EditField2.userChanged(name, 0, 0);
+            try {
+                first.Close();
+            } catch (const IOException&) {
+                // it waits all the same
+            }
+        }
+        InfoWindow second;
+        second.Show();
+        return second.ListBox1.Cell(0, 1);
+    };
+    write(folder_ / "Tallyvane", "a file where the folder belongs");
+    EXPECT_EQ(typedThenOpenedAgain("Dr A"), "Dr A");
+    UnsavedFiles::forgetAll();
+    SpecialFolder::ApplicationData.reset();
+    EXPECT_EQ(typedThenOpenedAgain("Dr B"), "Dr B") << "a desktop without a folder for it";
 }
 
 TEST_F(InfoWindowTest, AFailureOfOneFileDoesNotCostTheOther) {
