@@ -18,7 +18,7 @@ public:
     enum ButtonTypes { noPicture = 0, addButton = 1, removeButton = 2, actionMenuButton = 3, deleteButton = 5 };
     int ButtonType = noPicture;
     bool Toggle = false;
-    /// The label that is bold while the button is pressed; nil for none.
+    /// The label that is bold while the button is pressed; null for none.
     StaticText* myText = nullptr;
 
     std::optional<Picture> enabledIcon;

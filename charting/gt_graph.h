@@ -28,9 +28,9 @@ public:
     void addSeries(std::shared_ptr<GTSeries> s);
     void addLabel(std::shared_ptr<GTLabel> l);
     int count() const { return static_cast<int>(mySeries.size()); }
-    /// Nil for an index that no series has.
+    /// Null for an index that no series has.
     std::shared_ptr<GTSeries> Series(int index) const;
-    /// The first series of that name; nil when there is none.
+    /// The first series of that name; null when there is none.
     std::shared_ptr<GTSeries> Series(const std::string& name) const;
     /// Gives all series the range that holds the ranges of all. A point added later takes its series out of it again.
     void NormalizeRanges();

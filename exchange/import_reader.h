@@ -23,7 +23,7 @@ public:
         return std::chrono::duration_cast<Milliseconds>(std::chrono::steady_clock::now().time_since_epoch());
     };
 
-    /// Takes the file from the disk at one go. Nil for what is no plain file or can't be read.
+    /// Takes the file from the disk at one go. Null for what is no plain file or can't be read.
     [[nodiscard]] static std::unique_ptr<ImportReader> open(const FolderItem& file, std::string delimiter);
 
     /// Reads on for about so long, a few lines at the least. True when the file is at its end.

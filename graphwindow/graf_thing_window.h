@@ -27,7 +27,7 @@ public:
     StaticText StaticText8;
     AutoButton Canvas2; // print
 
-    /// The graph on show; nil before the first one is built.
+    /// The graph on show; null before the first one is built.
     std::unique_ptr<GTGraph> grafThing1;
     /// Whether it is that of the weights.
     bool graphWeight = false;

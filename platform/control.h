@@ -57,7 +57,7 @@ public:
         height_ = height;
     }
 
-    /// The one observer; nil for none. The control does not own it.
+    /// The one observer; null for none. The control does not own it.
     void observe(ControlObserver* observer) { observer_ = observer; }
 
 protected:

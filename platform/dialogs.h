@@ -16,7 +16,7 @@ struct SaveAsDialog {
     /// What the name ends in, such as ".txt": it is put behind a name without it. "" leaves names as they are.
     std::string Suffix = {};
 
-    /// Nil when the user cancelled.
+    /// Empty when the user cancelled.
     [[nodiscard]] std::optional<FolderItem> ShowModal() const;
 };
 
@@ -27,7 +27,7 @@ struct OpenDialog {
     /// all files, since a text can have any name.
     std::string Filter = "all";
 
-    /// Nil when the user cancelled.
+    /// Empty when the user cancelled.
     [[nodiscard]] std::optional<FolderItem> ShowModal() const;
 };
 
@@ -35,7 +35,7 @@ struct OpenDialog {
 struct SelectFolderDialog {
     std::string Title;
 
-    /// Nil when the user cancelled.
+    /// Empty when the user cancelled.
     [[nodiscard]] std::optional<FolderItem> ShowModal() const;
 };
 

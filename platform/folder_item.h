@@ -9,10 +9,10 @@
 
 namespace tallyvane {
 
-/// A place on disk, whether something stands there or not. "Nil" is an empty optional.
+/// A place on disk, whether something stands there or not. An empty optional stands for none.
 class FolderItem {
 public:
-    /// A "/" in the name of a child is kept on disk as ":". Nil when this folder does not exist, or the name is
+    /// A "/" in the name of a child is kept on disk as ":". Empty when this folder does not exist, or the name is
     /// empty, "." or "..".
     [[nodiscard]] std::optional<FolderItem> Child(std::string_view name) const;
 
@@ -30,7 +30,7 @@ public:
     /// A text from which the file can be found again: a "file:" address without "@", "#", "www" or line ends, so that
     /// it is taken neither for a link nor for a separator.
     std::string GetSaveInfo() const;
-    /// The file that such a text names. Nil for any other text, and for a file that is not there any more.
+    /// The file that such a text names. Empty for any other text, and for a file that is not there any more.
     [[nodiscard]] static std::optional<FolderItem> GetRelative(std::string_view saveInfo);
 
     /// Opens the file in the desktop's program for it; nothing when it is not there. A message tells when there is
@@ -41,7 +41,7 @@ public:
 
     /// Makes the folder, for its owner alone. False when it could not be made.
     [[nodiscard]] bool CreateAsFolder() const;
-    /// Nil for what is no plain file or can't be read.
+    /// Empty for what is no plain file or can't be read.
     [[nodiscard]] std::optional<TextInputStream> OpenAsTextFile() const;
 
     bool operator==(const FolderItem&) const = default;
@@ -53,10 +53,10 @@ private:
     std::string path_;
 };
 
-/// The place of an absolute path. Nil for any other text. `pathType` 0 is the only kind of path there is.
+/// The place of an absolute path. Empty for any other text. `pathType` 0 is the only kind of path there is.
 [[nodiscard]] std::optional<FolderItem> GetFolderItem(std::string_view path, int pathType = 0);
 
-/// Folders of the desktop. Set once at start; nil where the desktop has none.
+/// Folders of the desktop. Set once at start; empty where the desktop has none.
 namespace SpecialFolder {
 inline std::optional<FolderItem> ApplicationData;
 inline std::optional<FolderItem> UserHome;

@@ -183,8 +183,8 @@ public:
     std::function<void()> Open;
     std::function<void()> Change;
     std::function<bool(int row, int column, int x, int y)> CellClick;
-    /// A key in the open cell; true when it was consumed. Those that type no text come as `Keys` (platform/keys.h) names
-    /// them.
+    /// A key in the open cell; true when it was consumed. Those that type no text come as `Keys` (platform/keys.h)
+    /// names them.
     std::function<bool(int row, int column, const std::string& key)> CellKeyDown;
     std::function<void(int row, int column)> CellTextChange;
     std::function<bool(int column)> HeaderPressed;
@@ -223,7 +223,7 @@ private:
         std::vector<std::string> cells;
         std::uint64_t revision = 0;
         bool selected = false;
-        std::unique_ptr<RowLook> look; // nil for a row like all others
+        std::unique_ptr<RowLook> look; // null for a row like all others
     };
 
     static std::size_t index(int i) { return static_cast<std::size_t>(i); }

@@ -6,7 +6,7 @@ namespace tallyvane {
 
 namespace {
 
-/// The handler of that name; nil when there is none.
+/// The handler of that name; null when there is none.
 const std::function<void()>* handlerOf(const MenuHandlers& handlers, std::string_view name) {
     const auto found = handlers.find(name);
     return found == handlers.end() ? nullptr : &found->second;

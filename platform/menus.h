@@ -61,7 +61,7 @@ public:
     /// Answers that hold whatever window is in front.
     MenuHandlers handlers;
 
-    /// Settles which items are enabled with that window in front (nil: none of ours): those that it or `handlers`
+    /// Settles which items are enabled with that window in front (null: none of ours): those that it or `handlers`
     /// answer, and of those that are not AutoEnable only what the window's Event_EnableMenuItems enables. An item
     /// that nothing answers is never enabled. Editing items are the platform's.
     void enableItems(Window* front);

@@ -60,7 +60,7 @@ public:
         assert(bitmap_ != nullptr);
         return bitmap_->surface();
     }
-    /// Nil for a picture that is no bitmap.
+    /// Null for a picture that is no bitmap.
     tallyvane::Bitmap* Bitmap() const { return bitmap_.get(); }
 
     bool operator==(const Picture&) const = default;

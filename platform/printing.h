@@ -55,12 +55,12 @@ private:
 /// What the print dialog offers first; the user can choose another.
 enum class PrintTarget { printer, pdf };
 
-/// Shows the print dialog; without a set-up the paper is the printer's own, and counts in points. Nil when the user
+/// Shows the print dialog; without a set-up the paper is the printer's own, and counts in points. Null when the user
 /// cancelled. What is drawn goes to paper when the surface goes out of being.
 [[nodiscard]] std::unique_ptr<Graphics> OpenPrinterDialog(const PrinterSetup* setup = nullptr,
                                                           PrintTarget target = PrintTarget::printer);
 
-/// Shows the page set-up dialog, then the print dialog for that set-up. Nil when the user cancelled one of them.
+/// Shows the page set-up dialog, then the print dialog for that set-up. Null when the user cancelled one of them.
 [[nodiscard]] std::unique_ptr<Graphics> askForPages(PrinterSetup& setup);
 
 /// Lays a text out on one page after the other, in the desktop's own font at 12 points. Lines are broken between words;

@@ -56,7 +56,7 @@ void removeEmptyFolder(const std::string& path);
 /// still being made; nothing in the file changes before `replace`.
 class Replacement {
 public:
-    /// Opens the file, and makes one for its owner alone where there is none. Nil for what is no plain file or
+    /// Opens the file, and makes one for its owner alone where there is none. Null for what is no plain file or
     /// can't be opened for writing; `why` then gets the reason, for the user.
     [[nodiscard]] static std::unique_ptr<Replacement> open(const std::string& path, std::string* why = nullptr);
 
@@ -85,7 +85,7 @@ void write(const std::string& path, const std::string& text);
 /// Holds a folder for this program as long as it lives. Ends with the process, however that ends.
 class FolderClaim {
 public:
-    /// Nil when another process holds the folder for 0.4 seconds more. A disk that knows no claims gives it to all.
+    /// Null when another process holds the folder for 0.4 seconds more. A disk that knows no claims gives it to all.
     [[nodiscard]] static std::unique_ptr<FolderClaim> take(const std::string& path);
 
     /// Whether that path leads to the folder that is held, by whatever way.

@@ -47,7 +47,7 @@ private:
 /// Takes a text together and replaces a file by it on Close. A stream that goes without Close leaves the file alone.
 class TextOutputStream : public TextWriter {
 public:
-    /// Nil for what is no plain file or can't be opened for writing.
+    /// Empty for what is no plain file or can't be opened for writing.
     [[nodiscard]] static std::optional<TextOutputStream> Create(const FolderItem& file);
 
     /// Replaces the file. Throws IOException, with the old content in place, when it can't. The stream ends here.

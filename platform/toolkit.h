@@ -45,8 +45,8 @@ public:
     virtual std::string askForFolder(const SelectFolderDialog& dialog) = 0;
     /// Paper as the printer has it.
     virtual std::unique_ptr<Paper> makePaper() = 0;
-    /// The pages to print on, that many dots to an inch, after the print dialog; nil when that was cancelled. `paper`
-    /// can be nil.
+    /// The pages to print on, that many dots to an inch, after the print dialog; null when that was cancelled. `paper`
+    /// can be null.
     virtual std::unique_ptr<Graphics> openPrinterDialog(const Paper* paper, int resolution, PrintTarget target) = 0;
     /// Starts to fetch the page of an "http" address into a file. `done` is called once with the server's status when
     /// the page has come whole, in time and in bounds, and never otherwise.
@@ -59,7 +59,7 @@ public:
     /// Ends the event loop with that exit code.
     virtual void quit(int code) = 0;
 
-    /// Nil when there is none.
+    /// Null when there is none.
     static Toolkit* inForce();
     /// The caller keeps the toolkit and takes it out of force before it goes.
     static void putInForce(Toolkit* toolkit);

@@ -47,7 +47,7 @@ struct Placement {
     /// In the window as it is created. Timers have none.
     Rect frame = {};
     unsigned locks = lockLeft | lockTop;
-    /// The tab panel and the page that the control stands on; nil for the window itself.
+    /// The tab panel and the page that the control stands on; null for the window itself.
     TabPanel* panel = nullptr;
     int page = 0;
 };
@@ -113,10 +113,10 @@ public:
     const std::vector<Placement>& placements() const { return placements_; }
     /// Where a control of the table stands now.
     Rect frameOf(const Placement& placement) const;
-    /// The menu bar and the toolbar that the window carries; nil for none.
+    /// The menu bar and the toolbar that the window carries; null for none.
     MenuBar* menuBar() const { return menuBar_; }
     Toolbar* toolbar() const { return toolbar_; }
-    /// The window that this one is modal to or belongs to; nil for none.
+    /// The window that this one is modal to or belongs to; null for none.
     Window* owner() const { return owner_; }
 
     /// Answers to menu items that hold while this window is in front.

@@ -20,24 +20,24 @@ inline constexpr std::string_view lineEndMark = "$%$";
 
 /// The place of a file in a folder, whether that is there or not. The name has no "/" but between folders.
 std::optional<FolderItem> placeIn(const FolderItem& folder, std::string_view name);
-/// The first of "name", "name 2", "name 3" and so on that a folder does not hold yet; nil when that folder is not
+/// The first of "name", "name 2", "name 3" and so on that a folder does not hold yet; empty when that folder is not
 /// there.
 std::optional<FolderItem> freePlace(const FolderItem& folder, const std::string& name);
 /// The name of that number in such a row, from 1.
 std::string numbered(const std::string& name, int number);
 
-/// The application's own folder in the desktop's folder for application data. Nil where the desktop has none.
+/// The application's own folder in the desktop's folder for application data. Empty where the desktop has none.
 std::optional<FolderItem> applicationFolder();
-/// A file of the application's folder; nil when that folder does not exist.
+/// A file of the application's folder; empty when that folder does not exist.
 std::optional<FolderItem> applicationFile(std::string_view name);
 /// The same, with the folder made first where it is missing; its place also where it can't be made.
 std::optional<FolderItem> applicationFileToWrite(std::string_view name);
-/// A file of the folder of that same name inside the application's folder, where some windows keep theirs; nil when it
-/// does not exist.
+/// A file of the folder of that same name inside the application's folder, where some windows keep theirs; empty when
+/// it does not exist.
 std::optional<FolderItem> innerFile(std::string_view name);
-/// A stream on a file that may be nil, missing or unreadable; all three give nil.
+/// A stream on a file; none without a file, and for one that is missing or unreadable.
 std::optional<TextInputStream> openText(const std::optional<FolderItem>& file);
-/// A stream that replaces a file; nil for a nil file and for one that can't be opened.
+/// A stream that replaces a file; none without a file, and for one that can't be opened.
 std::optional<TextOutputStream> createText(const std::optional<FolderItem>& file);
 
 inline constexpr std::string_view applicationName = "Tallyvane";

@@ -39,14 +39,14 @@ extern bool gFileWindowOpen;
 extern bool gFilesOpen;
 /// A graph is being printed on a page that has its legend below the graph.
 extern bool gPrintingOn;
-/// The page set-up of the reports; nil until one is made. It lasts to the end of the program.
+/// The page set-up of the reports; null until one is made. It lasts to the end of the program.
 extern std::unique_ptr<PrinterSetup> ps;
 
 } // namespace Globals
 
 namespace StartupGlobals {
 
-/// The folder that holds the day table; nil until it is settled at start.
+/// The folder that holds the day table; empty until it is settled at start.
 extern std::optional<FolderItem> gDataFolder;
 /// The data folder that the preferences name but that is not there; "" normally. The preferences go on naming it, so
 /// that a start after its return finds it again.

@@ -24,7 +24,7 @@
 
 namespace tallyvane {
 
-/// The main window, kept for the splash window; nil until it is there.
+/// The main window, kept for the splash window; null until it is there.
 namespace StartUpManager {
 extern Window1* primaryWindow;
 }
@@ -67,7 +67,7 @@ public:
     /// Opens the import for a file of that path, once the main window is there; "" for none.
     void offerForImport(const std::string& path);
 
-    /// Nil before Event_Open, and in a second start.
+    /// Null before Event_Open, and in a second start.
     Window1* window1() { return window1_.get(); }
     SplashWindow* splashWindow() { return splash_.get(); }
     AboutWindow* aboutWindow() { return about_.get(); }
@@ -107,7 +107,7 @@ private:
     std::unique_ptr<SplashWindow> splash_;
     std::string fileToImport_; // a path that waits for the main window; "" for none
     bool hasHandedOver_ = false; // the splash window, with all that had to be told
-    std::function<void()> offerDone_; // of an offer that waits for the main window; nil for none
+    std::function<void()> offerDone_; // of an offer that waits for the main window; empty for none
     std::unique_ptr<newVersionWindow> newVersion_;
     std::unique_ptr<AboutWindow> about_;
     std::unique_ptr<PrefsWindow> prefs_;

@@ -15,7 +15,7 @@ class Window;
 /// Shows the menu bar. Qt itself moves Quit, About and Preferences to the application menu where the desktop has one.
 class MenuPeer : public QMenuBar {
 public:
-    /// `front` gives the window of ours that is in front, or nil.
+    /// `front` gives the window of ours that is in front, or null.
     MenuPeer(MenuBar& bar, std::function<Window*()> front, QWidget* parent);
 
 private:

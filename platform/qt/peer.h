@@ -19,7 +19,7 @@ public:
 };
 
 /// A widget that shows a control and hears its changes. Control and widget may go in either order; after that, or
-/// after detach, control_ is nil.
+/// after detach, control_ is null.
 template <class Widget, class ControlType, class Observer = ControlObserver>
 class Peer : public Widget, public Observer, public WidgetPeer {
 public:

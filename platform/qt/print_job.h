@@ -42,7 +42,7 @@ struct PrinterAndPainter {
 /// The pages of one print: the printable area of the paper. They go to the printer when the job goes.
 class PrintJob : private PrinterAndPainter, public PainterGraphics {
 public:
-    /// Nil when the printer takes nothing, such as a file that can't be written.
+    /// Null when the printer takes nothing, such as a file that can't be written.
     static std::unique_ptr<PrintJob> begin(std::unique_ptr<QPrinter> printer, int resolution);
 
     void NextPage() override { printer->newPage(); }

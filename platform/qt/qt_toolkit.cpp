@@ -28,7 +28,7 @@ namespace tallyvane {
 
 namespace {
 
-/// The frame of a window that is on the screen; nil when it is not.
+/// The frame of a window that is on the screen; null when it is not.
 WindowFrame* frameOf(const Window* window) {
     for (QWidget* widget : QApplication::topLevelWidgets()) {
         auto* frame = dynamic_cast<WindowFrame*>(widget);

@@ -39,7 +39,7 @@ public:
     int quitCode() const { return quitCode_; }
 
 private:
-    std::unique_ptr<QNetworkAccessManager> network_; // nil until it is needed
+    std::unique_ptr<QNetworkAccessManager> network_; // null until it is needed
     bool quitAsked_ = false;
     int quitCode_ = 0;
 };

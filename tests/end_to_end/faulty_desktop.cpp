@@ -14,7 +14,7 @@
 
 namespace {
 
-/// The line that follows the word in the file; nil when the word is not there.
+/// The line that follows the word in the file; null when the word is not there.
 const char* fault(const char* word) {
     static thread_local char text[256];
     const char* path = std::getenv("FAULTS");

@@ -100,7 +100,7 @@ public:
     std::function<std::unique_ptr<Paper>()> nextPaper; // in place of the usual letter paper
     std::vector<PrintTarget> printDialogs; // that were shown
     const Paper* paper = nullptr; // that was given to the last of them
-    std::unique_ptr<Paper> printerPaper; // that the user chooses in the print dialog; nil leaves what was given
+    std::unique_ptr<Paper> printerPaper; // that the user chooses in the print dialog; null leaves what was given
     int beeps = 0;
 };
 
