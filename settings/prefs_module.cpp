@@ -77,10 +77,14 @@ void read(TextInputStream& stream) {
     gDataLocation = location.empty() ? defaultLocation : location;
 }
 
+UnsavedFiles::UserFile userFileAt(const std::optional<FolderItem>& place) {
+    return {tr("The preferences"), std::string(DataFiles::preferences), place};
+}
+
+/// Where they are saved: in the data folder that they name.
 UnsavedFiles::UserFile userFile() {
     const std::optional<FolderItem>& folder = StartupGlobals::gDataFolder;
-    return {tr("The preferences"), std::string(DataFiles::preferences),
-            folder ? DataFiles::placeIn(*folder, DataFiles::preferences) : std::nullopt};
+    return userFileAt(folder ? DataFiles::placeIn(*folder, DataFiles::preferences) : std::nullopt);
 }
 
 std::string text() {
@@ -101,7 +105,7 @@ std::string text() {
 
 void getPrefs() {
     if (const std::optional<FolderItem> file = preferencesFile()) {
-        if (std::optional<TextInputStream> stream = DataFiles::openText(file))
+        if (std::optional<TextInputStream> stream = UnsavedFiles::openText(userFileAt(file)))
             read(*stream);
         else
             useDefaultFolder();

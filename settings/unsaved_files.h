@@ -46,7 +46,7 @@ bool save(const UserFile& file, const std::string& text);
 /// The same, but nothing for a text that has not changed since it was read or saved.
 bool saveIfChanged(const UserFile& file, const std::string& text);
 
-/// The text that waits for that file, or else the file; none for one that has no place, is missing or unreadable.
+/// The text that waits for that file, or else the file; none where nothing waits and there is no file to read.
 std::optional<TextInputStream> openText(const UserFile& file);
 
 /// Has a text wait that no disk has.
@@ -59,8 +59,8 @@ const std::vector<Unsaved>& all();
 void tryAgain();
 
 /// Writes them into a new folder inside that one, with a list of the places where they belong, and forgets those that
-/// are safe there. The new folder is named `name`, or "name 2" and so on where that is taken; empty when it or the list
-/// nothing can be written. A file that can't be written goes on waiting.
+/// are safe there. The new folder is named `name`, or "name 2" and so on where that is taken; empty when it, the list
+/// or all of the files can't be written. A file that can't be written goes on waiting.
 std::optional<FolderItem> saveInto(const FolderItem& folder, const std::string& name);
 /// In such a folder: a line for each file, with what it is, its name and its place.
 inline constexpr std::string_view listName = "Places";

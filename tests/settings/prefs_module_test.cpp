@@ -2,6 +2,7 @@
 
 #include "settings/data_files.h"
 #include "settings/globals.h"
+#include "settings/unsaved_files.h"
 #include "support/test_desk.h"
 
 namespace tallyvane {
@@ -49,6 +50,16 @@ TEST_F(PrefsTest, WithoutAFileTheDefaultsStand) {
         EXPECT_EQ(PrefsModule::gDataLocation, "ApplicationSupport");
         EXPECT_EQ(std::filesystem::exists(applicationFile("Brindlemarks Preferences")), folderInItsPlace);
     }
+}
+
+TEST_F(PrefsTest, WhatTheDiskDidNotTakeIsReadBeforeWhatItHolds) {
+    write(applicationFile("Brindlemarks Preferences"), "true\n13\n");
+    const auto place = GetFolderItem(applicationFile("Brindlemarks Preferences").string());
+    UnsavedFiles::wait({"The preferences", "Brindlemarks Preferences", place}, "true\n180\n", "the disk is full");
+    getPrefs();
+    EXPECT_EQ(Globals::gOver, 180);
+    PrefsModule::savePrefs();
+    EXPECT_TRUE(read(applicationFile("Brindlemarks Preferences")).starts_with("true\n180\n"));
 }
 
 TEST_F(PrefsTest, EachLineIsReadByItsOwnRule) {
