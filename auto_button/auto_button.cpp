@@ -1,7 +1,7 @@
 #include "auto_button/auto_button.h"
 
 #include "auto_button/icon_looks.h"
-#include "platform/graphics.h"
+#include "platform/drawing/graphics.h"
 
 namespace tallyvane {
 

@@ -3,7 +3,7 @@
 #include <functional>
 #include <optional>
 
-#include "platform/controls.h"
+#include "platform/controls/controls.h"
 
 namespace tallyvane {
 

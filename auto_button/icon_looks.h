@@ -1,7 +1,7 @@
 /// The two looks that a picture button works out from its picture, pixel by pixel.
 #pragma once
 
-#include "platform/picture.h"
+#include "platform/drawing/picture.h"
 
 namespace tallyvane {
 

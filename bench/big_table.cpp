@@ -8,8 +8,8 @@
 #include <random>
 
 #include "diary/day_table.h"
-#include "platform/number.h"
-#include "platform/text.h"
+#include "platform/base/number.h"
+#include "platform/base/text.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
 

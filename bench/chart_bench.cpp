@@ -10,7 +10,7 @@
 
 #include "charting/gt_graph.h"
 #include "platform/qt/painter_graphics.h"
-#include "platform/qt/qt_toolkit.h"
+#include "platform/qt/qt_bitmap.h"
 
 namespace {
 
@@ -69,7 +69,8 @@ QImage emptyImage(double scale) {
 double scaleOf(const benchmark::State& state) { return static_cast<double>(state.range(1)) / 100; }
 
 void draw_graph(benchmark::State& state) {
-    const QtToolkit toolkit;
+    static QtBitmaps bitmaps;
+    Bitmaps::use(&bitmaps);
     const auto graph = graphOf(static_cast<int>(state.range(0)));
     for (int i = 0; i < seriesCount; ++i)
         graph->Series(i)->PenSize(static_cast<int>(state.range(2)));

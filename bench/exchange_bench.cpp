@@ -14,9 +14,9 @@
 #include "diary/day_table.h"
 #include "exchange/export_data.h"
 #include "exchange/import_reader.h"
+#include "platform/base/text.h"
 #include "platform/qt/print_job.h"
 #include "platform/qt/qt_toolkit.h"
-#include "platform/text.h"
 #include "reports/diary_report.h"
 #include "settings/globals.h"
 
@@ -111,9 +111,9 @@ std::size_t peakMemory() {
 }
 
 /// Sends what is printed into a PDF, and asks nobody.
-class PdfToolkit : public QtToolkit {
+class PdfPrinters : public QtPrinters {
 public:
-    std::unique_ptr<Graphics> openPrinterDialog(const Paper* /*paper*/, int resolution, PrintTarget) override {
+    std::unique_ptr<Graphics> openDialog(const Paper* /*paper*/, int resolution, PrintTarget) override {
         auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
         printer->setOutputFileName(QString::fromStdString(pathOf("report.pdf")));
         std::unique_ptr<Graphics> job = PrintJob::begin(std::move(printer), resolution);
@@ -134,7 +134,9 @@ double pagesOf(const std::string& pdf) {
 /// Pages a second, and the memory that the process took beyond what it had before.
 void report(benchmark::State& state) {
     bench::settleFolder("");
-    const PdfToolkit toolkit;
+    const QtToolkit toolkit;
+    PdfPrinters printers;
+    Printers::use(&printers);
     Toolbar toolbar{{}};
     MenuBar menuBar{{}};
     Window1 window(toolbar, menuBar);

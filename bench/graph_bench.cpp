@@ -8,7 +8,7 @@
 #include "big_table.h"
 #include "diary/averages.h"
 #include "graphwindow/graf_thing_window.h"
-#include "platform/graphics_recorder.h"
+#include "platform/drawing/graphics_recorder.h"
 #include "platform/qt/painter_graphics.h"
 #include "platform/qt/qt_toolkit.h"
 

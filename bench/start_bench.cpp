@@ -11,7 +11,7 @@
 
 #include "big_table.h"
 #include "platform/qt/program.h"
-#include "platform/toolkit.h"
+#include "platform/windows/quit.h"
 #include "settings/globals.h"
 #include "shell/app.h"
 

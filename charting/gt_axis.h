@@ -9,7 +9,7 @@
 #include "charting/gt_custom_tick_formatter.h"
 #include "charting/gt_data_point.h"
 #include "charting/truncated.h"
-#include "platform/graphics.h"
+#include "platform/drawing/graphics.h"
 
 namespace tallyvane {
 

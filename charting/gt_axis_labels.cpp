@@ -4,9 +4,9 @@
 #include <numbers>
 
 #include "charting/truncated.h"
-#include "platform/date.h"
-#include "platform/number.h"
-#include "platform/text.h"
+#include "platform/base/date.h"
+#include "platform/base/number.h"
+#include "platform/base/text.h"
 
 namespace tallyvane {
 

@@ -4,7 +4,7 @@
 #include <numbers>
 
 #include "charting/truncated.h"
-#include "platform/number.h"
+#include "platform/base/number.h"
 
 namespace tallyvane {
 

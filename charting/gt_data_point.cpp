@@ -7,7 +7,7 @@
 
 #include "charting/gt_general_purpose.h"
 #include "charting/truncated.h"
-#include "platform/graphics.h"
+#include "platform/drawing/graphics.h"
 
 namespace tallyvane {
 

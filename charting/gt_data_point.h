@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "charting/range_tally.h"
-#include "platform/picture.h"
+#include "platform/drawing/picture.h"
 
 namespace tallyvane {
 

@@ -5,7 +5,7 @@
 
 #include "charting/gt_general_purpose.h"
 #include "charting/truncated.h"
-#include "platform/text.h"
+#include "platform/base/text.h"
 
 namespace tallyvane {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/graphics.h"
+#include "platform/drawing/graphics.h"
 
 namespace tallyvane {
 

@@ -1,8 +1,8 @@
 #include "charting/gt_series.h"
 
 #include "charting/gt_general_purpose.h"
-#include "platform/date.h"
-#include "platform/number.h"
+#include "platform/base/date.h"
+#include "platform/base/number.h"
 
 namespace tallyvane {
 

@@ -9,7 +9,7 @@
 #include "charting/gt_color_table_provider.h"
 #include "charting/gt_data_point.h"
 #include "charting/range_tally.h"
-#include "platform/graphics.h"
+#include "platform/drawing/graphics.h"
 
 namespace tallyvane {
 

@@ -7,8 +7,8 @@
 #include <optional>
 
 #include "charting/truncated.h"
-#include "platform/number.h"
-#include "platform/random.h"
+#include "platform/base/number.h"
+#include "platform/base/random.h"
 
 namespace tallyvane {
 

@@ -6,7 +6,7 @@
 #include <optional>
 
 #include "charting/truncated.h"
-#include "platform/number.h"
+#include "platform/base/number.h"
 
 namespace tallyvane {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/graphics.h"
+#include "platform/drawing/graphics.h"
 
 namespace tallyvane {
 

@@ -22,7 +22,6 @@ function(room NAME)
 
   add_library(${TARGET} STATIC ${ARG_SOURCES})
   target_include_directories(${TARGET} PUBLIC ${VIEW})
-  target_compile_options(${TARGET} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
   foreach(ALLOWED IN LISTS MAY_INCLUDE_${NAME})
     string(REPLACE "/" "_" ALLOWED_SLUG ${ALLOWED})
     if(TARGET room_${ALLOWED_SLUG} AND NOT ALLOWED STREQUAL NAME AND NOT ALLOWED STREQUAL "platform/qt")
@@ -31,14 +30,14 @@ function(room NAME)
   endforeach()
 endfunction()
 
-# see_all_rooms(TARGET)
+# see_rooms(TARGET PRIVATE|PUBLIC rooms...)
 #
-# Has a target outside of the house, such as the program or its tests, see and link all rooms but that of the toolkit.
-function(see_all_rooms TARGET)
-  foreach(ROOM IN LISTS HOUSE_ROOMS)
+# Has a target outside of the house, such as the program or its tests, see and link these rooms.
+function(see_rooms TARGET SCOPE)
+  foreach(ROOM IN LISTS ARGN)
     string(REPLACE "/" "_" SLUG ${ROOM})
-    if(TARGET room_${SLUG} AND NOT ROOM STREQUAL "platform/qt")
-      target_link_libraries(${TARGET} PUBLIC room_${SLUG})
+    if(TARGET room_${SLUG})
+      target_link_libraries(${TARGET} ${SCOPE} room_${SLUG})
     endif()
   endforeach()
 endfunction()

@@ -1,7 +1,7 @@
 #include "diary/averages.h"
 
 #include "diary/day_table.h"
-#include "platform/number.h"
+#include "platform/base/number.h"
 
 namespace tallyvane {
 

@@ -4,9 +4,9 @@
 
 #include "diary/cell_words.h"
 #include "diary/day_table.h"
-#include "platform/keys.h"
-#include "platform/text.h"
-#include "platform/toolkit.h"
+#include "platform/base/text.h"
+#include "platform/controls/keys.h"
+#include "platform/desktop/desktop.h"
 
 namespace tallyvane {
 

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "platform/listbox.h"
+#include "platform/controls/listbox.h"
 
 namespace tallyvane {
 

@@ -2,8 +2,8 @@
 
 #include "diary/day_table.h"
 #include "diary/indicators.h"
-#include "platform/number.h"
-#include "platform/translation.h"
+#include "platform/base/number.h"
+#include "platform/base/translation.h"
 
 namespace tallyvane::CellWords {
 

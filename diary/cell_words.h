@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "platform/listbox.h"
+#include "platform/controls/listbox.h"
 
 namespace tallyvane::CellWords {
 

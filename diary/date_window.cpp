@@ -1,7 +1,7 @@
 #include "diary/date_window.h"
 
 #include "diary/day_table.h"
-#include "platform/translation.h"
+#include "platform/base/translation.h"
 
 namespace tallyvane {
 

@@ -1,6 +1,6 @@
 #include "diary/day_details.h"
 
-#include "platform/text.h"
+#include "platform/base/text.h"
 #include "settings/data_files.h"
 #include "settings/log_record.h"
 

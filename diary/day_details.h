@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/date.h"
+#include "platform/base/date.h"
 
 namespace tallyvane {
 

@@ -1,7 +1,8 @@
 #include "diary/day_table.h"
 
-#include "platform/text.h"
-#include "platform/translation.h"
+#include "platform/base/text.h"
+#include "platform/base/translation.h"
+#include "platform/files/text_output_stream.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
 #include "settings/unsaved_files.h"

@@ -4,8 +4,8 @@
 /// as typed, and a number is always Val of that text. A row has no identity but its place: two rows may bear one date.
 #pragma once
 
-#include "platform/date.h"
-#include "platform/listbox.h"
+#include "platform/base/date.h"
+#include "platform/controls/listbox.h"
 
 namespace tallyvane::DayTable {
 

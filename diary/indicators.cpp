@@ -1,7 +1,7 @@
 #include "diary/indicators.h"
 
 #include "diary/day_table.h"
-#include "platform/number.h"
+#include "platform/base/number.h"
 #include "settings/globals.h"
 
 namespace tallyvane::Indicators {

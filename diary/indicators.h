@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "platform/listbox.h"
+#include "platform/controls/listbox.h"
 #include "settings/ranges.h"
 
 namespace tallyvane::Indicators {

@@ -1,9 +1,9 @@
 #include "diary/running_logs.h"
 
-#include "platform/date.h"
-#include "platform/system_files.h"
-#include "platform/text.h"
-#include "platform/translation.h"
+#include "platform/base/date.h"
+#include "platform/base/text.h"
+#include "platform/base/translation.h"
+#include "platform/files/system_files.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
 #include "settings/log_record.h"

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "diary/day_table.h"
-#include "platform/number.h"
-#include "platform/text.h"
+#include "platform/base/number.h"
+#include "platform/base/text.h"
 
 namespace tallyvane::SortKeys {
 

@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "platform/date.h"
-#include "platform/listbox.h"
+#include "platform/base/date.h"
+#include "platform/controls/listbox.h"
 
 namespace tallyvane::SortKeys {
 

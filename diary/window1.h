@@ -6,7 +6,7 @@
 
 #include "auto_button/auto_button.h"
 #include "diary/averages.h"
-#include "platform/window.h"
+#include "platform/windows/window.h"
 #include "settings/headings.h"
 
 namespace tallyvane {

@@ -3,7 +3,7 @@
 #include "diary/day_table.h"
 #include "diary/indicators.h"
 #include "diary/window1.h"
-#include "platform/translation.h"
+#include "platform/base/translation.h"
 
 namespace tallyvane {
 

@@ -2,7 +2,8 @@
 
 #include <algorithm>
 
-#include "platform/number.h"
+#include "platform/base/number.h"
+#include "platform/files/system_files.h"
 #include "settings/data_files.h"
 
 namespace tallyvane::WindowData {

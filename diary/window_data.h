@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "platform/geometry.h"
+#include "platform/drawing/geometry.h"
 
 namespace tallyvane::WindowData {
 

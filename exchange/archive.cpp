@@ -1,10 +1,10 @@
 #include "exchange/archive.h"
 
 #include "diary/day_table.h"
-#include "platform/text.h"
-#include "platform/text_output.h"
-#include "platform/toolkit.h"
-#include "platform/translation.h"
+#include "platform/base/text.h"
+#include "platform/base/translation.h"
+#include "platform/desktop/desktop.h"
+#include "platform/printing/print_and_save.h"
 
 namespace tallyvane {
 

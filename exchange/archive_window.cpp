@@ -1,9 +1,9 @@
 #include "exchange/archive_window.h"
 
-#include "platform/dialogs.h"
-#include "platform/text_decoding.h"
-#include "platform/text_output.h"
-#include "platform/translation.h"
+#include "platform/base/text_decoding.h"
+#include "platform/base/translation.h"
+#include "platform/printing/print_and_save.h"
+#include "platform/windows/dialogs.h"
 
 namespace tallyvane {
 

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "platform/window.h"
+#include "platform/windows/window.h"
 
 namespace tallyvane {
 

@@ -1,7 +1,8 @@
 #include "exchange/export_data.h"
 
 #include "diary/day_table.h"
-#include "platform/text.h"
+#include "platform/base/text.h"
+#include "platform/files/text_output_stream.h"
 
 namespace tallyvane {
 

@@ -3,8 +3,8 @@
 #include <optional>
 #include <string>
 
-#include "platform/folder_item.h"
-#include "platform/listbox.h"
+#include "platform/controls/listbox.h"
+#include "platform/files/folder_item.h"
 
 namespace tallyvane {
 

@@ -1,9 +1,9 @@
 #include "exchange/export_window.h"
 
 #include "exchange/export_data.h"
-#include "platform/dialogs.h"
-#include "platform/text.h"
-#include "platform/translation.h"
+#include "platform/base/text.h"
+#include "platform/base/translation.h"
+#include "platform/windows/dialogs.h"
 
 namespace tallyvane {
 

@@ -1,8 +1,8 @@
 #include "exchange/import_reader.h"
 
 #include "diary/day_table.h"
-#include "platform/text.h"
-#include "platform/text_decoding.h"
+#include "platform/base/text.h"
+#include "platform/base/text_decoding.h"
 
 namespace tallyvane {
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "diary/sort_keys.h"
-#include "platform/dialogs.h"
-#include "platform/text.h"
-#include "platform/translation.h"
+#include "platform/base/text.h"
+#include "platform/base/translation.h"
+#include "platform/windows/dialogs.h"
 
 namespace tallyvane {
 

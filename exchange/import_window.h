@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "exchange/import_reader.h"
-#include "platform/window.h"
+#include "platform/windows/window.h"
 
 namespace tallyvane {
 

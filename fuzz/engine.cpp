@@ -4,7 +4,7 @@
 
 #include "charting/gt_graph.h"
 #include "fuzz/fuzz.h"
-#include "platform/graphics_recorder.h"
+#include "platform/drawing/graphics_recorder.h"
 
 namespace tallyvane {
 

@@ -1,6 +1,6 @@
 /// The preferences. The data folder that they name is not written to.
 #include "fuzz/fuzz.h"
-#include "platform/number.h"
+#include "platform/base/number.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
 #include "settings/prefs_module.h"

@@ -1,6 +1,6 @@
 /// The maker's version file.
 #include "fuzz/fuzz.h"
-#include "platform/number.h"
+#include "platform/base/number.h"
 #include "shell/version_check.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -1,6 +1,6 @@
 #include "graphwindow/day_graph.h"
 
-#include "platform/translation.h"
+#include "platform/base/translation.h"
 
 namespace tallyvane::DayGraph {
 

@@ -1,8 +1,8 @@
 #include "graphwindow/graf_thing_window.h"
 
-#include "platform/printing.h"
-#include "platform/translation.h"
-#include "platform/while_true.h"
+#include "platform/base/scoped_flag.h"
+#include "platform/base/translation.h"
+#include "platform/printing/printing.h"
 #include "settings/globals.h"
 #include "settings/headings.h"
 
@@ -92,7 +92,7 @@ void GrafThingWindow::Canvas2_Action() {
         return;
     g->shrinkToFit(0, legendBottom);
     {
-        const WhileTrue printing(Globals::gPrintingOn);
+        const ScopedFlag printing(Globals::gPrintingOn);
         DayGraph::draw(*grafThing1, *g);
     }
     if (!graphWeight)

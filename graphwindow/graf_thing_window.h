@@ -7,7 +7,7 @@
 #include "auto_button/auto_button.h"
 #include "charting/gt_graph.h"
 #include "graphwindow/day_graph.h"
-#include "platform/window.h"
+#include "platform/windows/window.h"
 
 namespace tallyvane {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "diary/day_table.h"
-#include "platform/number.h"
+#include "platform/base/number.h"
 
 namespace tallyvane {
 

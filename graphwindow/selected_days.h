@@ -5,7 +5,7 @@
 
 #include "charting/extent.h"
 #include "charting/gt_series.h"
-#include "platform/listbox.h"
+#include "platform/controls/listbox.h"
 
 namespace tallyvane {
 

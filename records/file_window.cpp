@@ -2,10 +2,11 @@
 
 #include <array>
 
-#include "platform/dialogs.h"
-#include "platform/text.h"
-#include "platform/toolkit.h"
-#include "platform/translation.h"
+#include "platform/base/text.h"
+#include "platform/base/translation.h"
+#include "platform/desktop/desktop.h"
+#include "platform/files/text_output_stream.h"
+#include "platform/windows/dialogs.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
 #include "settings/unsaved_files.h"

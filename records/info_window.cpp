@@ -2,11 +2,11 @@
 
 #include <optional>
 
-#include "platform/keys.h"
-#include "platform/save_each.h"
-#include "platform/text.h"
-#include "platform/toolkit.h"
-#include "platform/translation.h"
+#include "platform/base/text.h"
+#include "platform/base/translation.h"
+#include "platform/controls/keys.h"
+#include "platform/desktop/desktop.h"
+#include "platform/files/save_each.h"
 #include "records/row_file.h"
 #include "reports/listbox_print_all.h"
 #include "settings/data_files.h"

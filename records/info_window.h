@@ -1,7 +1,7 @@
 #pragma once
 
 #include "auto_button/auto_button.h"
-#include "platform/window.h"
+#include "platform/windows/window.h"
 
 namespace tallyvane {
 

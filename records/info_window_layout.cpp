@@ -1,6 +1,6 @@
 #include "records/info_window.h"
 
-#include "platform/translation.h"
+#include "platform/base/translation.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
 #include "records/logs_window.h"
 
-#include "platform/text_output.h"
-#include "platform/translation.h"
+#include "platform/base/translation.h"
+#include "platform/printing/print_and_save.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
 #include "settings/log_record.h"

@@ -3,7 +3,7 @@
 #include <array>
 
 #include "auto_button/auto_button.h"
-#include "platform/window.h"
+#include "platform/windows/window.h"
 
 namespace tallyvane {
 

@@ -1,6 +1,7 @@
 #include "records/row_file.h"
 
-#include "platform/text.h"
+#include "platform/base/text.h"
+#include "platform/files/text_output_stream.h"
 #include "settings/data_files.h"
 #include "settings/unsaved_files.h"
 

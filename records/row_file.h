@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/listbox.h"
+#include "platform/controls/listbox.h"
 
 namespace tallyvane {
 

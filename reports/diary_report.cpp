@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include "platform/text.h"
-#include "platform/toolkit.h"
-#include "platform/translation.h"
+#include "platform/base/text.h"
+#include "platform/base/translation.h"
+#include "platform/desktop/desktop.h"
 #include "settings/globals.h"
 
 namespace tallyvane {

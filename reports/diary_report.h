@@ -3,7 +3,7 @@
 #include <string>
 
 #include "diary/window1.h"
-#include "platform/printing.h"
+#include "platform/printing/printing.h"
 #include "reports/report_page.h"
 
 namespace tallyvane {

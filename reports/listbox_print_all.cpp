@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/wrapped_text.h"
+#include "platform/drawing/wrapped_text.h"
 
 namespace tallyvane {
 

@@ -2,8 +2,8 @@
 
 #include <vector>
 
-#include "platform/listbox.h"
-#include "platform/printing.h"
+#include "platform/controls/listbox.h"
+#include "platform/printing/printing.h"
 
 namespace tallyvane {
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "platform/translation.h"
-#include "platform/wrapped_text.h"
+#include "platform/base/translation.h"
+#include "platform/drawing/wrapped_text.h"
 
 namespace tallyvane {
 

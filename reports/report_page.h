@@ -3,7 +3,7 @@
 #include <array>
 #include <string>
 
-#include "platform/graphics.h"
+#include "platform/drawing/graphics.h"
 
 namespace tallyvane {
 

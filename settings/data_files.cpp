@@ -1,5 +1,7 @@
 #include "settings/data_files.h"
 
+#include "platform/files/text_output_stream.h"
+
 namespace tallyvane::DataFiles {
 
 std::optional<FolderItem> placeIn(const FolderItem& folder, std::string_view name) {

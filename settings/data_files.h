@@ -5,7 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "platform/folder_item.h"
+#include "platform/files/folder_item.h"
+#include "platform/files/text_output_stream.h"
 
 namespace tallyvane::DataFiles {
 

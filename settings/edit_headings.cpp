@@ -1,6 +1,6 @@
 #include "settings/edit_headings.h"
 
-#include "platform/translation.h"
+#include "platform/base/translation.h"
 
 namespace tallyvane {
 

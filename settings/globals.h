@@ -5,8 +5,8 @@
 #include <optional>
 #include <string>
 
-#include "platform/folder_item.h"
-#include "platform/printing.h"
+#include "platform/files/folder_item.h"
+#include "platform/printing/printing.h"
 
 namespace tallyvane {
 

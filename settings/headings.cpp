@@ -1,6 +1,6 @@
 #include "settings/headings.h"
 
-#include "platform/translation.h"
+#include "platform/base/translation.h"
 #include "settings/data_files.h"
 #include "settings/unsaved_files.h"
 

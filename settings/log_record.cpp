@@ -1,6 +1,6 @@
 #include "settings/log_record.h"
 
-#include "platform/text.h"
+#include "platform/base/text.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
 

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "platform/text_streams.h"
+#include "platform/files/text_output_stream.h"
 
 namespace tallyvane {
 

@@ -1,8 +1,8 @@
 #include "settings/prefs_module.h"
 
-#include "platform/number.h"
-#include "platform/text.h"
-#include "platform/translation.h"
+#include "platform/base/number.h"
+#include "platform/base/text.h"
+#include "platform/base/translation.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
 #include "settings/unsaved_files.h"

@@ -3,7 +3,7 @@
 #include <array>
 #include <functional>
 
-#include "platform/window.h"
+#include "platform/windows/window.h"
 
 namespace tallyvane {
 

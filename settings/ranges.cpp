@@ -1,6 +1,6 @@
 #include "settings/ranges.h"
 
-#include "platform/translation.h"
+#include "platform/base/translation.h"
 #include "settings/globals.h"
 
 namespace tallyvane::Ranges {

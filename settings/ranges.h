@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/picture.h"
+#include "platform/drawing/picture.h"
 
 namespace tallyvane::Ranges {
 

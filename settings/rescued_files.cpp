@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "platform/date.h"
-#include "platform/system_files.h"
-#include "platform/text.h"
-#include "platform/translation.h"
+#include "platform/base/date.h"
+#include "platform/base/text.h"
+#include "platform/base/translation.h"
+#include "platform/files/system_files.h"
 #include "settings/data_files.h"
 #include "settings/unsaved_files.h"
 

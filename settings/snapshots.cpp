@@ -5,8 +5,8 @@
 #include <filesystem>
 #include <vector>
 
-#include "platform/number.h"
-#include "platform/system_files.h"
+#include "platform/base/number.h"
+#include "platform/files/system_files.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
 

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/date.h"
+#include "platform/base/date.h"
 
 namespace tallyvane::Snapshots {
 

@@ -4,9 +4,9 @@
 #include <functional>
 #include <map>
 
-#include "platform/date.h"
-#include "platform/system_files.h"
-#include "platform/translation.h"
+#include "platform/base/date.h"
+#include "platform/base/translation.h"
+#include "platform/files/system_files.h"
 #include "settings/data_files.h"
 
 namespace tallyvane::UnsavedFiles {

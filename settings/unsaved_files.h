@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/folder_item.h"
+#include "platform/files/folder_item.h"
 
 namespace tallyvane::UnsavedFiles {
 

@@ -1,6 +1,6 @@
 #include "shell/about_window.h"
 
-#include "platform/translation.h"
+#include "platform/base/translation.h"
 
 namespace tallyvane {
 

@@ -5,10 +5,11 @@
 
 #include "charting/gt_graph.h"
 #include "exchange/archive.h"
-#include "platform/save_each.h"
-#include "platform/toolkit.h"
-#include "platform/translation.h"
-#include "platform/while_true.h"
+#include "platform/base/scoped_flag.h"
+#include "platform/base/translation.h"
+#include "platform/desktop/desktop.h"
+#include "platform/files/save_each.h"
+#include "platform/windows/quit.h"
 #include "reports/diary_report.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
@@ -272,7 +273,7 @@ bool App::Event_UnhandledException() {
     // Going to another program to make room for the diary saves again, and may fail again: one message is enough.
     if (showingException_)
         return false;
-    const WhileTrue showing(showingException_);
+    const ScopedFlag showing(showingException_);
     MsgBox(tr("An error has occured. You should quit Tallyvane now to save your data."));
     return false;
 }
@@ -300,7 +301,7 @@ void App::Event_Deactivate() {
 void App::Event_EndRequested() {
     endsUnasked_ = true;
     if (asksAboutUnsaved_)
-        Toolkit::inForce()->quit(1); // takes the question away; what it was about is kept
+        Desktop::inUse().quit(1); // takes the question away; what it was about is kept
     else
         FileQuit_Action();
 }
@@ -311,7 +312,7 @@ int App::settleUnsaved(int code) {
     if (UnsavedFiles::all().empty())
         return code;
     if (!endsUnasked_) {
-        const WhileTrue asking(asksAboutUnsaved_);
+        const ScopedFlag asking(asksAboutUnsaved_);
         switch (UnsavedWork::ask()) {
         case UnsavedWork::Outcome::saved:
             return code;

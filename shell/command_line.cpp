@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "platform/translation.h"
+#include "platform/base/translation.h"
 
 namespace tallyvane {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/menus.h"
+#include "platform/windows/menus.h"
 
 namespace tallyvane {
 

@@ -1,7 +1,7 @@
 #include "shell/new_version_window.h"
 
-#include "platform/toolkit.h"
-#include "platform/translation.h"
+#include "platform/base/translation.h"
+#include "platform/desktop/desktop.h"
 
 namespace tallyvane {
 

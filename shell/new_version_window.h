@@ -3,7 +3,7 @@
 #include <functional>
 #include <string>
 
-#include "platform/window.h"
+#include "platform/windows/window.h"
 
 namespace tallyvane {
 

@@ -1,6 +1,6 @@
 #include "shell/splash_window.h"
 
-#include "platform/translation.h"
+#include "platform/base/translation.h"
 
 namespace tallyvane {
 

@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "platform/window.h"
+#include "platform/windows/window.h"
 #include "shell/version_check.h"
 
 namespace tallyvane {

@@ -1,6 +1,6 @@
 #include "shell/toolbar1.h"
 
-#include "platform/translation.h"
+#include "platform/base/translation.h"
 
 namespace tallyvane {
 

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "platform/menus.h"
+#include "platform/windows/menus.h"
 
 namespace tallyvane {
 

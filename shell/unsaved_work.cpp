@@ -2,10 +2,11 @@
 
 #include <array>
 
-#include "platform/dialogs.h"
-#include "platform/system_files.h"
-#include "platform/toolkit.h"
-#include "platform/translation.h"
+#include "platform/base/date.h"
+#include "platform/base/translation.h"
+#include "platform/desktop/desktop.h"
+#include "platform/files/system_files.h"
+#include "platform/windows/dialogs.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
 #include "settings/rescued_files.h"

@@ -5,7 +5,7 @@
 #include <functional>
 #include <optional>
 
-#include "platform/folder_item.h"
+#include "platform/files/folder_item.h"
 
 namespace tallyvane::UnsavedWork {
 

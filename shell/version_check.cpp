@@ -1,7 +1,7 @@
 #include "shell/version_check.h"
 
-#include "platform/number.h"
-#include "platform/text.h"
+#include "platform/base/number.h"
+#include "platform/base/text.h"
 
 namespace tallyvane {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/http_socket.h"
+#include "platform/net/http_socket.h"
 
 namespace tallyvane {
 

@@ -3,7 +3,7 @@
 #include <QCalendarWidget>
 #include <QTableView>
 
-#include "platform/controls.h"
+#include "platform/controls/controls.h"
 #include "platform/qt/peer.h"
 
 namespace tallyvane {

@@ -5,7 +5,7 @@
 
 #include <limits>
 
-#include "platform/keys.h"
+#include "platform/controls/keys.h"
 #include "platform/qt/event_guard.h"
 #include "platform/qt/key_names.h"
 

@@ -2,7 +2,7 @@
 
 #include <QLineEdit>
 
-#include "platform/listbox.h"
+#include "platform/controls/listbox.h"
 #include "platform/qt/peer.h"
 
 namespace tallyvane {

@@ -6,9 +6,9 @@
 #include <QRect>
 #include <QString>
 
-#include "platform/date.h"
-#include "platform/geometry.h"
-#include "platform/text.h"
+#include "platform/base/date.h"
+#include "platform/base/text.h"
+#include "platform/drawing/geometry.h"
 
 namespace tallyvane {
 

@@ -8,7 +8,7 @@
 #include <QPdfWriter>
 
 #include "platform/qt/painter_graphics.h"
-#include "platform/qt/qt_toolkit.h"
+#include "platform/qt/qt_bitmap.h"
 
 namespace tallyvane {
 
@@ -19,10 +19,13 @@ QString fileName(const std::string& path) { return QFile::decodeName(QByteArray:
 } // namespace
 
 struct FileSurfaces::Parts {
-    Parts(int& argc, char** argv) : application(argc, argv) {}
+    Parts(int& argc, char** argv) : application(argc, argv) { Bitmaps::use(&bitmaps); }
+    Parts(const Parts&) = delete;
+    Parts& operator=(const Parts&) = delete;
+    ~Parts() { Bitmaps::use(nullptr); }
 
     QGuiApplication application;
-    QtToolkit toolkit;
+    QtBitmaps bitmaps;
 };
 
 FileSurfaces::FileSurfaces(int& argc, char** argv) {

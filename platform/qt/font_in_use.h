@@ -5,7 +5,7 @@
 
 #include <optional>
 
-#include "platform/font_name.h"
+#include "platform/drawing/font_name.h"
 
 namespace tallyvane {
 

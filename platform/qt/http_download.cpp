@@ -2,6 +2,8 @@
 
 #include <QFile>
 #include <QNetworkAccessManager>
+#include <QNetworkProxy>
+#include <QUrl>
 
 #include <utility>
 
@@ -33,6 +35,16 @@ bool hasAnswered(const QNetworkReply& reply) {
          reply.error() != QNetworkReply::ProtocolInvalidOperationError &&
          reply.error() != QNetworkReply::ProtocolFailure);
     return isContent && reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).isValid();
+}
+
+/// The desktop's own settings are not asked: finding them can hold up the program for seconds.
+QNetworkProxy proxyOfEnvironment() {
+    const QUrl proxy = QUrl::fromUserInput(qEnvironmentVariable("http_proxy"));
+    if (proxy.host().isEmpty())
+        return QNetworkProxy(QNetworkProxy::NoProxy);
+    constexpr int usualPort = 80;
+    return {QNetworkProxy::HttpCachingProxy, proxy.host(), static_cast<quint16>(proxy.port(usualPort)),
+            proxy.userName(), proxy.password()};
 }
 
 } // namespace
@@ -81,6 +93,19 @@ void HttpDownload::finish() {
 bool HttpDownload::writeFile() const {
     QFile file(QFile::decodeName(QByteArray::fromStdString(path_)));
     return file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(body_) == body_.size() && file.flush();
+}
+
+HttpDownloads::HttpDownloads() = default;
+
+HttpDownloads::~HttpDownloads() = default;
+
+std::unique_ptr<Download> HttpDownloads::start(const std::string& address, const std::string& path,
+                                               std::function<void(int status)> done) {
+    if (!network_) {
+        network_ = std::make_unique<QNetworkAccessManager>();
+        network_->setProxy(proxyOfEnvironment());
+    }
+    return std::make_unique<HttpDownload>(*network_, address, path, std::move(done), timeLimit);
 }
 
 } // namespace tallyvane

@@ -5,9 +5,10 @@
 
 #include <chrono>
 #include <functional>
+#include <memory>
 #include <string>
 
-#include "platform/http_socket.h"
+#include "platform/net/http_socket.h"
 
 class QNetworkAccessManager;
 
@@ -30,6 +31,22 @@ private:
     QByteArray body_;
     QTimer timeLimit_;
     QNetworkReply* reply_;
+};
+
+/// Fetches by Qt, by the proxy that the environment names.
+class HttpDownloads : public Downloads {
+public:
+    HttpDownloads();
+    ~HttpDownloads() override;
+
+    std::unique_ptr<Download> start(const std::string& address, const std::string& path,
+                                    std::function<void(int status)> done) override;
+
+    /// Of a whole download.
+    std::chrono::milliseconds timeLimit{30'000};
+
+private:
+    std::unique_ptr<QNetworkAccessManager> network_; // null until it is needed
 };
 
 } // namespace tallyvane

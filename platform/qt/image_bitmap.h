@@ -2,7 +2,7 @@
 
 #include <QImage>
 
-#include "platform/picture.h"
+#include "platform/drawing/picture.h"
 
 namespace tallyvane {
 

@@ -3,7 +3,7 @@
 #include <QCryptographicHash>
 #include <QLocalSocket>
 
-#include "platform/folder_item.h"
+#include "platform/files/folder_item.h"
 #include "platform/qt/convert.h"
 
 namespace tallyvane {

@@ -2,7 +2,7 @@
 
 #include <QKeyEvent>
 
-#include "platform/keys.h"
+#include "platform/controls/keys.h"
 #include "platform/qt/convert.h"
 
 namespace tallyvane {

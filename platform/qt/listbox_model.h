@@ -4,7 +4,7 @@
 
 #include <functional>
 
-#include "platform/listbox.h"
+#include "platform/controls/listbox.h"
 
 namespace tallyvane {
 

@@ -2,7 +2,7 @@
 
 #include <QTableView>
 
-#include "platform/listbox.h"
+#include "platform/controls/listbox.h"
 #include "platform/qt/cell_editor.h"
 #include "platform/qt/listbox_model.h"
 #include "platform/qt/peer.h"

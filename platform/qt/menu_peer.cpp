@@ -92,7 +92,7 @@ QKeySequence shortcutOf(const MenuItem& item) {
 
 } // namespace
 
-MenuPeer::MenuPeer(MenuBar& bar, std::function<Window*()> front, QWidget* parent)
+MenuPeer::MenuPeer(MenuBar& bar, std::function<MenuTarget*()> front, QWidget* parent)
     : QMenuBar(parent), bar_(bar), front_(std::move(front)) {
     for (const Menu& menu : bar.menus()) {
         QMenu* shown = addMenu(toQt(menu.Text));

@@ -6,17 +6,15 @@
 #include <functional>
 #include <vector>
 
-#include "platform/menus.h"
+#include "platform/windows/menus.h"
 
 namespace tallyvane {
-
-class Window;
 
 /// Shows the menu bar. Qt itself moves Quit, About and Preferences to the application menu where the desktop has one.
 class MenuPeer : public QMenuBar {
 public:
     /// `front` gives the window of ours that is in front, or null.
-    MenuPeer(MenuBar& bar, std::function<Window*()> front, QWidget* parent);
+    MenuPeer(MenuBar& bar, std::function<MenuTarget*()> front, QWidget* parent);
 
 private:
     struct Entry {
@@ -32,7 +30,7 @@ private:
     void choose(const MenuItem& item);
 
     MenuBar& bar_;
-    std::function<Window*()> front_;
+    std::function<MenuTarget*()> front_;
     std::vector<Entry> entries_;
     QPointer<QWidget> focus_; // the last control that had it; menus are passed over
 };

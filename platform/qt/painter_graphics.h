@@ -6,7 +6,7 @@
 #include <cmath>
 #include <optional>
 
-#include "platform/graphics.h"
+#include "platform/drawing/graphics.h"
 #include "platform/qt/font_in_use.h"
 
 namespace tallyvane {

@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-#include "platform/control.h"
+#include "platform/controls/control.h"
 #include "platform/qt/convert.h"
 
 namespace tallyvane {

@@ -5,7 +5,7 @@
 
 #include <memory>
 
-#include "platform/printing.h"
+#include "platform/printing/printing.h"
 #include "platform/qt/painter_graphics.h"
 
 namespace tallyvane {

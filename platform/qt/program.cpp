@@ -10,7 +10,7 @@
 #include <cstdlib>
 #include <utility>
 
-#include "platform/folder_item.h"
+#include "platform/files/folder_item.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/event_guard.h"
 #include "platform/qt/instance_channel.h"
@@ -66,7 +66,7 @@ QtProgram* inEventLoop = nullptr;
 
 void saveAtExit() {
     if (QtProgram* program = std::exchange(inEventLoop, nullptr)) {
-        Toolkit::putInForce(nullptr);
+        QtToolkit::takeOutOfUse();
         deliver(program->onDisplayLost);
     }
 }
@@ -118,14 +118,14 @@ void QtProgram::listen() {
 
 int QtProgram::run(const std::function<void()>& open) {
     deliver(open);
-    if (!parts_->toolkit.quitAsked() && !Window::openWindows().empty()) {
+    if (!parts_->toolkit.desktop.quitAsked() && !Window::openWindows().empty()) {
         inEventLoop = this;
         static_cast<void>(std::atexit(saveAtExit)); // refused only when the memory is gone
         QApplication::exec();
         inEventLoop = nullptr;
     }
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    return parts_->toolkit.quitAsked() ? parts_->toolkit.quitCode() : 1;
+    return parts_->toolkit.desktop.quitAsked() ? parts_->toolkit.desktop.quitCode() : 1;
 }
 
 void QtProgram::wakeRunningProgram(const std::string& file) { parts_->channel.call(file); }

@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/geometry.h"
+#include "platform/drawing/geometry.h"
 
 namespace tallyvane {
 

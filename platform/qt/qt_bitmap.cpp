@@ -1,5 +1,7 @@
 #include "platform/qt/qt_bitmap.h"
 
+#include <QGuiApplication>
+
 #include <algorithm>
 #include <cmath>
 
@@ -31,6 +33,10 @@ void QtBitmap::changePixels(const std::function<Pixel(Pixel)>& change) {
                 change({channel(color.red()), channel(color.green()), channel(color.blue()), channel(color.alpha())});
             image_.setPixelColor(x, y, QColor(pixel.red, pixel.green, pixel.blue, pixel.alpha));
         }
+}
+
+std::shared_ptr<Bitmap> QtBitmaps::make(int width, int height) {
+    return std::make_shared<QtBitmap>(width, height, qGuiApp->devicePixelRatio());
 }
 
 } // namespace tallyvane

@@ -22,4 +22,10 @@ private:
     PainterGraphics surface_;
 };
 
+/// Makes bitmaps as fine as the application's screens.
+class QtBitmaps : public Bitmaps {
+public:
+    std::shared_ptr<Bitmap> make(int width, int height) override;
+};
+
 } // namespace tallyvane

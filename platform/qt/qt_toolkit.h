@@ -1,47 +1,32 @@
 #pragma once
 
-#include <chrono>
-
-#include "platform/toolkit.h"
-
-class QNetworkAccessManager;
+#include "platform/qt/http_download.h"
+#include "platform/qt/qt_bitmap.h"
+#include "platform/qt/qt_desktop.h"
+#include "platform/qt/qt_file_dialogs.h"
+#include "platform/qt/qt_printers.h"
+#include "platform/qt/qt_window_system.h"
 
 namespace tallyvane {
 
-/// The toolkit on Qt. It is in force from its making to its end, which both lie inside the life of a QApplication.
-class QtToolkit : public Toolkit {
+/// Every service of the desktop by Qt. They are in use as long as this lives, which lies within the life of a
+/// QApplication.
+class QtToolkit {
 public:
     QtToolkit();
-    ~QtToolkit() override;
+    QtToolkit(const QtToolkit&) = delete;
+    QtToolkit& operator=(const QtToolkit&) = delete;
+    ~QtToolkit() { takeOutOfUse(); }
 
-    std::unique_ptr<WindowPeer> show(Window& window) override;
-    Rect placeFor(const Window& window) override;
-    std::shared_ptr<Bitmap> makeBitmap(int width, int height) override;
-    void message(const std::string& text) override;
-    std::optional<std::size_t> ask(const std::string& question, const std::vector<std::string>& answers,
-                                   std::size_t onEscape) override;
-    void beep() override;
-    std::string askWhereToSave(const SaveAsDialog& dialog) override;
-    std::string askForFile(const OpenDialog& dialog) override;
-    std::string askForFolder(const SelectFolderDialog& dialog) override;
-    std::unique_ptr<Paper> makePaper() override;
-    std::unique_ptr<Graphics> openPrinterDialog(const Paper* paper, int resolution, PrintTarget target) override;
-    std::unique_ptr<Download> download(const std::string& address, const std::string& path,
-                                       std::function<void(int status)> done) override;
-    bool openUrl(const std::string& address) override;
-    bool openFile(const std::string& path) override;
-    void quit(int code) override;
+    /// From here on the program works unseen.
+    static void takeOutOfUse();
 
-    /// Of a whole download.
-    std::chrono::milliseconds timeLimit{30'000};
-
-    bool quitAsked() const { return quitAsked_; }
-    int quitCode() const { return quitCode_; }
-
-private:
-    std::unique_ptr<QNetworkAccessManager> network_; // null until it is needed
-    bool quitAsked_ = false;
-    int quitCode_ = 0;
+    QtDesktop desktop;
+    QtBitmaps bitmaps;
+    QtFileDialogs fileDialogs;
+    QtPrinters printers;
+    HttpDownloads downloads;
+    QtWindowSystem windowSystem;
 };
 
 } // namespace tallyvane

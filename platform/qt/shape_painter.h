@@ -5,8 +5,8 @@
 #include <cmath>
 #include <optional>
 
+#include "platform/drawing/shapes.h"
 #include "platform/qt/font_in_use.h"
-#include "platform/shapes.h"
 
 namespace tallyvane {
 

@@ -11,7 +11,7 @@
 #include <QTimer>
 #include <QToolButton>
 
-#include "platform/controls.h"
+#include "platform/controls/controls.h"
 #include "platform/qt/peer.h"
 
 namespace tallyvane {

@@ -6,8 +6,8 @@
 
 #include <string>
 
+#include "platform/controls/text_controls.h"
 #include "platform/qt/peer.h"
-#include "platform/text_controls.h"
 
 namespace tallyvane {
 

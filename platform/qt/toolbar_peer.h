@@ -2,8 +2,8 @@
 
 #include <QToolBar>
 
-#include "platform/menus.h"
 #include "platform/qt/peer.h"
+#include "platform/windows/menus.h"
 
 namespace tallyvane {
 

@@ -8,7 +8,7 @@
 
 #include "platform/qt/peer.h"
 #include "platform/qt/simple_peers.h"
-#include "platform/window.h"
+#include "platform/windows/window.h"
 
 namespace tallyvane {
 

@@ -5,8 +5,8 @@
 #include <sstream>
 
 #include "auto_button/icon_looks.h"
-#include "platform/graphics_recorder.h"
-#include "support/cells.h"
+#include "platform/drawing/graphics_recorder.h"
+#include "support/texts.h"
 
 namespace tallyvane {
 

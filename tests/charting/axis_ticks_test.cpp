@@ -6,7 +6,7 @@
 #include <tuple>
 
 #include "charting/axis_ways.h"
-#include "platform/date.h"
+#include "platform/base/date.h"
 #include "support/drawn.h"
 
 namespace tallyvane {
@@ -116,9 +116,9 @@ TEST(AxisTicks, StepsThatNoBinaryNumberHoldsEndWhereTheyShould) {
         GTAxis axis(vertical);
         axis.SetRange(0, 184.92);
         axis.tickLabelFormat("0.00");
-        GraphicsRecorder g(400, 4000);
-        axis.render(g, 0, 0, 20 * steps);
-        EXPECT_EQ(g.calls().back().text, "184.92") << steps;
+        GraphicsRecorder high(400, 4000);
+        axis.render(high, 0, 0, 20 * steps);
+        EXPECT_EQ(high.calls().back().text, "184.92") << steps;
     }
 }
 

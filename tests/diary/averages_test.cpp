@@ -2,8 +2,8 @@
 
 #include <random>
 
-#include "platform/number.h"
-#include "support/test_desk.h"
+#include "platform/base/number.h"
+#include "support/diary_desk.h"
 
 namespace tallyvane {
 

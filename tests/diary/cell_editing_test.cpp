@@ -1,5 +1,5 @@
-#include "platform/text.h"
-#include "support/test_desk.h"
+#include "platform/base/text.h"
+#include "support/diary_desk.h"
 
 namespace tallyvane {
 

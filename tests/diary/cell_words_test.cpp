@@ -2,7 +2,7 @@
 
 #include "diary/day_table.h"
 #include "settings/globals.h"
-#include "support/test_desk.h"
+#include "support/diary_desk.h"
 
 namespace tallyvane {
 

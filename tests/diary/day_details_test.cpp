@@ -1,6 +1,6 @@
 #include "diary/day_details.h"
 
-#include "support/test_desk.h"
+#include "support/diary_desk.h"
 
 namespace tallyvane {
 

@@ -2,10 +2,10 @@
 
 #include <random>
 
-#include "platform/system_files.h"
+#include "platform/files/system_files.h"
 #include "settings/globals.h"
+#include "support/diary_desk.h"
 #include "support/failing_disk.h"
-#include "support/test_desk.h"
 
 namespace tallyvane {
 
@@ -49,7 +49,7 @@ TEST_F(DayTableTest, BytesThatAreNotTouchedAreWrittenBackAsTheyWere) {
             file += 'd';
             for (int field = 1; field < 11; ++field) {
                 file += "@#@";
-                for (unsigned length = random() % 6; length > 0; --length) {
+                for (auto length = random() % 6; length > 0; --length) {
                     const auto byte = static_cast<char>(random() % 256);
                     if (byte != '\n' && byte != '\r' && byte != '@')
                         file += byte;
@@ -67,7 +67,7 @@ TEST_F(DayTableTest, AnyBytesAsAFileLoadAndReadTheSameOnceSaved) {
                                   "\xFF", "\xE2\x82", "1/1/2026", "5.6"};
     for (int round = 0; round < 300; ++round) {
         std::string file;
-        for (unsigned piece = random() % 60; piece > 0; --piece)
+        for (auto piece = random() % 60; piece > 0; --piece)
             file += pieces[random() % std::size(pieces)];
         const std::string once = savedAgain(file);
         ASSERT_EQ(savedAgain(once), once) << "round " << round;

@@ -1,8 +1,8 @@
 #include "diary/indicators.h"
 
-#include "platform/graphics_recorder.h"
+#include "platform/drawing/graphics_recorder.h"
 #include "settings/globals.h"
-#include "support/test_desk.h"
+#include "support/diary_desk.h"
 
 namespace tallyvane {
 

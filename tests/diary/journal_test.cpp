@@ -1,8 +1,8 @@
 #include "diary/window1.h"
-#include "platform/text_output.h"
+#include "platform/printing/print_and_save.h"
 #include "settings/globals.h"
+#include "support/diary_desk.h"
 #include "support/failing_disk.h"
-#include "support/test_desk.h"
 
 namespace tallyvane {
 

@@ -1,7 +1,7 @@
 #include "diary/running_logs.h"
 
 #include "settings/globals.h"
-#include "support/test_desk.h"
+#include "support/diary_desk.h"
 
 namespace tallyvane {
 

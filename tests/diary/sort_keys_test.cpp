@@ -1,6 +1,6 @@
 #include "diary/sort_keys.h"
 
-#include "support/test_desk.h"
+#include "support/diary_desk.h"
 
 namespace tallyvane {
 

@@ -1,7 +1,7 @@
 #include "diary/window1.h"
 
 #include "diary/date_window.h"
-#include "support/test_desk.h"
+#include "support/diary_desk.h"
 
 namespace tallyvane {
 

@@ -5,7 +5,7 @@
 #include <sstream>
 #include <tuple>
 
-#include "platform/number.h"
+#include "platform/base/number.h"
 #include "settings/globals.h"
 #include "support/test_desk.h"
 

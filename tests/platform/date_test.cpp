@@ -1,4 +1,4 @@
-#include "platform/date.h"
+#include "platform/base/date.h"
 
 #include <gtest/gtest.h>
 

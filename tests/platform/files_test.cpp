@@ -1,16 +1,17 @@
-#include "platform/folder_item.h"
-#include "platform/system_files.h"
+#include "platform/files/folder_item.h"
+#include "platform/files/system_files.h"
 
 #include <sys/stat.h>
 
+#include "platform/files/text_output_stream.h"
 #include "support/failing_disk.h"
-#include "support/test_desk.h"
+#include "support/platform_desk.h"
 
 namespace tallyvane {
 
 namespace {
 
-class FilesTest : public TestDesk {
+class FilesTest : public PlatformDesk {
 protected:
     FolderItem place(const std::string& name) const { return *SpecialFolder::ApplicationData->Child(name); }
 

@@ -1,4 +1,4 @@
-#include "platform/listbox.h"
+#include "platform/controls/listbox.h"
 
 #include <gtest/gtest.h>
 

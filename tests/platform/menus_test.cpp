@@ -1,8 +1,8 @@
-#include "platform/menus.h"
+#include "platform/windows/menus.h"
 
 #include <gtest/gtest.h>
 
-#include "platform/window.h"
+#include "platform/windows/window.h"
 #include "support/cells.h"
 
 namespace tallyvane {

@@ -1,4 +1,4 @@
-#include "platform/number.h"
+#include "platform/base/number.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
-#include "platform/printing.h"
+#include "platform/printing/printing.h"
 
 #include <gtest/gtest.h>
 
-#include "platform/graphics_recorder.h"
+#include "platform/drawing/graphics_recorder.h"
 #include "support/cells.h"
 
 namespace tallyvane {

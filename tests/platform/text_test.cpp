@@ -1,8 +1,8 @@
-#include "platform/text.h"
+#include "platform/base/text.h"
 
 #include <gtest/gtest.h>
 
-#include "platform/text_decoding.h"
+#include "platform/base/text_decoding.h"
 
 namespace tallyvane {
 

@@ -1,6 +1,7 @@
-#include "platform/window.h"
+#include "platform/windows/window.h"
 
-#include "support/test_desk.h"
+#include "platform/windows/quit.h"
+#include "support/platform_desk.h"
 
 namespace tallyvane {
 
@@ -34,7 +35,7 @@ public:
     void Event_Resized() override { log += "resized "; }
 };
 
-class WindowTest : public TestDesk {};
+class WindowTest : public PlatformDesk {};
 
 TEST_F(WindowTest, OpensItsControlsFirstAndClosesOnce) {
     DiaristWindow window;

@@ -213,7 +213,7 @@ TEST_F(MainWindowTest, ShortcutsWorkWhileACellIsOpen) {
     QTest::keyClick(editor(), Qt::Key_I, Qt::ControlModifier); // no Tab, although it comes as character 9
     EXPECT_EQ(list().openColumn(), 1);
     QTest::keyClick(editor(), Qt::Key_Q, Qt::ControlModifier);
-    EXPECT_TRUE(qt_.quitAsked());
+    EXPECT_TRUE(qt_.desktop.quitAsked());
 }
 
 TEST_F(MainWindowTest, MovesAndSizesOfTheUserAreSaved) {
@@ -225,7 +225,7 @@ TEST_F(MainWindowTest, MovesAndSizesOfTheUserAreSaved) {
     frame_->resize(frame_->width() + 50, frame_->height() + 40);
     frame_->close();
     EXPECT_EQ(read(applicationFile("QVXWindowData")), "90\n100\n746\n600\n");
-    EXPECT_TRUE(qt_.quitAsked());
+    EXPECT_TRUE(qt_.desktop.quitAsked());
     EXPECT_EQ(frameTitled("Tallyvane"), nullptr);
 }
 

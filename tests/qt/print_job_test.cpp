@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-#include "platform/printing.h"
+#include "platform/printing/printing.h"
 
 namespace tallyvane {
 

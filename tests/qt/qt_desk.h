@@ -14,24 +14,17 @@
 #include "platform/qt/listbox_peer.h"
 #include "platform/qt/qt_toolkit.h"
 #include "platform/qt/window_peer.h"
+#include "shell/app.h"
 #include "shell/new_version_window.h"
 #include "support/test_desk.h"
 
 namespace tallyvane {
 
-/// Qt, cut off from the network unless a test asks for it.
-class QtToolkitOnDesk : public QtToolkit {
-public:
-    std::unique_ptr<Download> download(const std::string& address, const std::string& path,
-                                       std::function<void(int status)> done) override {
-        return isOnline ? QtToolkit::download(address, path, std::move(done)) : nullptr;
-    }
-    bool isOnline = false;
-};
-
 /// The whole program on Qt, with the diary in front.
 class QtDesk : public TestDesk {
 protected:
+    QtDesk() { Downloads::use(nullptr); }
+
     /// Starts on the files that the test has laid out and waits for nothing: the splash is over at once.
     void start() {
         app_ = std::make_unique<App>();
@@ -123,7 +116,7 @@ protected:
     QLineEdit* editor() { return table_->findChild<CellEditor*>(); }
     Listbox& list() { return app_->window1()->ListBox1; }
 
-    QtToolkitOnDesk qt_; // in force instead of the recording one
+    QtToolkit qt_; // in use instead of the recording toolkit, but for the network
     std::unique_ptr<App> app_;
     std::vector<std::unique_ptr<Window>> others_;
     WindowFrame* frame_ = nullptr;

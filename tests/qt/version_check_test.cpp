@@ -55,8 +55,8 @@ protected:
     void SetUp() override {
         QtDesk::SetUp();
         SpecialFolder::Temporary = SpecialFolder::ApplicationData;
-        qt_.timeLimit = std::chrono::milliseconds(400);
-        qt_.isOnline = true;
+        qt_.downloads.timeLimit = std::chrono::milliseconds(400);
+        Downloads::use(&qt_.downloads);
     }
 
     /// Hears what a check ends with.

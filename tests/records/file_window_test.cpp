@@ -1,5 +1,6 @@
 #include "records/file_window.h"
 
+#include "platform/files/system_files.h"
 #include "settings/globals.h"
 #include "support/failing_disk.h"
 #include "support/test_desk.h"

@@ -2,7 +2,8 @@
 
 #include <algorithm>
 
-#include "platform/text.h"
+#include "platform/base/text.h"
+#include "platform/files/system_files.h"
 #include "settings/unsaved_files.h"
 #include "support/failing_disk.h"
 #include "support/test_desk.h"

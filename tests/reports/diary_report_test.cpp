@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "platform/number.h"
+#include "platform/base/number.h"
 #include "settings/globals.h"
+#include "support/diary_desk.h"
 #include "support/drawn.h"
-#include "support/test_desk.h"
 
 namespace tallyvane {
 

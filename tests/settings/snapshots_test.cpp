@@ -1,5 +1,6 @@
 #include "settings/snapshots.h"
 
+#include "platform/files/system_files.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
 #include "support/cells.h"
@@ -124,34 +125,6 @@ TEST_F(SnapshotsTest, AFullerCopyIsFoundForATableThatIsNotWhole) {
     StartupGlobals::gDataFolder = DataFiles::applicationFolder();
     std::filesystem::create_directory(table());
     EXPECT_FALSE(Snapshots::fullerThanTable(today)) << "what stands there is not ours";
-}
-
-TEST_F(SnapshotsTest, TheUserIsAskedBeforeACopyComesBack) {
-    const std::string cut = "1/1/2026@#@5\n1/2/20";
-    using Chosen = std::optional<std::size_t>;
-    for (const Chosen& answer : {Chosen(), Chosen(1), Chosen(0)}) {
-        SCOPED_TRACE(answer ? static_cast<int>(*answer) : -1);
-        write(copyOf("2026-11-20", "7VXData"), threeDays);
-        write(table(), cut);
-        toolkit_.questions.clear();
-        toolkit_.answers = {answer};
-        App app;
-        app.Event_Open();
-        EXPECT_EQ(
-            toolkit_.questions,
-            Texts{"The file with your days is empty or cut off: it holds 1 whole days. The copy of 11/20/2026 holds "
-                  "3 days. Do you want it back in its place? What the file holds now is kept as \u201c7VXData "
-                  "damaged 2026-11-22\u201d."});
-        EXPECT_EQ(read(applicationFile("7VXData damaged 2026-11-22")), cut);
-        if (!answer) {
-            EXPECT_EQ(app.window1(), nullptr) << "nobody has answered: nothing is opened, and nothing saved";
-            app.Event_Close();
-            EXPECT_EQ(read(table()), cut);
-            continue;
-        }
-        EXPECT_EQ(app.window1()->ListBox1.ListCount(), *answer == 0 ? 3 : 2);
-        app.window1()->Close();
-    }
 }
 
 TEST_F(SnapshotsTest, ACopyThatCannotBeReadLeavesTheTableAlone) {

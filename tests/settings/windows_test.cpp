@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "platform/text.h"
+#include "platform/base/text.h"
 #include "settings/edit_headings.h"
 #include "settings/globals.h"
 #include "settings/prefs_window.h"

@@ -2,6 +2,8 @@
 
 #include <random>
 
+#include "diary/window1.h"
+#include "platform/windows/quit.h"
 #include "settings/globals.h"
 #include "settings/prefs_module.h"
 #include "shell/command_line.h"
@@ -157,7 +159,7 @@ TEST_F(AppTest, AnyBytesInAnyFileStartAndEnd) {
     for (int round = 0; round < 40; ++round) {
         for (const char* file : files) {
             std::string content;
-            for (unsigned piece = random() % 25; piece > 0; --piece)
+            for (auto piece = random() % 25; piece > 0; --piece)
                 content += pieces[random() % pieces.size()];
             write(applicationFile(file), content);
         }

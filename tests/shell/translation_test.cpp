@@ -1,4 +1,6 @@
+#include "diary/window1.h"
 #include "records/logs_window.h"
+#include "shell/app.h"
 #include "shell/toolbar1.h"
 #include "support/pseudo_locale.h"
 #include "support/test_desk.h"

@@ -1,13 +1,9 @@
 #pragma once
 
-#include <string>
-#include <vector>
-
-#include "platform/listbox.h"
+#include "platform/controls/listbox.h"
+#include "support/texts.h"
 
 namespace tallyvane {
-
-using Texts = std::vector<std::string>;
 
 /// The texts of a column from the first row on.
 inline Texts columnOf(const Listbox& list, int column) {

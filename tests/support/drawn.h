@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/graphics_recorder.h"
+#include "platform/drawing/graphics_recorder.h"
 
 namespace tallyvane {
 

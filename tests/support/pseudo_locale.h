@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/translation.h"
+#include "platform/base/translation.h"
 
 namespace tallyvane {
 

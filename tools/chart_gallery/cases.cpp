@@ -3,7 +3,7 @@
 #include <cmath>
 #include <functional>
 
-#include "platform/date.h"
+#include "platform/base/date.h"
 
 namespace tallyvane {
 

@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "cases.h"
+#include "platform/drawing/picture.h"
 #include "platform/qt/file_surfaces.h"
 
 namespace {

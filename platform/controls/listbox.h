@@ -1,0 +1,263 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/controls/text_controls.h"
+#include "platform/drawing/graphics.h"
+#include "platform/drawing/picture.h"
+#include "platform/files/folder_item.h"
+
+namespace tallyvane {
+
+/// Hears what happens in a list, row by row. The peer that shows the list is one.
+class ListboxObserver : public ControlObserver {
+public:
+    virtual void rowAdded(int row) = 0;
+    virtual void rowRemoved(int row) = 0;
+    /// Rows have other places or are others altogether.
+    virtual void rowsReplaced() = 0;
+    virtual void cellChanged(int row, int column) = 0;
+    virtual void selectionChanged() = 0;
+    /// A cell was opened, or the open one was closed.
+    virtual void openCellChanged() = 0;
+    /// A line is to show at the open cell.
+    virtual void hintGiven(const std::string& hint) = 0;
+    virtual void bringIntoView(int row) = 0;
+};
+
+/// What the user drops: a file, a text, or neither of them.
+struct DragItem {
+    std::optional<FolderItem> file;
+    std::optional<std::string> text;
+};
+
+/// A grid of text cells with headings, a selection of rows and one cell at most open for typing. Rows and columns
+/// count from 0. Outside of the grid a cell reads as "" and a write does nothing.
+///
+/// Every row bears a revision: a number that belongs to its present cells alone. Each write gives the row another
+/// one, and no number is given twice, so whoever remembers something of a row can tell whether it still holds.
+class Listbox : public Control {
+public:
+    enum ColumnTypes { TypeDefault = 0, TypeEditable = 3 };
+    enum ColumnAlignments { AlignDefault = 0, AlignLeft = 1, AlignCenter = 2, AlignRight = 3 };
+    enum class SelectionTypes { single, multiple };
+
+    explicit Listbox(int columnCount);
+
+    // Columns
+
+    int ColumnCount() const { return static_cast<int>(columns_.size()); }
+    /// Points of each column, or parts of the list's width with "%", with "," between them. A column past the last
+    /// width is not shown.
+    const std::string& ColumnWidths() const { return columnWidths_; }
+    void ColumnWidths(std::string value) { set(columnWidths_, std::move(value)); }
+    /// Points of a column as the list was laid out; 0 for one that is not shown.
+    int WidthActual(int column) const;
+    /// Whether the headings are shown.
+    bool HasHeading() const { return hasHeading_; }
+    void HasHeading(bool value) { set(hasHeading_, value); }
+    /// Whether a frame is drawn around the list.
+    bool Border() const { return border_; }
+    void Border(bool value) { set(border_, value); }
+    const std::string& Heading(int column) const { return columns_[index(column)].heading; }
+    void Heading(int column, std::string text) { set(columns_[index(column)].heading, std::move(text)); }
+    int ColumnType(int column) const { return columns_[index(column)].type; }
+    void ColumnType(int column, int type) { set(columns_[index(column)].type, type); }
+    int ColumnAlignment(int column) const { return columns_[index(column)].alignment; }
+    void ColumnAlignment(int column, int alignment) { set(columns_[index(column)].alignment, alignment); }
+    int DefaultRowHeight() const { return rowHeight_; }
+    void DefaultRowHeight(int points) { set(rowHeight_, points); }
+    /// Of the cells, in points of the screen; also in print.
+    int TextSize() const { return textSize_; }
+    void TextSize(int points) { set(textSize_, points); }
+    /// "System" is the desktop's own font.
+    FontName TextFont() const { return textFont_; }
+    void TextFont(FontName name) { set(textFont_, name); }
+    SelectionTypes SelectionType() const { return selectionType_; }
+    void SelectionType(SelectionTypes value) { set(selectionType_, value); }
+
+    // Rows and cells
+
+    int ListCount() const { return static_cast<int>(rows_.size()); }
+    /// The row that was added last; -1 before that, and once it was removed.
+    int LastIndex() const { return lastIndex_; }
+    const std::string& Cell(int row, int column) const;
+    /// The texts of a row that exists, for those who want them all; valid until the row changes.
+    std::span<const std::string> cells(int row) const { return rows_[index(row)].cells; }
+    /// A write from code raises no event.
+    void Cell(int row, int column, std::string_view text);
+    /// Appends a row whose column 0 holds the text; its other cells are empty.
+    void AddRow(std::string_view text);
+    /// Appends rows at one go, each with its texts from column 0; texts past the last column are dropped.
+    void AddRows(std::vector<std::vector<std::string>> rows);
+    void RemoveRow(int row);
+    void DeleteAllRows();
+    // How a cell's text is set off, also in print
+    bool CellBold(int row, int column) const { return styleOf(row, column).bold; }
+    void CellBold(int row, int column, bool on) { setStyle(row, column, &TextStyle::bold, on); }
+    bool CellItalic(int row, int column) const { return styleOf(row, column).italic; }
+    void CellItalic(int row, int column, bool on) { setStyle(row, column, &TextStyle::italic, on); }
+    bool CellUnderline(int row, int column) const { return styleOf(row, column).underline; }
+    void CellUnderline(int row, int column, bool on) { setStyle(row, column, &TextStyle::underline, on); }
+    TextStyle styleOf(int row, int column) const;
+    /// A small picture before the text of column 0; empty for none.
+    std::optional<Picture> RowPicture(int row) const;
+    void RowPicture(int row, Picture picture);
+    /// Removes all selected rows at one go, and raises Change once if there were any.
+    void RemoveSelectedRows();
+    std::uint64_t revision(int row) const { return rows_[index(row)].revision; }
+
+    // Selection
+
+    /// The first selected row, or -1.
+    int ListIndex() const;
+    /// Selects that row alone; -1 selects none. Raises Change when the selection differs.
+    void ListIndex(int row);
+    bool Selected(int row) const { return contains(row, 0) && rows_[index(row)].selected; }
+    /// Closes an open cell as `select` does.
+    void Selected(int row, bool value);
+    int SelectedCount() const { return selectedCount_; }
+    /// The selected rows as lines, their first so many cells with tabs between them; a tab in a cell is a blank.
+    std::string selectedText(int columns) const;
+    /// Selects these rows and no other. Raises Change once when the selection differs. An open cell is closed unless
+    /// its row alone is selected: nobody types into a row while another is marked.
+    void select(const std::vector<bool>& rows);
+    /// Scrolls so that the row and as many as possible of those after it can be seen.
+    void bringIntoView(int row);
+
+    // What may be dropped on the list
+
+    /// Files of any type; "all" is the only kind there is.
+    void AcceptFileDrop(std::string_view /*kind*/) { acceptsFiles_ = true; }
+    void AcceptTextDrop() { acceptsTexts_ = true; }
+    bool acceptsFiles() const { return acceptsFiles_; }
+    bool acceptsTexts() const { return acceptsTexts_; }
+
+    // Editing in place
+
+    /// Opens a cell, whatever its column's type, with its row selected alone; for the open cell this is confirmCell. A
+    /// row or column that does not exist leaves things as they are.
+    void EditCell(int row, int column);
+    /// The field of the open cell; it keeps its last state when none is open.
+    TextField& ActiveCell() { return activeCell_; }
+    /// The open cell's place; -1 when none is open.
+    int openRow() const { return openRow_; }
+    int openColumn() const { return openColumn_; }
+    /// The user has typed in the open cell: the cell takes the text at once, in one line, then CellTextChange is
+    /// raised.
+    void userTyped(std::string text, int selStart, int selLength);
+    /// Ends the editing; the cell keeps what was typed.
+    void closeCell();
+    /// The cell stays open and keeps what was typed, also if it is reverted later.
+    void confirmCell() { cellsBeforeTyping_.clear(); }
+    /// Ends the editing and puts the text back as it was when the cell was opened or confirmed last, and with it the
+    /// other cells of the row, which may have followed what was typed. CellTextChange if anything was typed.
+    void revertCell();
+    /// Moves the editing by so many rows, down if positive, as far as there are rows, and selects the whole text.
+    void moveCell(int rows);
+    /// Shows a line at the open cell, for a few seconds or until another cell is opened.
+    void giveHint(const std::string& hint);
+
+    // Sorting
+
+    /// 1 ascending, -1 descending, 0 before a direction was set.
+    int ColumnSortDirection(int column) const { return columns_[index(column)].sortDirection; }
+    void ColumnSortDirection(int column, int direction) { columns_[index(column)].sortDirection = direction; }
+    int SortedColumn() const { return sortedColumn_; }
+    void SortedColumn(int column) { sortedColumn_ = column; }
+    /// Sorts by the texts of the sorted column in its direction. Rows with equal texts keep their order, and the
+    /// selection stays with its rows. An open cell is closed.
+    void Sort();
+    /// The user has pressed a heading: sorts by that column, unless HeaderPressed says that it has done its own.
+    void pressHeader(int column);
+
+    // Events
+
+    std::function<void()> Open;
+    std::function<void()> Change;
+    std::function<bool(int row, int column, int x, int y)> CellClick;
+    /// A key in the open cell; true when it was consumed. Those that type no text come as `Keys` (platform/keys.h)
+    /// names them.
+    std::function<bool(int row, int column, const std::string& key)> CellKeyDown;
+    std::function<void(int row, int column)> CellTextChange;
+    std::function<bool(int column)> HeaderPressed;
+    /// On a row; also Return, when no cell is open.
+    std::function<void()> DoubleClick;
+    /// A click with the platform's key for shortcuts held down; also F2.
+    std::function<void(int row, int column)> CellCommandClick;
+    /// A file or a text was dropped on the list.
+    std::function<void(const DragItem& item)> DropObject;
+    /// What is read aloud for a cell; without it heading, first cell and text.
+    std::function<std::string(int row, int column)> CellDescription;
+    /// The line that shows while the pointer rests on a cell; "" for none. A text with such a line has dots under it.
+    std::function<std::string(int row, int column)> CellHelpTag;
+    /// Paints below the text of a cell; the surface is the cell. Also called for rows that do not exist.
+    std::function<bool(Graphics& g, int row, int column)> CellBackgroundPaint;
+    /// Before the text is drawn at x, y: may set the colour, or draw the text itself and say true.
+    std::function<bool(Graphics& g, int row, int column, int x, int y)> CellTextPaint;
+
+    void observe(ListboxObserver* observer) {
+        Control::observe(observer);
+        list_ = observer;
+    }
+
+private:
+    struct Column {
+        std::string heading;
+        int type = TypeDefault;
+        int alignment = AlignDefault;
+        int sortDirection = 0;
+    };
+    struct RowLook {
+        std::map<int, TextStyle> styles; // by column
+        std::optional<Picture> picture;
+    };
+    struct Row {
+        std::vector<std::string> cells;
+        std::uint64_t revision = 0;
+        bool selected = false;
+        std::unique_ptr<RowLook> look; // null for a row like all others
+    };
+
+    static std::size_t index(int i) { return static_cast<std::size_t>(i); }
+    bool contains(int row, int column) const {
+        return row >= 0 && row < ListCount() && column >= 0 && column < ColumnCount();
+    }
+    RowLook& lookOf(int row);
+    void setStyle(int row, int column, bool TextStyle::*part, bool on);
+    void raiseChange();
+    void closeCellBesideSelection();
+    void write(int row, int column, std::string_view text);
+    void raiseTextChange(int row, int column);
+
+    std::vector<Column> columns_;
+    std::string columnWidths_;
+    bool hasHeading_ = true;
+    bool border_ = false;
+    bool acceptsFiles_ = false;
+    bool acceptsTexts_ = false;
+    int rowHeight_ = 15;
+    int textSize_ = 12;
+    FontName textFont_;
+    SelectionTypes selectionType_ = SelectionTypes::single;
+    std::vector<Row> rows_;
+    std::uint64_t lastRevision_ = 0;
+    int lastIndex_ = -1;
+    int selectedCount_ = 0;
+    int sortedColumn_ = -1;
+    TextField activeCell_;
+    int openRow_ = -1;
+    int openColumn_ = -1;
+    std::vector<std::string> cellsBeforeTyping_; // of the open cell's row; empty while there is nothing to revert
+    ListboxObserver* list_ = nullptr;
+};
+
+} // namespace tallyvane

@@ -1,0 +1,85 @@
+#include "platform/controls/listbox.h"
+
+#include <algorithm>
+
+#include "platform/base/text.h"
+
+namespace tallyvane {
+
+namespace {
+
+/// A cell holds no line end. One behind a pasted text, as spreadsheets leave it, goes; others become blanks.
+std::string cellText(std::string_view text) {
+    const std::size_t end = text.find_last_not_of("\r\n");
+    return ReplaceLineEndings(text.substr(0, end + 1), " ");
+}
+
+} // namespace
+
+void Listbox::EditCell(int row, int column) {
+    if (!contains(row, column))
+        return;
+    ListIndex(row);
+    confirmCell();
+    if (row == openRow_ && column == openColumn_)
+        return;
+    closeCell();
+    openRow_ = row;
+    openColumn_ = column;
+    activeCell_.userChanged(Cell(row, column), 0, Len(Cell(row, column)));
+    if (list_ != nullptr)
+        list_->openCellChanged();
+}
+
+void Listbox::userTyped(std::string text, int selStart, int selLength) {
+    if (openRow_ < 0)
+        return;
+    const int row = openRow_;
+    const int column = openColumn_;
+    if (cellsBeforeTyping_.empty())
+        cellsBeforeTyping_ = rows_[index(row)].cells;
+    std::string line = cellText(text);
+    write(row, column, line);
+    activeCell_.userChanged(std::move(text), selStart, selLength);
+    activeCell_.Text(std::move(line));
+    raiseTextChange(row, column);
+}
+
+void Listbox::closeCell() {
+    if (openRow_ < 0)
+        return;
+    openRow_ = -1;
+    openColumn_ = -1;
+    if (list_ != nullptr)
+        list_->openCellChanged();
+}
+
+void Listbox::revertCell() {
+    const int row = openRow_;
+    const int column = openColumn_;
+    closeCell();
+    if (row < 0 || cellsBeforeTyping_.empty())
+        return;
+    for (int followed = 0; followed < ColumnCount(); ++followed)
+        Cell(row, followed, cellsBeforeTyping_[index(followed)]);
+    raiseTextChange(row, column);
+}
+
+void Listbox::moveCell(int rows) {
+    if (openRow_ < 0)
+        return;
+    EditCell(std::clamp(openRow_ + rows, 0, ListCount() - 1), openColumn_);
+    activeCell_.SelectAll();
+}
+
+void Listbox::giveHint(const std::string& hint) {
+    if (list_ != nullptr && openRow_ >= 0)
+        list_->hintGiven(hint);
+}
+
+void Listbox::raiseTextChange(int row, int column) {
+    if (CellTextChange)
+        CellTextChange(row, column);
+}
+
+} // namespace tallyvane

@@ -1,0 +1,119 @@
+/// The fields that the user writes in. Places in a text are counted in characters, from 0.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "platform/base/text.h"
+#include "platform/controls/control.h"
+
+namespace tallyvane {
+
+/// A field of one line, also the open cell of a list. Line ends, as in what is pasted, become blanks.
+class TextField : public Control {
+public:
+    const std::string& Text() const { return text_; }
+    /// Raises TextChange when the text differs.
+    void Text(std::string_view value) {
+        std::string line = ReplaceLineEndings(value, " ");
+        const bool differs = text_ != line;
+        set(text_, std::move(line));
+        if (differs && TextChange)
+            TextChange();
+    }
+    // The selection. Only the open cell of a list shows one that is set here.
+    int SelStart() const { return selStart_; }
+    void SelStart(int value) { set(selStart_, value); }
+    int SelLength() const { return selLength_; }
+    void SelLength(int value) { set(selLength_, value); }
+
+    void SelectAll() {
+        SelStart(0);
+        SelLength(Len(text_));
+    }
+
+    /// The text and the selection as the user has just made them: as Text, but no news for the observer, who brings it.
+    void userChanged(std::string_view text, int selStart, int selLength) {
+        std::string line = ReplaceLineEndings(text, " ");
+        const bool differs = text_ != line;
+        text_ = std::move(line);
+        selStart_ = selStart;
+        selLength_ = selLength;
+        if (differs && TextChange)
+            TextChange();
+    }
+
+    std::function<void()> Open;
+    /// A key; true when it was consumed. Those that type no text come as `Keys` (platform/keys.h) names them. Tab,
+    /// Return and Escape are the window's.
+    std::function<bool(const std::string& key)> KeyDown;
+    std::function<void()> TextChange;
+
+private:
+    std::string text_;
+    int selStart_ = 0;
+    int selLength_ = 0;
+};
+
+/// Shows a text area, and alone knows where the user's selection is.
+class TextAreaObserver : public ControlObserver {
+public:
+    /// Puts a text in place of the selection, as if the user had typed it.
+    virtual void replaceSelection(std::string_view text) = 0;
+};
+
+/// A field of many lines.
+class TextArea : public Control {
+public:
+    const std::string& Text() const { return text_; }
+    /// Line ends become EndOfLine. Raises TextChange when the text differs.
+    void Text(std::string_view value) {
+        std::string text = ReplaceLineEndings(value, EndOfLine);
+        if (text_ == text)
+            return;
+        set(text_, std::move(text));
+        raiseTextChange();
+    }
+    /// Puts a text in place of the user's selection; at the end when nobody shows the area.
+    void SelText(std::string_view value) {
+        if (area_ != nullptr)
+            area_->replaceSelection(value);
+        else
+            Text(text_ + std::string(value));
+    }
+    /// The user can only read and copy. Fixed once it is shown.
+    bool ReadOnly() const { return readOnly_; }
+    void ReadOnly(bool value) { set(readOnly_, value); }
+    /// Words that no dictionary knows are marked, if there is a dictionary. Fixed once it is shown.
+    bool SpellChecking() const { return spellChecking_; }
+    void SpellChecking(bool value) { set(spellChecking_, value); }
+
+    /// The user has typed: as Text, but no news for the observer, who brings it.
+    void userTyped(std::string value) {
+        if (text_ == value)
+            return;
+        text_ = std::move(value);
+        raiseTextChange();
+    }
+
+    std::function<void()> TextChange;
+
+    void observe(TextAreaObserver* observer) {
+        Control::observe(observer);
+        area_ = observer;
+    }
+
+private:
+    void raiseTextChange() {
+        if (TextChange)
+            TextChange();
+    }
+
+    std::string text_;
+    bool readOnly_ = false;
+    bool spellChecking_ = false;
+    TextAreaObserver* area_ = nullptr;
+};
+
+} // namespace tallyvane

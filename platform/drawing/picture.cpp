@@ -1,0 +1,10 @@
+#include "platform/drawing/picture.h"
+
+namespace tallyvane {
+
+Picture::Picture(int width, int height, int depth) : width_(width), height_(height) {
+    if (depth != 0)
+        bitmap_ = Bitmaps::inUse().make(width, height);
+}
+
+} // namespace tallyvane

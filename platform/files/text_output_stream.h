@@ -1,0 +1,43 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "platform/files/folder_item.h"
+#include "platform/files/system_files.h"
+
+namespace tallyvane {
+
+/// Takes a text together.
+class TextWriter {
+public:
+    void Write(std::string_view text) { text_ += text; }
+    void WriteLine(std::string_view text);
+    /// Writes texts as one line, with the separator between them.
+    void WriteFields(std::span<const std::string> texts, std::string_view separator);
+    const std::string& text() const { return text_; }
+
+private:
+    std::string text_;
+};
+
+/// Takes a text together and replaces a file by it on Close. A stream that goes without Close leaves the file alone.
+class TextOutputStream : public TextWriter {
+public:
+    /// Empty for what is no plain file or can't be opened for writing.
+    [[nodiscard]] static std::optional<TextOutputStream> Create(const FolderItem& file);
+
+    /// Replaces the file. Throws IOException, with the old content in place, when it can't. The stream ends here.
+    void Close();
+
+private:
+    explicit TextOutputStream(std::unique_ptr<SystemFiles::Replacement> file) : file_(std::move(file)) {}
+
+    std::unique_ptr<SystemFiles::Replacement> file_;
+};
+
+} // namespace tallyvane

@@ -1,0 +1,11 @@
+#include "platform/net/http_socket.h"
+
+namespace tallyvane {
+
+void HTTPSocket::Get(const std::string& address, const FolderItem& file) {
+    download_ = Downloads::inUse().start(address, file.AbsolutePath(), [this, address, file](int status) {
+        Event_DownloadComplete(address, status, file);
+    });
+}
+
+} // namespace tallyvane
