@@ -6,13 +6,28 @@
 
 namespace tallyvane {
 
+/// What of a control has a new value, in the order in which a peer brings them to a widget at its making.
+enum class Property {
+    visible,
+    enabled,
+    helpTag,
+    accessibleName,
+    appearance, // letters, colours, pictures, frame, row height, and what the user can do with it
+    text, // or caption
+    value, // on or off, the page, the day, the progress, the clockwork
+    selection, // of a field
+    columns, // of a list
+};
+inline constexpr Property lastProperty = Property::columns;
+
 /// Hears that a control has changed. The peer that shows it on a screen is one.
 class ControlObserver {
 public:
     virtual ~ControlObserver() = default;
-    /// A property has a new value, or Refresh was called.
-    virtual void controlChanged() = 0;
-    /// The control goes out of being and must not be touched again.
+    virtual void controlChanged(Property property) = 0;
+    /// All of it is to be painted anew.
+    virtual void repaintControl() {}
+    /// The control is being destroyed and must not be touched again.
     virtual void controlGone() = 0;
     /// The keys are to go to this control from now on.
     virtual void takeFocus() {}
@@ -31,18 +46,21 @@ public:
     }
 
     bool Visible() const { return visible_; }
-    void Visible(bool value) { set(visible_, value); }
+    void Visible(bool value) { set(visible_, value, Property::visible); }
     bool Enabled() const { return enabled_; }
-    void Enabled(bool value) { set(enabled_, value); }
+    void Enabled(bool value) { set(enabled_, value, Property::enabled); }
     /// The line that shows while the pointer rests on the control.
     const std::string& HelpTag() const { return helpTag_; }
-    void HelpTag(std::string value) { set(helpTag_, std::move(value)); }
+    void HelpTag(std::string value) { set(helpTag_, std::move(value), Property::helpTag); }
     /// What a screen reader calls the control; "" leaves it to its text.
     const std::string& AccessibleName() const { return accessibleName_; }
-    void AccessibleName(std::string value) { set(accessibleName_, std::move(value)); }
+    void AccessibleName(std::string value) { set(accessibleName_, std::move(value), Property::accessibleName); }
 
     /// Has the control painted anew.
-    void Refresh() { changed(); }
+    void Refresh() {
+        if (observer_ != nullptr)
+            observer_->repaintControl();
+    }
     /// From here on the keys go to this control.
     void SetFocus() {
         if (observer_ != nullptr)
@@ -63,17 +81,17 @@ public:
 protected:
     ControlObserver* observer() const { return observer_; }
 
-    void changed() {
+    void changed(Property property) {
         if (observer_ != nullptr)
-            observer_->controlChanged();
+            observer_->controlChanged(property);
     }
 
     template <class T>
-    void set(T& property, std::type_identity_t<T> value) {
-        if (property == value)
+    void set(T& member, std::type_identity_t<T> value, Property property) {
+        if (member == value)
             return;
-        property = std::move(value);
-        changed();
+        member = std::move(value);
+        changed(property);
     }
 
 private:

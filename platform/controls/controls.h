@@ -21,23 +21,23 @@ enum class TextAlign { left, center, right };
 class StaticText : public Control {
 public:
     const std::string& Text() const { return text_; }
-    void Text(std::string value) { set(text_, std::move(value)); }
+    void Text(std::string value) { set(text_, std::move(value), Property::text); }
     TextAlign Align() const { return align_; }
-    void Align(TextAlign value) { set(align_, value); }
+    void Align(TextAlign value) { set(align_, value, Property::appearance); }
     /// Empty: the colour that the desktop's theme gives.
     const std::optional<Color>& TextColor() const { return textColor_; }
-    void TextColor(std::optional<Color> value) { set(textColor_, value); }
+    void TextColor(std::optional<Color> value) { set(textColor_, value, Property::appearance); }
     /// In points of the screen; 0: the desktop's own size.
     int TextSize() const { return textSize_; }
-    void TextSize(int value) { set(textSize_, value); }
+    void TextSize(int value) { set(textSize_, value, Property::appearance); }
     /// "System" is the desktop's own font.
     FontName TextFont() const { return textFont_; }
-    void TextFont(FontName value) { set(textFont_, value); }
+    void TextFont(FontName value) { set(textFont_, value, Property::appearance); }
     bool Bold() const { return bold_; }
-    void Bold(bool value) { set(bold_, value); }
+    void Bold(bool value) { set(bold_, value, Property::appearance); }
     /// Whether a text that is too wide goes on in further lines.
     bool Multiline() const { return multiline_; }
-    void Multiline(bool value) { set(multiline_, value); }
+    void Multiline(bool value) { set(multiline_, value, Property::appearance); }
 
 private:
     std::string text_;
@@ -55,10 +55,10 @@ class Canvas : public Control {
 public:
     /// The picture on show, at its own size from the top left corner; empty for none.
     const std::optional<Picture>& Backdrop() const { return backdrop_; }
-    void Backdrop(std::optional<Picture> value) { set(backdrop_, std::move(value)); }
+    void Backdrop(std::optional<Picture> value) { set(backdrop_, std::move(value), Property::appearance); }
     /// Whether it can be reached by the keyboard, where the space bar and Return stand for a press in its middle.
     bool AcceptFocus() const { return acceptFocus_; }
-    void AcceptFocus(bool value) { set(acceptFocus_, value); }
+    void AcceptFocus(bool value) { set(acceptFocus_, value, Property::appearance); }
 
     std::function<void(Graphics& g)> Paint;
 
@@ -81,10 +81,10 @@ private:
 class Rectangle : public Control {
 public:
     Color FillColor() const { return fillColor_; }
-    void FillColor(Color value) { set(fillColor_, value); }
+    void FillColor(Color value) { set(fillColor_, value, Property::appearance); }
     /// In points; 0 for none.
     int BorderWidth() const { return borderWidth_; }
-    void BorderWidth(int value) { set(borderWidth_, value); }
+    void BorderWidth(int value) { set(borderWidth_, value, Property::appearance); }
 
 private:
     Color fillColor_ = RGB(255, 255, 255);
@@ -95,7 +95,7 @@ private:
 class GroupBox : public Control {
 public:
     const std::string& Caption() const { return caption_; }
-    void Caption(std::string value) { set(caption_, std::move(value)); }
+    void Caption(std::string value) { set(caption_, std::move(value), Property::text); }
 
 private:
     std::string caption_;
@@ -104,13 +104,13 @@ private:
 class PushButton : public Control {
 public:
     const std::string& Caption() const { return caption_; }
-    void Caption(std::string value) { set(caption_, std::move(value)); }
+    void Caption(std::string value) { set(caption_, std::move(value), Property::text); }
     /// Return presses it from anywhere in its window. Fixed once it is shown, as Cancel is.
     bool Default() const { return default_; }
-    void Default(bool value) { set(default_, value); }
+    void Default(bool value) { default_ = value; }
     /// Escape presses it from anywhere in its window.
     bool Cancel() const { return cancel_; }
-    void Cancel(bool value) { set(cancel_, value); }
+    void Cancel(bool value) { cancel_ = value; }
 
     std::function<void()> Action;
 
@@ -124,7 +124,7 @@ private:
 class BevelButton : public Control {
 public:
     const std::string& Caption() const { return caption_; }
-    void Caption(std::string value) { set(caption_, std::move(value)); }
+    void Caption(std::string value) { set(caption_, std::move(value), Property::text); }
 
     std::function<void()> Action;
 
@@ -136,12 +136,12 @@ private:
 class CheckBox : public Control {
 public:
     const std::string& Caption() const { return caption_; }
-    void Caption(std::string value) { set(caption_, std::move(value)); }
+    void Caption(std::string value) { set(caption_, std::move(value), Property::text); }
     /// In points of the screen; 0: the desktop's own size. Smaller where the caption has no room otherwise.
     int TextSize() const { return textSize_; }
-    void TextSize(int value) { set(textSize_, value); }
+    void TextSize(int value) { set(textSize_, value, Property::appearance); }
     bool Value() const { return value_; }
-    void Value(bool value) { set(value_, value); }
+    void Value(bool value) { set(value_, value, Property::value); }
     /// The user has changed it: the value, then Action.
     void userToggled(bool value) {
         value_ = value;
@@ -173,7 +173,7 @@ public:
     }
 
     const std::string& Caption() const { return caption_; }
-    void Caption(std::string value) { set(caption_, std::move(value)); }
+    void Caption(std::string value) { set(caption_, std::move(value), Property::text); }
     bool Value() const { return value_; }
     /// Switched on, it switches the others off.
     void Value(bool value) {
@@ -181,7 +181,7 @@ public:
             for (RadioButton* other : choices_)
                 if (other != this)
                     other->Value(false);
-        set(value_, value);
+        set(value_, value, Property::value);
     }
     /// The user has chosen it: the values, then Action.
     void userChose() {
@@ -202,10 +202,10 @@ private:
 class ProgressBar : public Control {
 public:
     int Value() const { return value_; }
-    void Value(int value) { set(value_, value); }
+    void Value(int value) { set(value_, value, Property::value); }
     /// The value that fills it.
     int Maximum() const { return maximum_; }
-    void Maximum(int value) { set(maximum_, value); }
+    void Maximum(int value) { set(maximum_, value, Property::value); }
 
 private:
     int value_ = 0;
@@ -217,10 +217,10 @@ private:
 class TabPanel : public Control {
 public:
     const std::vector<std::string>& Captions() const { return captions_; }
-    void Captions(std::vector<std::string> value) { set(captions_, std::move(value)); }
+    void Captions(std::vector<std::string> value) { captions_ = std::move(value); }
     /// The page in front, from 0.
     int Value() const { return value_; }
-    void Value(int value) { set(value_, value); }
+    void Value(int value) { set(value_, value, Property::value); }
 
 private:
     std::vector<std::string> captions_;
@@ -232,7 +232,7 @@ class CalendarControl : public Control {
 public:
     /// The marked day; today to begin with.
     const Date& SelectedDate() const { return selectedDate_; }
-    void SelectedDate(const Date& value) { set(selectedDate_, value); }
+    void SelectedDate(const Date& value) { set(selectedDate_, value, Property::value); }
 
     std::function<void()> Open;
     std::function<void()> DayDoubleClicked;
@@ -251,12 +251,12 @@ public:
 
     /// Milliseconds until the next firing.
     int Period() const { return period_; }
-    void Period(int value) { set(period_, value); }
+    void Period(int value) { set(period_, value, Property::value); }
     /// Set to single-shot, also when it is that already, it starts to count anew.
     int Mode() const { return mode_; }
     void Mode(int value) {
         mode_ = value;
-        changed();
+        changed(Property::value);
     }
 
     /// The time has come: a single-shot timer goes off, then Action is raised.

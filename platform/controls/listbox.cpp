@@ -136,7 +136,7 @@ void Listbox::setStyle(int row, int column, bool TextStyle::*part, bool on) {
     if (!contains(row, column))
         return;
     lookOf(row).styles[column].*part = on;
-    changed();
+    changed(Property::appearance);
 }
 
 std::optional<Picture> Listbox::RowPicture(int row) const {
@@ -147,7 +147,7 @@ void Listbox::RowPicture(int row, Picture picture) {
     if (!contains(row, 0))
         return;
     lookOf(row).picture = std::move(picture);
-    changed();
+    changed(Property::appearance);
 }
 
 int Listbox::ListIndex() const {

@@ -58,31 +58,35 @@ public:
     /// Points of each column, or parts of the list's width with "%", with "," between them. A column past the last
     /// width is not shown.
     const std::string& ColumnWidths() const { return columnWidths_; }
-    void ColumnWidths(std::string value) { set(columnWidths_, std::move(value)); }
+    void ColumnWidths(std::string value) { set(columnWidths_, std::move(value), Property::columns); }
     /// Points of a column as the list was laid out; 0 for one that is not shown.
     int WidthActual(int column) const;
     /// Whether the headings are shown.
     bool HasHeading() const { return hasHeading_; }
-    void HasHeading(bool value) { set(hasHeading_, value); }
+    void HasHeading(bool value) { set(hasHeading_, value, Property::columns); }
     /// Whether a frame is drawn around the list.
     bool Border() const { return border_; }
-    void Border(bool value) { set(border_, value); }
+    void Border(bool value) { set(border_, value, Property::appearance); }
     const std::string& Heading(int column) const { return columns_[index(column)].heading; }
-    void Heading(int column, std::string text) { set(columns_[index(column)].heading, std::move(text)); }
+    void Heading(int column, std::string text) {
+        set(columns_[index(column)].heading, std::move(text), Property::columns);
+    }
     int ColumnType(int column) const { return columns_[index(column)].type; }
-    void ColumnType(int column, int type) { set(columns_[index(column)].type, type); }
+    void ColumnType(int column, int type) { set(columns_[index(column)].type, type, Property::columns); }
     int ColumnAlignment(int column) const { return columns_[index(column)].alignment; }
-    void ColumnAlignment(int column, int alignment) { set(columns_[index(column)].alignment, alignment); }
+    void ColumnAlignment(int column, int alignment) {
+        set(columns_[index(column)].alignment, alignment, Property::columns);
+    }
     int DefaultRowHeight() const { return rowHeight_; }
-    void DefaultRowHeight(int points) { set(rowHeight_, points); }
+    void DefaultRowHeight(int points) { set(rowHeight_, points, Property::appearance); }
     /// Of the cells, in points of the screen; also in print.
     int TextSize() const { return textSize_; }
-    void TextSize(int points) { set(textSize_, points); }
+    void TextSize(int points) { set(textSize_, points, Property::appearance); }
     /// "System" is the desktop's own font.
     FontName TextFont() const { return textFont_; }
-    void TextFont(FontName name) { set(textFont_, name); }
+    void TextFont(FontName name) { set(textFont_, name, Property::appearance); }
     SelectionTypes SelectionType() const { return selectionType_; }
-    void SelectionType(SelectionTypes value) { set(selectionType_, value); }
+    void SelectionType(SelectionTypes value) { set(selectionType_, value, Property::appearance); }
 
     // Rows and cells
 
@@ -153,7 +157,7 @@ public:
     int openColumn() const { return openColumn_; }
     /// The user has typed in the open cell: the cell takes the text at once, in one line, then CellTextChange is
     /// raised.
-    void userTyped(std::string text, int selStart, int selLength);
+    void userTyped(std::string_view text, int selStart, int selLength);
     /// Ends the editing; the cell keeps what was typed.
     void closeCell();
     /// The cell stays open and keeps what was typed, also if it is reverted later.

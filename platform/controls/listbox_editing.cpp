@@ -31,17 +31,16 @@ void Listbox::EditCell(int row, int column) {
         list_->openCellChanged();
 }
 
-void Listbox::userTyped(std::string text, int selStart, int selLength) {
+void Listbox::userTyped(std::string_view text, int selStart, int selLength) {
     if (openRow_ < 0)
         return;
     const int row = openRow_;
     const int column = openColumn_;
     if (cellsBeforeTyping_.empty())
         cellsBeforeTyping_ = rows_[index(row)].cells;
-    std::string line = cellText(text);
+    const std::string line = cellText(text);
     write(row, column, line);
-    activeCell_.userChanged(std::move(text), selStart, selLength);
-    activeCell_.Text(std::move(line));
+    activeCell_.userChanged(line, selStart, selLength);
     raiseTextChange(row, column);
 }
 

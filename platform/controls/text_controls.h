@@ -18,15 +18,15 @@ public:
     void Text(std::string_view value) {
         std::string line = ReplaceLineEndings(value, " ");
         const bool differs = text_ != line;
-        set(text_, std::move(line));
+        set(text_, std::move(line), Property::text);
         if (differs && TextChange)
             TextChange();
     }
     // The selection. Only the open cell of a list shows one that is set here.
     int SelStart() const { return selStart_; }
-    void SelStart(int value) { set(selStart_, value); }
+    void SelStart(int value) { set(selStart_, value, Property::selection); }
     int SelLength() const { return selLength_; }
-    void SelLength(int value) { set(selLength_, value); }
+    void SelLength(int value) { set(selLength_, value, Property::selection); }
 
     void SelectAll() {
         SelStart(0);
@@ -38,10 +38,15 @@ public:
         std::string line = ReplaceLineEndings(text, " ");
         const bool differs = text_ != line;
         text_ = std::move(line);
-        selStart_ = selStart;
-        selLength_ = selLength;
+        userSelected(selStart, selLength);
         if (differs && TextChange)
             TextChange();
+    }
+
+    /// The same for the selection alone.
+    void userSelected(int selStart, int selLength) {
+        selStart_ = selStart;
+        selLength_ = selLength;
     }
 
     std::function<void()> Open;
@@ -72,7 +77,7 @@ public:
         std::string text = ReplaceLineEndings(value, EndOfLine);
         if (text_ == text)
             return;
-        set(text_, std::move(text));
+        set(text_, std::move(text), Property::text);
         raiseTextChange();
     }
     /// Puts a text in place of the user's selection; at the end when nobody shows the area.
@@ -84,10 +89,10 @@ public:
     }
     /// The user can only read and copy. Fixed once it is shown.
     bool ReadOnly() const { return readOnly_; }
-    void ReadOnly(bool value) { set(readOnly_, value); }
+    void ReadOnly(bool value) { readOnly_ = value; }
     /// Words that no dictionary knows are marked, if there is a dictionary. Fixed once it is shown.
     bool SpellChecking() const { return spellChecking_; }
-    void SpellChecking(bool value) { set(spellChecking_, value); }
+    void SpellChecking(bool value) { spellChecking_ = value; }
 
     /// The user has typed: as Text, but no news for the observer, who brings it.
     void userTyped(std::string value) {

@@ -25,7 +25,7 @@ CalendarPeer::CalendarPeer(CalendarControl& calendar, QWidget* parent) : Peer(ca
     days_->installEventFilter(this);
     days_->viewport()->installEventFilter(this);
     findChild<QWidget*>(QStringLiteral("qt_calendar_navigationbar"))->layout()->setSpacing(0);
-    controlChanged();
+    bringAll();
     connect(this, &QCalendarWidget::selectionChanged, this, [this] {
         if (control_ != nullptr)
             control_->SelectedDate(fromQt(selectedDate()));
@@ -49,7 +49,9 @@ bool CalendarPeer::eventFilter(QObject* watched, QEvent* event) {
     return true;
 }
 
-void CalendarPeer::sync() {
+void CalendarPeer::bring(Property property) {
+    if (property != Property::value)
+        return;
     const QDate date = toQt(control_->SelectedDate());
     if (date != selectedDate())
         setSelectedDate(date);

@@ -41,13 +41,23 @@ void CellEditor::controlGone() {
     Peer::controlGone();
 }
 
-void CellEditor::controlChanged() { sync(); }
+void CellEditor::controlChanged(Property property) {
+    if (property == Property::text)
+        showText();
+    if (property == Property::text || property == Property::selection)
+        showSelection();
+}
 
-void CellEditor::sync() {
+void CellEditor::showText() {
     const QSignalBlocker quiet(this);
     const QString shown = toQt(control_->Text());
     if (text() != shown)
         setText(shown);
+}
+
+void CellEditor::showSelection() {
+    const QSignalBlocker quiet(this);
+    const QString shown = text();
     const int start = unitsOf(shown, control_->SelStart());
     const int end = unitsOf(shown, control_->SelStart() + control_->SelLength());
     if (end > start)
@@ -60,8 +70,7 @@ void CellEditor::selectionMoved() {
     if (control_ == nullptr)
         return;
     const int start = hasSelectedText() ? selectionStart() : cursorPosition();
-    control_->userChanged(control_->Text(), charactersIn(text(), start),
-                          charactersIn(selectedText(), selectedText().size()));
+    control_->userSelected(charactersIn(text(), start), charactersIn(selectedText(), selectedText().size()));
 }
 
 void CellEditor::textTyped() {
@@ -70,6 +79,10 @@ void CellEditor::textTyped() {
     const std::string typed = fromQt(text());
     const int cursor = charactersIn(text(), cursorPosition());
     deliver([&] { list_->userTyped(typed, cursor, 0); });
+    if (control_ == nullptr || typed == control_->Text())
+        return;
+    controlChanged(Property::text); // without the line ends that were pasted
+    selectionMoved();
 }
 
 bool CellEditor::raiseKeyDown(const std::string& key) {

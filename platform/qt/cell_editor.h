@@ -15,10 +15,9 @@ public:
     void detach() override;
     void controlGone() override;
     /// Text and selection alone; the list's peer shows and hides the field.
-    void controlChanged() override;
+    void controlChanged(Property property) override;
 
 protected:
-    void sync() override;
     bool event(QEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 
@@ -26,6 +25,8 @@ private:
     bool takesKey(const QKeyEvent& key);
     void movePages(int pages);
     bool raiseKeyDown(const std::string& key);
+    void showText();
+    void showSelection();
     void textTyped();
     void selectionMoved();
 

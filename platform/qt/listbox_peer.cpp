@@ -40,7 +40,7 @@ ListboxPeer::ListboxPeer(Listbox& list, QWidget* parent)
     };
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this, press);
     connect(horizontalHeader(), &QHeaderView::sectionDoubleClicked, this, press); // the second of two quick clicks
-    controlChanged();
+    bringAll();
     selectionChanged();
 }
 
@@ -50,20 +50,32 @@ void ListboxPeer::detach() {
     setModel(nullptr); // it reads the list
 }
 
-void ListboxPeer::sync() {
+void ListboxPeer::bring(Property property) {
+    if (property == Property::appearance)
+        bringAppearance();
+    else if (property == Property::columns)
+        bringColumns();
+    else
+        return;
+    fitLastColumn();
+    viewport()->update();
+    placeEditor();
+}
+
+void ListboxPeer::bringAppearance() {
     const bool several = control_->SelectionType() == Listbox::SelectionTypes::multiple;
     setSelectionMode(several ? ExtendedSelection : SingleSelection);
     verticalHeader()->setDefaultSectionSize(control_->DefaultRowHeight());
     setLetters();
-    horizontalHeader()->setVisible(control_->HasHeading());
     setFrameShape(control_->Border() ? StyledPanel : NoFrame);
+}
+
+void ListboxPeer::bringColumns() {
+    horizontalHeader()->setVisible(control_->HasHeading());
     model_->tellColumnsChanged();
     const std::vector<int>& widths = model_->widths();
     for (std::size_t column = 0; column < widths.size(); ++column)
         horizontalHeader()->resizeSection(static_cast<int>(column), widths[column]);
-    fitLastColumn();
-    viewport()->update();
-    placeEditor();
 }
 
 // News of the list
@@ -149,11 +161,11 @@ void ListboxPeer::openCellChanged() {
     scrollTo(cell);
     editor_->setAlignment(alignmentOf(cell.column()));
     nameEditor();
-    editor_->controlChanged();
+    editor_->controlChanged(Property::text);
     placeEditor();
     editor_->show();
     editor_->setFocus();
-    editor_->controlChanged(); // taking the focus moves the selection
+    editor_->controlChanged(Property::selection); // taking the focus moves the selection
 }
 
 /// The open cell is read as the cell is.

@@ -25,6 +25,7 @@ public:
     void openCellChanged() override;
     void hintGiven(const std::string& hint) override;
     void bringIntoView(int row) override;
+    void repaintControl() override { viewport()->update(); }
 
     /// Copies the selected rows with their visible columns to the clipboard; nothing without a selection.
     void copyRows() const;
@@ -36,7 +37,7 @@ public:
     void paintCell(QPainter& painter, const QRect& area, int row, int column);
 
 protected:
-    void sync() override;
+    void bring(Property property) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -58,6 +59,8 @@ protected:
 
 private:
     void setUpLook();
+    void bringAppearance();
+    void bringColumns();
     void setLetters();
     void fitLastColumn();
     QString shownHeading(int column, const QString& heading) const;

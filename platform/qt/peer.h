@@ -41,18 +41,38 @@ public:
 
     void controlGone() override { control_ = nullptr; }
     void takeFocus() override { Widget::setFocus(Qt::OtherFocusReason); }
-    void controlChanged() override {
-        Widget::setVisible(control_->Visible() && inFront_);
-        Widget::setEnabled(control_->Enabled());
-        Widget::setToolTip(toQt(control_->HelpTag()));
-        Widget::setAccessibleName(toQt(control_->AccessibleName()));
-        sync();
-        Widget::update();
+    void controlChanged(Property property) override {
+        switch (property) {
+        case Property::visible:
+            Widget::setVisible(control_->Visible() && inFront_);
+            break;
+        case Property::enabled:
+            Widget::setEnabled(control_->Enabled());
+            break;
+        case Property::helpTag:
+            Widget::setToolTip(helpTag());
+            break;
+        case Property::accessibleName:
+            Widget::setAccessibleName(nameToRead());
+            break;
+        default:
+            bring(property);
+        }
     }
+    void repaintControl() override { Widget::update(); }
 
 protected:
-    /// Brings the control's own properties to the widget.
-    virtual void sync() {}
+    /// Brings every property to the new widget.
+    void bringAll() {
+        for (int property = 0; property <= static_cast<int>(lastProperty); ++property)
+            controlChanged(static_cast<Property>(property));
+    }
+    /// Brings one of the control's own properties to the widget.
+    virtual void bring(Property /*property*/) {}
+    /// The line that shows while the pointer rests here.
+    virtual QString helpTag() const { return toQt(control_->HelpTag()); }
+    /// What a screen reader calls the control.
+    virtual QString nameToRead() const { return toQt(control_->AccessibleName()); }
 
     ControlType* control_;
 

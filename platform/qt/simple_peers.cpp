@@ -41,10 +41,17 @@ QString asItStands(const std::string& caption) {
 
 StaticTextPeer::StaticTextPeer(StaticText& text, QWidget* parent) : Peer(text, parent) {
     setTextFormat(Qt::PlainText);
-    controlChanged();
+    bringAll();
 }
 
-void StaticTextPeer::sync() {
+void StaticTextPeer::bring(Property property) {
+    if (property == Property::appearance)
+        bringAppearance();
+    if (property == Property::appearance || property == Property::text)
+        showText();
+}
+
+void StaticTextPeer::bringAppearance() {
     setAlignment(toQt(control_->Align()) | Qt::AlignVCenter);
     setWordWrap(control_->Multiline());
     QFont font = parentWidget()->font();
@@ -53,33 +60,39 @@ void StaticTextPeer::sync() {
     if (control_->TextSize() > 0)
         font.setPixelSize(control_->TextSize());
     font.setBold(control_->Bold());
-    if (font != this->font())
-        setFont(font);
-    showText();
+    setFont(font);
     QPalette colors = parentWidget()->palette();
     if (const auto& color = control_->TextColor())
         colors.setColor(QPalette::WindowText, tallyvane::toQt(*color));
-    if (colors != palette())
-        setPalette(colors);
+    setPalette(colors);
 }
 
 /// A line that is too long ends in dots, and shows whole in the tool tip. Labels keep their width.
 void StaticTextPeer::showText() {
-    const QString whole = tallyvane::toQt(Left(control_->Text(), mostCharacters));
+    const QString whole = wholeText();
     setText(control_->Multiline() ? whole : fontMetrics().elidedText(whole, Qt::ElideRight, control_->Width()));
-    if (text() == whole)
-        return;
-    if (toolTip().isEmpty())
-        setToolTip(whole);
-    if (accessibleName().isEmpty())
-        setAccessibleName(whole);
+    setToolTip(helpTag());
+    setAccessibleName(nameToRead());
+}
+
+QString StaticTextPeer::wholeText() const { return tallyvane::toQt(Left(control_->Text(), mostCharacters)); }
+
+QString StaticTextPeer::helpTag() const {
+    return isCut() && control_->HelpTag().empty() ? wholeText() : Peer::helpTag();
+}
+
+QString StaticTextPeer::nameToRead() const {
+    return isCut() && control_->AccessibleName().empty() ? wholeText() : Peer::nameToRead();
 }
 
 // Canvas
 
-CanvasPeer::CanvasPeer(Canvas& canvas, QWidget* parent) : Peer(canvas, parent) { controlChanged(); }
+CanvasPeer::CanvasPeer(Canvas& canvas, QWidget* parent) : Peer(canvas, parent) { bringAll(); }
 
-void CanvasPeer::sync() { setFocusPolicy(control_->AcceptFocus() ? Qt::TabFocus : Qt::NoFocus); }
+void CanvasPeer::bring(Property /*property*/) {
+    setFocusPolicy(control_->AcceptFocus() ? Qt::TabFocus : Qt::NoFocus);
+    update();
+}
 
 void CanvasPeer::paintEvent(QPaintEvent* /*event*/) {
     if (control_ == nullptr)
@@ -135,7 +148,7 @@ void CanvasPeer::press() {
 
 // Rectangle
 
-RectanglePeer::RectanglePeer(Rectangle& rectangle, QWidget* parent) : Peer(rectangle, parent) { controlChanged(); }
+RectanglePeer::RectanglePeer(Rectangle& rectangle, QWidget* parent) : Peer(rectangle, parent) { bringAll(); }
 
 void RectanglePeer::paintEvent(QPaintEvent* /*event*/) {
     if (control_ == nullptr)
@@ -148,9 +161,12 @@ void RectanglePeer::paintEvent(QPaintEvent* /*event*/) {
 
 // GroupBox
 
-GroupBoxPeer::GroupBoxPeer(GroupBox& box, QWidget* parent) : Peer(box, parent) { controlChanged(); }
+GroupBoxPeer::GroupBoxPeer(GroupBox& box, QWidget* parent) : Peer(box, parent) { bringAll(); }
 
-void GroupBoxPeer::sync() { setTitle(asItStands(control_->Caption())); }
+void GroupBoxPeer::bring(Property property) {
+    if (property == Property::text)
+        setTitle(asItStands(control_->Caption()));
+}
 
 // PushButton
 
@@ -167,18 +183,19 @@ PushButtonPeer::PushButtonPeer(PushButton& button, QWidget* parent) : Peer(butto
             (focused != nullptr ? focused : this)->click(); // Return presses the button that has the focus
         });
     };
+    setDefault(button.Default());
     if (button.Default()) {
         pressBy(Qt::Key_Return);
         pressBy(Qt::Key_Enter);
     }
     if (button.Cancel())
         pressBy(Qt::Key_Escape);
-    controlChanged();
+    bringAll();
 }
 
-void PushButtonPeer::sync() {
-    setText(asItStands(control_->Caption()));
-    setDefault(control_->Default());
+void PushButtonPeer::bring(Property property) {
+    if (property == Property::text)
+        setText(asItStands(control_->Caption()));
 }
 
 // BevelButton
@@ -189,7 +206,7 @@ BevelButtonPeer::BevelButtonPeer(BevelButton& button, QWidget* parent) : Peer(bu
         if (control_ != nullptr)
             deliver(control_->Action);
     });
-    controlChanged();
+    bringAll();
 }
 
 void BevelButtonPeer::keyPressEvent(QKeyEvent* event) {
@@ -200,31 +217,34 @@ void BevelButtonPeer::keyPressEvent(QKeyEvent* event) {
         QToolButton::keyPressEvent(event);
 }
 
-void BevelButtonPeer::sync() { setText(tallyvane::toQt(control_->Caption())); }
+void BevelButtonPeer::bring(Property property) {
+    if (property == Property::text)
+        setText(tallyvane::toQt(control_->Caption()));
+}
 
 // CheckBox
 
 CheckBoxPeer::CheckBoxPeer(CheckBox& box, QWidget* parent) : Peer(box, parent) {
-    controlChanged();
+    bringAll();
     connect(this, &QCheckBox::clicked, this, [this](bool checked) {
         if (control_ != nullptr)
             deliver([&] { control_->userToggled(checked); });
     });
 }
 
-void CheckBoxPeer::sync() {
-    setText(asItStands(control_->Caption()));
-    setChecked(control_->Value());
-    fitLetters();
+void CheckBoxPeer::bring(Property property) {
+    if (property == Property::value)
+        setChecked(control_->Value());
+    if (property == Property::text)
+        setText(asItStands(control_->Caption()));
+    if (property == Property::text || property == Property::appearance)
+        fitLetters();
 }
 
 /// Captions that the user has written can be wide: their letters get smaller. What is too wide even then shows whole
 /// in the tool tip.
 void CheckBoxPeer::fitLetters() {
     constexpr int smallest = 9; // pixels
-    if (text() == fitted_)
-        return;
-    fitted_ = text();
     QFont letters = parentWidget()->font();
     if (control_->TextSize() > 0)
         letters.setPixelSize(control_->TextSize());
@@ -233,8 +253,11 @@ void CheckBoxPeer::fitLetters() {
         letters.setPixelSize(--pixels);
         setFont(letters);
     }
-    if (isTooWide() && toolTip().isEmpty())
-        setToolTip(tallyvane::toQt(control_->Caption()));
+    setToolTip(helpTag());
+}
+
+QString CheckBoxPeer::helpTag() const {
+    return isTooWide() && control_->HelpTag().empty() ? tallyvane::toQt(control_->Caption()) : Peer::helpTag();
 }
 
 bool CheckBoxPeer::isTooWide() const { return sizeHint().width() > control_->Width(); }
@@ -243,7 +266,7 @@ bool CheckBoxPeer::isTooWide() const { return sizeHint().width() > control_->Wid
 
 RadioButtonPeer::RadioButtonPeer(RadioButton& button, QWidget* parent) : Peer(button, parent) {
     joinChoices(*parent);
-    controlChanged();
+    bringAll();
     connect(this, &QRadioButton::clicked, this, [this] {
         if (control_ != nullptr)
             deliver([&] { control_->userChose(); });
@@ -262,16 +285,20 @@ void RadioButtonPeer::joinChoices(QWidget& parent) {
     (new QButtonGroup(&parent))->addButton(this);
 }
 
-void RadioButtonPeer::sync() {
-    setText(asItStands(control_->Caption()));
-    setChecked(control_->Value());
+void RadioButtonPeer::bring(Property property) {
+    if (property == Property::text)
+        setText(asItStands(control_->Caption()));
+    if (property == Property::value)
+        setChecked(control_->Value());
 }
 
 // ProgressBar
 
-ProgressBarPeer::ProgressBarPeer(ProgressBar& bar, QWidget* parent) : Peer(bar, parent) { controlChanged(); }
+ProgressBarPeer::ProgressBarPeer(ProgressBar& bar, QWidget* parent) : Peer(bar, parent) { bringAll(); }
 
-void ProgressBarPeer::sync() {
+void ProgressBarPeer::bring(Property property) {
+    if (property != Property::value)
+        return;
     setRange(0, control_->Maximum());
     setValue(control_->Value());
 }
@@ -281,14 +308,17 @@ void ProgressBarPeer::sync() {
 TabPanelPeer::TabPanelPeer(TabPanel& panel, QWidget* parent) : Peer(panel, parent) {
     for (const std::string& caption : panel.Captions())
         addTab(new QWidget(this), tallyvane::toQt(caption));
-    controlChanged();
+    bringAll();
     connect(this, &QTabWidget::currentChanged, this, [this](int page) {
         if (control_ != nullptr)
             control_->Value(page);
     });
 }
 
-void TabPanelPeer::sync() { setCurrentIndex(control_->Value()); }
+void TabPanelPeer::bring(Property property) {
+    if (property == Property::value)
+        setCurrentIndex(control_->Value());
+}
 
 // ProgressWheel
 
@@ -299,7 +329,7 @@ ProgressWheelPeer::ProgressWheelPeer(ProgressWheel& wheel, QWidget* parent) : Pe
         update();
     });
     turning_.start(millisecondsPerStep);
-    controlChanged();
+    bringAll();
 }
 
 void ProgressWheelPeer::paintEvent(QPaintEvent* /*event*/) {
@@ -326,7 +356,7 @@ TimerPeer::TimerPeer(Timer& timer, QObject* parent) : timer_(&timer), clock_(par
         if (timer_ != nullptr)
             deliver([timer = timer_] { timer->fire(); });
     });
-    controlChanged();
+    controlChanged(Property::value);
 }
 
 TimerPeer::~TimerPeer() {
@@ -334,7 +364,9 @@ TimerPeer::~TimerPeer() {
         timer_->observe(nullptr);
 }
 
-void TimerPeer::controlChanged() {
+void TimerPeer::controlChanged(Property property) {
+    if (property != Property::value)
+        return;
     clock_.setSingleShot(timer_->Mode() == Timer::ModeSingle);
     if (timer_->Mode() == Timer::ModeOff)
         clock_.stop();

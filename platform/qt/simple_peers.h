@@ -21,10 +21,15 @@ public:
     StaticTextPeer(StaticText& text, QWidget* parent);
 
 protected:
-    void sync() override;
+    void bring(Property property) override;
+    QString helpTag() const override;
+    QString nameToRead() const override;
 
 private:
+    void bringAppearance();
     void showText();
+    QString wholeText() const;
+    bool isCut() const { return text() != wholeText(); }
 };
 
 class CanvasPeer : public Peer<QWidget, Canvas> {
@@ -37,7 +42,7 @@ public:
     void press();
 
 protected:
-    void sync() override;
+    void bring(Property property) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -53,6 +58,7 @@ public:
     RectanglePeer(Rectangle& rectangle, QWidget* parent);
 
 protected:
+    void bring(Property /*property*/) override { update(); }
     void paintEvent(QPaintEvent* event) override;
 };
 
@@ -61,7 +67,7 @@ public:
     GroupBoxPeer(GroupBox& box, QWidget* parent);
 
 protected:
-    void sync() override;
+    void bring(Property property) override;
 };
 
 class PushButtonPeer : public Peer<QPushButton, PushButton> {
@@ -69,7 +75,7 @@ public:
     PushButtonPeer(PushButton& button, QWidget* parent);
 
 protected:
-    void sync() override;
+    void bring(Property property) override;
 };
 
 class BevelButtonPeer : public Peer<QToolButton, BevelButton> {
@@ -77,7 +83,7 @@ public:
     BevelButtonPeer(BevelButton& button, QWidget* parent);
 
 protected:
-    void sync() override;
+    void bring(Property property) override;
     void keyPressEvent(QKeyEvent* event) override;
 };
 
@@ -86,13 +92,12 @@ public:
     CheckBoxPeer(CheckBox& box, QWidget* parent);
 
 protected:
-    void sync() override;
+    void bring(Property property) override;
+    QString helpTag() const override;
 
 private:
     void fitLetters();
     bool isTooWide() const;
-
-    QString fitted_; // the text that the letters fit
 };
 
 class RadioButtonPeer : public Peer<QRadioButton, RadioButton> {
@@ -100,7 +105,7 @@ public:
     RadioButtonPeer(RadioButton& button, QWidget* parent);
 
 protected:
-    void sync() override;
+    void bring(Property property) override;
 
 private:
     void joinChoices(QWidget& parent);
@@ -111,7 +116,7 @@ public:
     ProgressBarPeer(ProgressBar& bar, QWidget* parent);
 
 protected:
-    void sync() override;
+    void bring(Property property) override;
 };
 
 /// Shows the frame and the tabs; what stands on the pages are neighbours of this widget, laid over it.
@@ -120,7 +125,7 @@ public:
     TabPanelPeer(TabPanel& panel, QWidget* parent);
 
 protected:
-    void sync() override;
+    void bring(Property property) override;
 };
 
 class ProgressWheelPeer : public Peer<QWidget, ProgressWheel> {
@@ -143,7 +148,7 @@ public:
     TimerPeer& operator=(const TimerPeer&) = delete;
     ~TimerPeer() override;
 
-    void controlChanged() override;
+    void controlChanged(Property property) override;
     void controlGone() override { timer_ = nullptr; }
 
 private:

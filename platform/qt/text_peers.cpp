@@ -43,11 +43,13 @@ bool worksInFields(int key) {
 
 TextFieldPeer::TextFieldPeer(TextField& field, QWidget* parent) : Peer(field, parent) {
     setMaxLength(std::numeric_limits<int>::max()); // Qt's own limit would cut a text without a word
-    controlChanged();
+    bringAll();
     connect(this, &QLineEdit::textEdited, this, [this] { tellText(); });
 }
 
-void TextFieldPeer::sync() {
+void TextFieldPeer::bring(Property property) {
+    if (property != Property::text)
+        return;
     const QString shown = tallyvane::toQt(control_->Text());
     if (text() != shown)
         setText(shown);
@@ -60,7 +62,7 @@ void TextFieldPeer::tellText() {
     deliver([&] { control_->userChanged(fromQt(text()), cursor, 0); });
     if (control_ != nullptr && fromQt(text()) != control_->Text()) { // its line ends are blanks now
         const int place = cursorPosition();
-        sync();
+        bring(Property::text);
         setCursorPosition(place);
     }
 }
@@ -99,7 +101,7 @@ TextAreaPeer::TextAreaPeer(TextArea& area, QWidget* parent) : Peer(area, parent)
     setReadOnly(area.ReadOnly());
     if (area.SpellChecking() && Dictionary::ofDesktop().isThere())
         new SpellingMarker(document(), Dictionary::ofDesktop());
-    controlChanged();
+    bringAll();
     connect(this, &QPlainTextEdit::textChanged, this, [this] {
         if (control_ == nullptr)
             return;
@@ -108,8 +110,8 @@ TextAreaPeer::TextAreaPeer(TextArea& area, QWidget* parent) : Peer(area, parent)
     });
 }
 
-void TextAreaPeer::sync() {
-    if (control_->Text() == shown_)
+void TextAreaPeer::bring(Property property) {
+    if (property != Property::text || control_->Text() == shown_)
         return;
     shown_ = control_->Text();
     const QSignalBlocker quiet(this);

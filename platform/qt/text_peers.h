@@ -16,7 +16,7 @@ public:
     TextFieldPeer(TextField& field, QWidget* parent);
 
 protected:
-    void sync() override;
+    void bring(Property property) override;
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
 
@@ -32,7 +32,7 @@ public:
     void replaceSelection(std::string_view text) override;
 
 protected:
-    void sync() override;
+    void bring(Property property) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     /// Qt ends the program on a clipboard whose owner is gone: it then has no form at all.
     void insertFromMimeData(const QMimeData* source) override;

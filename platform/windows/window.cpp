@@ -116,8 +116,7 @@ void Window::raiseControlsOpen() {
 
 void Window::Refresh() {
     for (const Placement& placement : placements_)
-        if (!std::holds_alternative<Timer*>(placement.control)) // nothing to paint, and it would count anew
-            std::visit([](Control* control) { control->Refresh(); }, placement.control);
+        std::visit([](Control* control) { control->Refresh(); }, placement.control);
 }
 
 void Window::Open() {

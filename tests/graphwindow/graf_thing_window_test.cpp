@@ -188,7 +188,8 @@ TEST_F(GrafThingWindowTest, BoxesAndTheWeightButtonChangeTheMode) {
 
 /// Counts how often a control wants to be painted.
 struct PaintCounter : ControlObserver {
-    void controlChanged() override { ++paints; }
+    void controlChanged(Property /*property*/) override {}
+    void repaintControl() override { ++paints; }
     void controlGone() override {}
     int paints = 0;
 };

@@ -151,6 +151,33 @@ TEST_F(SideControlsTest, WhatIsTooLongEndsInDotsAndShowsWholeInATip) {
     EXPECT_EQ(heading(0, Qt::ToolTipRole), "");
 }
 
+TEST_F(SideControlsTest, ATipOfWhatIsCutLastsAsLongAsTheCut) {
+    StaticText label;
+    CheckBox box;
+    label.size(60, 20);
+    box.size(60, 20);
+    QWidget window;
+    const StaticTextPeer shownLabel(label, &window);
+    const CheckBoxPeer shownBox(box, &window);
+    const std::string longText = "After the second breakfast of the day";
+    label.Text(longText);
+    box.Caption(longText);
+    for (const auto& change : std::vector<std::function<void(Control&)>>{
+             [](Control& control) { control.Enabled(false); }, [](Control& control) { control.Visible(false); },
+             [&](Control&) { box.Value(true); }, [](Control& control) { control.HelpTag("Whose meal"); },
+             [](Control& control) { control.HelpTag(""); }}) {
+        change(label);
+        change(box);
+        const bool hasOwnTip = !box.HelpTag().empty();
+        EXPECT_EQ(fromQt(shownLabel.toolTip()), hasOwnTip ? label.HelpTag() : longText);
+        EXPECT_EQ(fromQt(shownBox.toolTip()), hasOwnTip ? box.HelpTag() : longText);
+    }
+    label.Text("Lunch");
+    box.Caption("x");
+    EXPECT_EQ(shownLabel.toolTip() + shownBox.toolTip(), "");
+    EXPECT_EQ(shownLabel.accessibleName(), "");
+}
+
 TEST_F(SideControlsTest, ALongListShowsTheRowThatIsSelectedAndItsWholeWidth) {
     write(applicationFile("QVXContacts"), "Nurse@#@Jane@#@@#@@#@\n");
     start();
