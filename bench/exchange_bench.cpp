@@ -113,7 +113,8 @@ std::size_t peakMemory() {
 /// Sends what is printed into a PDF, and asks nobody.
 class PdfPrinters : public QtPrinters {
 public:
-    std::unique_ptr<Graphics> openDialog(const Paper* /*paper*/, int resolution, PrintTarget) override {
+    std::unique_ptr<Graphics> openDialog(const Paper* /*paper*/, int resolution,
+                                         const std::string& /*pdfName*/) override {
         auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
         printer->setOutputFileName(QString::fromStdString(pathOf("report.pdf")));
         std::unique_ptr<Graphics> job = PrintJob::begin(std::move(printer), resolution);

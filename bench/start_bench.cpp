@@ -27,7 +27,7 @@ int beProgram(int& argc, char** argv) {
     App app;
     program.run([&] {
         app.Event_Open();
-        const char ready = app.window1()->ListBox1.ListCount() == 10'000 ? 1 : 0;
+        const char ready = app.windows().main->ListBox1.ListCount() == 10'000 ? 1 : 0;
         if (::write(STDOUT_FILENO, &ready, 1) == 1)
             Quit(0);
     });

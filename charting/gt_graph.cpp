@@ -121,11 +121,13 @@ GTGraph::Room GTGraph::roomAroundPlot(const Graphics& g) {
     return room;
 }
 
-int GTGraph::usableHeight(const Graphics& g) { return isPrintingOn() ? printedHeight : truncated(g.Height()); }
+int GTGraph::usableHeight(const Graphics& g) const {
+    return isPrintingOn && isPrintingOn() ? printedHeight : truncated(g.Height());
+}
 
 // Negative margins move the plot; they don't make it larger than the surface.
 
-int GTGraph::heightWithin(const Room& room, const Graphics& g) {
+int GTGraph::heightWithin(const Room& room, const Graphics& g) const {
     return std::min(usableHeight(g), usableHeight(g) - room.top - room.bottom);
 }
 

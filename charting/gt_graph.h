@@ -15,10 +15,6 @@ namespace tallyvane {
 /// and grow with the resolution; the four margins are in units of the surface and do not.
 class GTGraph {
 public:
-    /// Whether what is drawn goes on a page that is printed with a legend, so that the plot's height is that of a
-    /// fixed part of the page. Whoever prints such pages sets it.
-    static inline std::function<bool()> isPrintingOn = [] { return false; };
-
     GTGraph() = default;
     GTGraph(const GTGraph&) = delete;
     GTGraph& operator=(const GTGraph&) = delete;
@@ -44,6 +40,10 @@ public:
     void titleTopMargin(int points) { myTopTitleMargin = points; }
     int titleBottomMargin() const { return myBottomTitleMargin; }
     void titleBottomMargin(int points) { myBottomTitleMargin = points; }
+
+    /// Whether what is drawn goes on a page that is printed with a legend, so that the plot's height is that of a
+    /// fixed part of the page. Whoever prints such pages sets it; without it no page is one.
+    std::function<bool()> isPrintingOn;
 
     FontName textFont;
     Color textColor = RGB(0, 0, 0);
@@ -88,8 +88,8 @@ private:
         int right = 0;
     };
     Room roomAroundPlot(const Graphics& g);
-    static int usableHeight(const Graphics& g);
-    static int heightWithin(const Room& room, const Graphics& g);
+    int usableHeight(const Graphics& g) const;
+    int heightWithin(const Room& room, const Graphics& g) const;
     void setTitleFont(Graphics& g) const;
     static void renderBackdrop(Graphics& g, int left, int top, int plotWidth, int plotHeight);
 

@@ -1,6 +1,7 @@
 #include "graphwindow/day_graph.h"
 
 #include "platform/base/translation.h"
+#include "settings/globals.h"
 
 namespace tallyvane::DayGraph {
 
@@ -11,6 +12,7 @@ constexpr std::size_t beforeBreakfast = 1;
 
 std::unique_ptr<GTGraph> emptyGraph() {
     auto graph = std::make_unique<GTGraph>();
+    graph->isPrintingOn = [] { return Globals::gPrintingOn; };
     graph->text(tr("Tallyvane\u00ae Graph"));
     graph->textColor = RGB(0, 0, 255);
     graph->textFont = "Verdana";

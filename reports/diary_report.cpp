@@ -17,6 +17,8 @@ constexpr double lowestTallPage = 600;
 constexpr double heightOnTallPage = 650;
 constexpr double heightOnLowPage = 450;
 
+std::string title() { return tr("Tallyvane Report"); }
+
 } // namespace
 
 int countLines2(const std::string& text, double width, const Graphics& g) {
@@ -28,14 +30,14 @@ int countLines2(const std::string& text, double width, const Graphics& g) {
     return lines;
 }
 
-void DiaryReport::PrintAll(PrintTarget target) {
+void DiaryReport::PrintAll(const std::string& pdfName) {
     if (!Globals::ps)
         Globals::ps = std::make_unique<PrinterSetup>();
-    const std::unique_ptr<Graphics> g = OpenPrinterDialog(Globals::ps.get(), target);
+    const std::unique_ptr<Graphics> g = OpenPrinterDialog(Globals::ps.get(), pdfName);
     if (!g)
         return;
     const bool isTall = Globals::ps->Height() > lowestTallPage;
-    print(*g, tr("Tallyvane Report"), isTall ? heightOnTallPage : heightOnLowPage, Days::all);
+    print(*g, title(), isTall ? heightOnTallPage : heightOnLowPage, Days::all);
 }
 
 void DiaryReport::FilePrint_Action() { PrintAll(); }
@@ -50,7 +52,7 @@ bool DiaryReport::FilePrintSelected_Action() {
 
 void DiaryReport::FileSaveAsPDF_Action() {
     MsgBox(tr("In the dialog that follows select 'Save as PDF...' from the PDF button menu."));
-    PrintAll(PrintTarget::pdf);
+    PrintAll(title());
 }
 
 void FilePrintSetup_Action() {

@@ -19,8 +19,8 @@ public:
     explicit DiaryReport(Window1& diary) : diary_(diary) {}
 
     /// Prints all days on the paper of the page set-up, which is made if there is none yet. Nothing when the print
-    /// dialog is cancelled.
-    void PrintAll(PrintTarget target = PrintTarget::printer);
+    /// dialog is cancelled, which offers a printer first, or a PDF of that name.
+    void PrintAll(const std::string& pdfName = "");
 
     void FilePrint_Action();
     /// Prints the selected days. True when the print dialog was cancelled.

@@ -1,20 +1,16 @@
 #include "settings/snapshots.h"
 
-#include <algorithm>
 #include <array>
-#include <filesystem>
-#include <vector>
+#include <string_view>
 
-#include "platform/base/number.h"
 #include "platform/files/system_files.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
+#include "settings/snapshot_sets.h"
 
 namespace tallyvane::Snapshots {
 
 namespace {
-
-namespace fs = std::filesystem;
 
 /// Of the application's folder. Details are not ours to write, and not lost.
 constexpr std::array<std::string_view, 7> outerFiles{
@@ -36,61 +32,34 @@ std::string tableFolder() {
     return !folder || folder == DataFiles::applicationFolder() ? "" : folder->AbsolutePath();
 }
 
-std::optional<fs::path> snapshotsFolder() {
+std::optional<std::string> snapshotsFolder() {
     const std::optional<FolderItem> folder = DataFiles::applicationFile("Snapshots");
     const bool isOfTheUsersTable = StartupGlobals::gMissingDataFolder.empty() && !tablePath().empty();
-    return folder && isOfTheUsersTable ? std::optional<fs::path>(folder->AbsolutePath()) : std::nullopt;
-}
-
-/// The day of a set; nothing for any other name.
-std::optional<Date> dayOf(const std::string& name) {
-    const auto number = [&name](std::size_t from, std::size_t count) {
-        return static_cast<int>(from < name.size() ? Val(name.substr(from, count)) : 0);
-    };
-    const int year = number(0, 4);
-    const int month = number(5, 2);
-    const int day = number(8, 2);
-    if (!Date::isDay(year, month, day) || Date(year, month, day).isoDate() != name)
-        return std::nullopt;
-    return Date(year, month, day);
-}
-
-/// The days of which there is a set, the newest first, those after today last.
-std::vector<Date> daysKept(const fs::path& folder, const Date& today) {
-    std::vector<Date> days;
-    std::error_code failed;
-    for (fs::directory_iterator entry(folder, failed); !failed && entry != fs::directory_iterator();
-         entry.increment(failed))
-        if (const std::optional<Date> day = dayOf(entry->path().filename()))
-            days.push_back(*day);
-    const auto isToCome = [&today](const Date& day) { return day.TotalSeconds() > today.TotalSeconds(); };
-    std::sort(days.begin(), days.end(), [&](const Date& a, const Date& b) {
-        return isToCome(a) != isToCome(b) ? isToCome(b) : a.TotalSeconds() > b.TotalSeconds();
-    });
-    return days;
+    return folder && isOfTheUsersTable ? std::optional(folder->AbsolutePath()) : std::nullopt;
 }
 
 /// A file that is not there is not missed; one that is and can't be read is.
-void copyIfThere(const fs::path& from, const fs::path& to) {
+void copyIfThere(const std::string& from, const std::string& to) {
     if (const std::optional<std::string> content = SystemFiles::read(from))
         SystemFiles::write(to, *content);
     else if (SystemFiles::kindOf(from) == SystemFiles::Kind::file)
-        throw IOException("can't read " + from.string());
+        throw IOException("can't read " + from);
 }
 
-void copyAll(const fs::path& source, const fs::path& target) {
+std::string fileIn(const std::string& folder, std::string_view name) { return folder + "/" + std::string(name); }
+
+void copyAll(const std::string& source, const std::string& target) {
     const std::string inner(DataFiles::applicationName);
-    fs::remove_all(target); // of a start that was killed
-    for (const fs::path& folder : {target, target / inner})
+    for (const std::string& folder : {target, fileIn(target, inner)})
         if (!SystemFiles::makeFolder(folder))
-            throw IOException("can't make " + folder.string());
-    copyIfThere(tablePath(), target / DataFiles::dayTable);
+            throw IOException("can't make " + folder);
+    copyIfThere(tablePath(), fileIn(target, DataFiles::dayTable));
     for (const std::string_view name : outerFiles)
-        copyIfThere(source / name, target / name);
+        copyIfThere(fileIn(source, name), fileIn(target, name));
     for (const std::string_view name : innerFiles)
-        copyIfThere(source / inner / name, target / inner / name);
+        copyIfThere(fileIn(fileIn(source, inner), name), fileIn(fileIn(target, inner), name));
     if (!tableFolder().empty())
-        SystemFiles::write(target / tableFolderFile, tableFolder());
+        SystemFiles::write(fileIn(target, tableFolderFile), tableFolder());
 }
 
 /// Lines that have an end, and something before it.
@@ -113,24 +82,25 @@ bool isWhole(std::string_view table) {
 } // namespace
 
 void take(const Date& today) {
-    const std::optional<fs::path> folder = snapshotsFolder();
+    const std::optional<std::string> folder = snapshotsFolder();
     if (!folder || SystemFiles::read(tablePath()).value_or("").empty())
         return;
-    const fs::path set = *folder / today.isoDate();
-    std::error_code failed;
-    if (fs::exists(set, failed) || (!fs::is_directory(*folder, failed) && !SystemFiles::makeFolder(*folder)))
+    const std::string set = SnapshotSets::pathOf(*folder, today);
+    SystemFiles::makeFolders(*folder);
+    if (SystemFiles::kindOf(set) != SystemFiles::Kind::none)
         return;
-    const fs::path unfinished = *folder / "unfinished";
+    const std::string unfinished = fileIn(*folder, "unfinished");
+    SystemFiles::removeFolder(unfinished); // of a start that was killed
     try {
-        copyAll(folder->parent_path(), unfinished);
-        fs::rename(unfinished, set);
-    } catch (const std::exception&) { // a full disk
-        fs::remove_all(unfinished, failed);
+        copyAll(folder->substr(0, folder->rfind('/')), unfinished);
+    } catch (const IOException&) { // a full disk
+        SystemFiles::removeFolder(unfinished);
         return;
     }
-    std::vector<Date> days = daysKept(*folder, today);
-    for (; days.size() > mostKept; days.pop_back())
-        fs::remove_all(*folder / days.back().isoDate(), failed);
+    if (SystemFiles::rename(unfinished, set))
+        SnapshotSets::removeOld(*folder, today);
+    else
+        SystemFiles::removeFolder(unfinished);
 }
 
 bool tableIsUnreadable() {
@@ -138,27 +108,28 @@ bool tableIsUnreadable() {
 }
 
 std::optional<Copy> fullerThanTable(const Date& today) {
-    const std::optional<fs::path> folder = snapshotsFolder();
+    const std::optional<std::string> folder = snapshotsFolder();
     const SystemFiles::Kind kind = SystemFiles::kindOf(tablePath());
     if (!folder || (kind != SystemFiles::Kind::none && kind != SystemFiles::Kind::file))
         return std::nullopt;
     const std::string table = SystemFiles::read(tablePath()).value_or("");
     if (isWhole(table))
         return std::nullopt;
-    for (const Date& day : daysKept(*folder, today)) {
-        const fs::path set = *folder / day.isoDate();
-        const int days = countDays(SystemFiles::read(set / DataFiles::dayTable).value_or(""));
-        const bool isOfThisTable = SystemFiles::read(set / tableFolderFile).value_or("") == tableFolder();
+    for (const Date& day : SnapshotSets::daysKept(*folder, today)) {
+        const std::string set = SnapshotSets::pathOf(*folder, day);
+        const std::string copy = fileIn(set, DataFiles::dayTable);
+        const int days = countDays(SystemFiles::read(copy).value_or(""));
+        const bool isOfThisTable = SystemFiles::read(fileIn(set, tableFolderFile)).value_or("") == tableFolder();
         if (isOfThisTable && days > countDays(table))
-            return Copy{day, days, countDays(table), set / DataFiles::dayTable};
+            return Copy{day, days, countDays(table), copy};
     }
     return std::nullopt;
 }
 
 std::string keepDamagedTable(const Date& today) {
-    const fs::path kept = tablePath() + " damaged " + today.isoDate();
-    copyIfThere(tablePath(), kept);
-    return kept.filename();
+    const std::string name = std::string(DataFiles::dayTable) + " damaged " + today.isoDate();
+    copyIfThere(tablePath(), fileIn(StartupGlobals::gDataFolder->AbsolutePath(), name));
+    return name;
 }
 
 void bringBack(const Copy& copy) {

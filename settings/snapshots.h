@@ -8,12 +8,9 @@
 
 namespace tallyvane::Snapshots {
 
-inline constexpr int mostKept = 30;
-
 /// Copies the files into a folder named after the day, such as "Snapshots/2026-11-22" in the application's folder, if
-/// it has none yet and the table holds anything. Of the sets the newest thirty are kept, today's among them; those of
-/// days to come, from a clock that was wrong, go first. A set is whole or not there. Nothing is told of a disk that
-/// takes no copies: the files themselves are unharmed.
+/// it has none yet and the table holds anything. The oldest sets then go. A set is whole or not there. Nothing is told
+/// of a disk that takes no copies: the files themselves are unharmed.
 void take(const Date& today);
 
 /// Whether the table is there and can't be read, so that nobody knows what it holds.

@@ -3,7 +3,6 @@
 #include <exception>
 #include <utility>
 
-#include "charting/gt_graph.h"
 #include "exchange/archive.h"
 #include "platform/base/scoped_flag.h"
 #include "platform/base/translation.h"
@@ -41,7 +40,6 @@ void showSingle(
 App::App() : menuBar(MenuBar1()) {
     PrefsModule::bringUpMainWindow = [this] { bringUpMainWindow(); };
     beforeEnd = [this](int code) { return settleUnsaved(code); };
-    GTGraph::isPrintingOn = [] { return Globals::gPrintingOn; };
     menuBar.handlers = {
         {"FileQuit", [this] { FileQuit_Action(); }},
         {"FileAboutBrindlemarks", [this] { FileAboutBrindlemarks_Action(); }},
@@ -76,13 +74,15 @@ void App::Event_Open() {
         return;
     }
     PrefsModule::getPrefs();
-    if (!window1_)
+    if (!windows_.main)
         return;
-    StartUpManager::primaryWindow = window1_.get();
-    splash_ = std::make_unique<SplashWindow>();
-    splash_->showPrimaryWindow = [] { StartUpManager::primaryWindow->Show(); };
-    splash_->VersionCheckSocket1.offer = [this](std::function<void()> done) { offerNewVersion(std::move(done)); };
-    splash_->handedOver = [this] {
+    StartUpManager::primaryWindow = windows_.main.get();
+    windows_.splash = std::make_unique<SplashWindow>();
+    windows_.splash->showPrimaryWindow = [] { StartUpManager::primaryWindow->Show(); };
+    windows_.splash->VersionCheckSocket1.offer = [this](std::function<void()> done) {
+        offerNewVersion(std::move(done));
+    };
+    windows_.splash->handedOver = [this] {
         tellMissingDataFolder();
         UnsavedWork::tellOfUnreadable();
         tellKeptJournal();
@@ -90,7 +90,7 @@ void App::Event_Open() {
         showOffer();
         offerForImport(std::exchange(fileToImport_, ""));
     };
-    splash_->Show();
+    windows_.splash->Show();
 }
 
 /// Holds a folder for this program. False when another program holds it.
@@ -155,21 +155,21 @@ void App::bringUpMainWindow() {
     window->Open();
     window->Visible(false);
     window->Timer1.Mode(Timer::ModeSingle);
-    window1_ = std::move(window); // only now: a table that could not be loaded must never be saved
+    windows_.main = std::move(window); // only now: a table that could not be loaded must never be saved
 }
 
 void App::joinWindows(Window1& window) {
     window.showHeadingsEditor = [this] { showHeadingsEditor(); };
     window.autosave = [this] { Event_Deactivate(); };
-    window.showLogs = [this] { showSingle(logs_); };
-    window.showResources = [this] { showSingle(files_); };
+    window.showLogs = [this] { showSingle(windows_.logs); };
+    window.showResources = [this] { showSingle(windows_.files); };
     window.closeResources = [this] {
-        if (files_)
-            files_->Close();
+        if (windows_.files)
+            windows_.files->Close();
     };
-    window.showTeamAndMedications = [this] { showSingle(info_); };
+    window.showTeamAndMedications = [this] { showSingle(windows_.info); };
     window.showGraph = [this, &table = window.ListBox1] {
-        showSingle<GrafThingWindow>(graph_, [&table] { return std::make_unique<GrafThingWindow>(table); });
+        showSingle<GrafThingWindow>(windows_.graph, [&table] { return std::make_unique<GrafThingWindow>(table); });
     };
 }
 
@@ -179,7 +179,7 @@ void App::joinMenus(Window1& window) {
     window.menuHandlers = {
         {"FileImportData", [this] { FileImportData_Action(); }},
         {"FileArchiveSelectedDays", [&days] { FileArchiveSelectedDays_Action(days); }},
-        {"FileOpenArchivedDays", [this] { FileOpenArchivedDays_Action(archive_); }},
+        {"FileOpenArchivedDays", [this] { FileOpenArchivedDays_Action(windows_.archive); }},
         {"FileSaveAsPDF", [&window] { DiaryReport(window).FileSaveAsPDF_Action(); }},
         {"FilePrintSetup", [] { FilePrintSetup_Action(); }},
         {"FilePrint", [&window] { DiaryReport(window).FilePrint_Action(); }},
@@ -188,9 +188,9 @@ void App::joinMenus(Window1& window) {
 }
 
 void App::showHeadingsEditor() {
-    showSingle<EditHeadings>(headings_, [this] {
+    showSingle<EditHeadings>(windows_.headings, [this] {
         auto editor = std::make_unique<EditHeadings>();
-        editor->showHeadings = [this](const Headings& headings) { window1_->showHeadings(headings); };
+        editor->showHeadings = [this](const Headings& headings) { windows_.main->showHeadings(headings); };
         return editor;
     });
 }
@@ -205,11 +205,11 @@ void App::tellMissingDataFolder() {
 }
 
 void App::tellKeptJournal() {
-    if (!window1_->keptJournal.empty())
+    if (!windows_.main->keptJournal.empty())
         MsgBox(
             tr("The journal shows the file \u201cTallyvane Journal\u201d, as it does at every start while that file is "
                "there. What the journal held before is kept in \u201c%1\u201d.",
-               {window1_->keptJournal}));
+               {windows_.main->keptJournal}));
 }
 
 /// The offer belongs to the main window, and waits until that is there.
@@ -223,20 +223,20 @@ void App::showOffer() {
     const std::function<void()> done = std::exchange(offerDone_, nullptr);
     if (!done)
         return;
-    if (!window1_->isOpen()) {
+    if (!windows_.main->isOpen()) {
         done();
         return;
     }
-    newVersion_ = std::make_unique<newVersionWindow>(*window1_, VersionCheck::theAppName);
-    newVersion_->closed = done;
-    newVersion_->Show();
+    windows_.newVersion = std::make_unique<newVersionWindow>(*windows_.main, VersionCheck::theAppName);
+    windows_.newVersion->closed = done;
+    windows_.newVersion->Show();
 }
 
 void App::comeToFront() {
-    if (splash_ && splash_->isOpen())
-        splash_->Show();
-    else if (window1_ && window1_->isOpen())
-        window1_->Show();
+    if (windows_.splash && windows_.splash->isOpen())
+        windows_.splash->Show();
+    else if (windows_.main && windows_.main->isOpen())
+        windows_.main->Show();
 }
 
 void App::offerForImport(const std::string& path) {
@@ -251,11 +251,11 @@ void App::offerForImport(const std::string& path) {
         MsgBox(tr("\u201c%1\u201d can't be imported: there is no such file.", {path}));
     } else if (kind != SystemFiles::Kind::file) {
         MsgBox(tr("\u201c%1\u201d can't be imported: it is no file.", {path}));
-    } else if (import_ && import_->isReading()) {
+    } else if (windows_.importing && windows_.importing->isReading()) {
         MsgBox(tr("\u201c%1\u201d can't be imported while another import is going on.", {path}));
     } else {
         FileImportData_Action();
-        import_->offer(*GetFolderItem(path));
+        windows_.importing->offer(*GetFolderItem(path));
     }
 }
 
@@ -279,15 +279,15 @@ bool App::Event_UnhandledException() {
 }
 
 void App::Event_Deactivate() {
-    if (!window1_ || asksAboutUnsaved_)
+    if (!windows_.main || asksAboutUnsaved_)
         return;
     const auto saveOpenLogs = [this] {
-        if (logs_ && logs_->isOpen())
-            logs_->saveChanged();
+        if (windows_.logs && windows_.logs->isOpen())
+            windows_.logs->saveChanged();
     };
     std::exception_ptr failure;
     try {
-        saveEach({[this] { window1_->saveChanged(); }, saveOpenLogs});
+        saveEach({[this] { windows_.main->saveChanged(); }, saveOpenLogs});
     } catch (const IOException&) {
         failure = std::current_exception();
     }
@@ -329,17 +329,17 @@ int App::settleUnsaved(int code) {
 void App::Event_DisplayLost() {
     const std::vector<Window*> windows = Window::openWindows();
     for (Window* window : windows)
-        if (window != window1_.get())
+        if (window != windows_.main.get())
             run([window] { window->Event_Close(); });
-    if (window1_ && window1_->isOpen())
-        run([this] { window1_->saveAll(); });
+    if (windows_.main && windows_.main->isOpen())
+        run([this] { windows_.main->saveAll(); });
     RescuedFiles::keep();
 }
 
 void App::Event_Close() {
     try {
-        if (window1_)
-            window1_->saveData();
+        if (windows_.main)
+            windows_.main->saveData();
     } catch (const IOException&) { // the user has decided about it
     }
 }
@@ -347,33 +347,35 @@ void App::Event_Close() {
 // Menu items that hold for every window
 
 void App::FileQuit_Action() {
-    if (window1_)
-        window1_->Close();
+    if (windows_.main)
+        windows_.main->Close();
     else
         Quit(0);
 }
 
-void App::FileAboutBrindlemarks_Action() { showSingle(about_); }
+void App::FileAboutBrindlemarks_Action() { showSingle(windows_.about); }
 
 void App::FilePreferences_Action() {
-    showSingle<PrefsWindow>(prefs_, [this] {
+    showSingle<PrefsWindow>(windows_.prefs, [this] {
         auto prefs = std::make_unique<PrefsWindow>();
         prefs->startIndicatorTimer = [this] {
-            if (window1_)
-                window1_->Timer1.Mode(Timer::ModeSingle);
+            if (windows_.main)
+                windows_.main->Timer1.Mode(Timer::ModeSingle);
         };
         return prefs;
     });
 }
 
 void App::FileExportData_Action() {
-    if (window1_)
-        showSingle<exportWindow>(export_, [this] { return std::make_unique<exportWindow>(window1_->ListBox1); });
+    if (windows_.main)
+        showSingle<exportWindow>(windows_.exporting,
+                                 [this] { return std::make_unique<exportWindow>(windows_.main->ListBox1); });
 }
 
 void App::FileImportData_Action() {
-    if (window1_)
-        showSingle<importWindow>(import_, [this] { return std::make_unique<importWindow>(window1_->ListBox1); });
+    if (windows_.main)
+        showSingle<importWindow>(windows_.importing,
+                                 [this] { return std::make_unique<importWindow>(windows_.main->ListBox1); });
 }
 
 void App::HelpUsersGuide_Action() { ShowURL(TALLYVANE_GUIDE_URL); }

@@ -67,20 +67,25 @@ public:
     /// Opens the import for a file of that path, once the main window is there; "" for none.
     void offerForImport(const std::string& path);
 
-    /// Null before Event_Open, and in a second start.
-    Window1* window1() { return window1_.get(); }
-    SplashWindow* splashWindow() { return splash_.get(); }
-    AboutWindow* aboutWindow() { return about_.get(); }
-    newVersionWindow* newVersion() { return newVersion_.get(); }
-    PrefsWindow* prefsWindow() { return prefs_.get(); }
-    EditHeadings* editHeadings() { return headings_.get(); }
-    logsWindow* logs() { return logs_.get(); }
-    InfoWindow* infoWindow() { return info_.get(); }
-    fileWindow* files() { return files_.get(); }
-    GrafThingWindow* graph() { return graph_.get(); }
-    exportWindow* exporting() { return export_.get(); }
-    importWindow* importing() { return import_.get(); }
-    archiveWindow* archive() { return archive_.get(); }
+    /// Those that have been shown, in the order of the menus; null before. The main window is null before Event_Open,
+    /// and in a second start.
+    struct Windows {
+        std::unique_ptr<Window1> main;
+        std::unique_ptr<SplashWindow> splash;
+        std::unique_ptr<newVersionWindow> newVersion;
+        std::unique_ptr<AboutWindow> about;
+        std::unique_ptr<PrefsWindow> prefs;
+        std::unique_ptr<EditHeadings> headings;
+        std::unique_ptr<logsWindow> logs;
+        std::unique_ptr<InfoWindow> info;
+        std::unique_ptr<fileWindow> files;
+        std::unique_ptr<GrafThingWindow> graph;
+        std::unique_ptr<exportWindow> exporting;
+        std::unique_ptr<importWindow> importing;
+        std::unique_ptr<archiveWindow> archive;
+    };
+    const Windows& windows() const { return windows_; }
+
     MenuBar menuBar;
 
 private:
@@ -103,22 +108,10 @@ private:
     bool asksAboutUnsaved_ = false;
     bool endsUnasked_ = false;
     std::vector<std::unique_ptr<SystemFiles::FolderClaim>> claims_;
-    std::unique_ptr<Window1> window1_;
-    std::unique_ptr<SplashWindow> splash_;
     std::string fileToImport_; // a path that waits for the main window; "" for none
     bool hasHandedOver_ = false; // the splash window, with all that had to be told
     std::function<void()> offerDone_; // of an offer that waits for the main window; empty for none
-    std::unique_ptr<newVersionWindow> newVersion_;
-    std::unique_ptr<AboutWindow> about_;
-    std::unique_ptr<PrefsWindow> prefs_;
-    std::unique_ptr<EditHeadings> headings_;
-    std::unique_ptr<logsWindow> logs_;
-    std::unique_ptr<InfoWindow> info_;
-    std::unique_ptr<fileWindow> files_;
-    std::unique_ptr<GrafThingWindow> graph_;
-    std::unique_ptr<exportWindow> export_;
-    std::unique_ptr<importWindow> import_;
-    std::unique_ptr<archiveWindow> archive_;
+    Windows windows_;
 };
 
 } // namespace tallyvane

@@ -33,6 +33,19 @@ public:
     virtual void bringIntoView(int row) = 0;
 };
 
+/// The colours of a list, the same on every theme: its cells are painted on grounds of the window's own.
+struct ListColors {
+    Color ground = RGB(255, 255, 255);
+    Color text = RGB(16, 20, 26);
+    Color headingGround = RGB(232, 236, 242);
+    Color columnLine = RGB(186, 200, 220);
+    Color selection = RGB(92, 152, 236);
+    /// Below a selected row, around the cell with the focus and around the open one.
+    Color selectionLine = RGB(38, 92, 170);
+    /// Below a text that has a line to show.
+    Color helpDots = RGB(178, 24, 24);
+};
+
 /// What the user drops: a file, a text, or neither of them.
 struct DragItem {
     std::optional<FolderItem> file;
@@ -85,6 +98,9 @@ public:
     /// "System" is the desktop's own font.
     FontName TextFont() const { return textFont_; }
     void TextFont(FontName name) { set(textFont_, name, Property::appearance); }
+    /// Fixed once it is shown.
+    const ListColors& Colors() const { return colors_; }
+    void Colors(const ListColors& value) { colors_ = value; }
     SelectionTypes SelectionType() const { return selectionType_; }
     void SelectionType(SelectionTypes value) { set(selectionType_, value, Property::appearance); }
 
@@ -251,6 +267,7 @@ private:
     int rowHeight_ = 15;
     int textSize_ = 12;
     FontName textFont_;
+    ListColors colors_;
     SelectionTypes selectionType_ = SelectionTypes::single;
     std::vector<Row> rows_;
     std::uint64_t lastRevision_ = 0;

@@ -46,7 +46,10 @@ void makeFolders(const std::string& path);
 /// Takes a folder away that holds nothing; leaves any other alone.
 void removeEmptyFolder(const std::string& path);
 
-/// Gives a file another path on the same disk. False when it can't have it, or when something stands there.
+/// Takes a folder away with all that it holds, as far as that can go.
+void removeFolder(const std::string& path);
+
+/// Gives a file or a folder another path on the same disk. False when it can't have it, or when something stands there.
 [[nodiscard]] bool rename(const std::string& from, const std::string& to);
 
 /// The whole content of a file; nothing for what is no plain file, can't be read or is larger than a gigabyte.

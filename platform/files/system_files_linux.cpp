@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <csignal>
+#include <filesystem>
 #include <system_error>
 #include <utility>
 
@@ -247,6 +248,12 @@ void removeEmptyFolder(const std::string& path) {
         ::rmdir(path.c_str());
 }
 
+void removeFolder(const std::string& path) {
+    std::error_code failed;
+    if (!hasNul(path))
+        std::filesystem::remove_all(path, failed);
+}
+
 bool remove(const std::string& path) { return kindOf(path) == Kind::file && ::unlink(path.c_str()) == 0; }
 
 bool rename(const std::string& from, const std::string& to) {
@@ -255,6 +262,8 @@ bool rename(const std::string& from, const std::string& to) {
     if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0)
         return true;
     const bool isUnknown = errno == EINVAL || errno == ENOSYS; // to some disks
+    if (isUnknown && kindOf(from) == Kind::folder)
+        return kindOf(to) == Kind::none && ::rename(from.c_str(), to.c_str()) == 0;
     return isUnknown && ::link(from.c_str(), to.c_str()) == 0 && ::unlink(from.c_str()) == 0;
 }
 

@@ -16,10 +16,10 @@ int PrinterSetup::HorizontalResolution() const {
     return resolution;
 }
 
-std::unique_ptr<Graphics> OpenPrinterDialog(const PrinterSetup* setup, PrintTarget target) {
+std::unique_ptr<Graphics> OpenPrinterDialog(const PrinterSetup* setup, const std::string& pdfName) {
     const Paper* paper = setup == nullptr ? nullptr : setup->paper();
     const int resolution = setup == nullptr ? pointsAnInch : setup->HorizontalResolution();
-    return Printers::inUse().openDialog(paper, resolution, target);
+    return Printers::inUse().openDialog(paper, resolution, pdfName);
 }
 
 std::unique_ptr<Graphics> askForPages(PrinterSetup& setup) {

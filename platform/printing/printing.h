@@ -31,17 +31,15 @@ public:
     virtual bool ask() { return false; }
 };
 
-/// What the print dialog offers first; the user can choose another.
-enum class PrintTarget { printer, pdf };
-
 /// What shows the dialogs of printing. The plain service prints nothing.
 class Printers : public Service<Printers> {
 public:
     /// Paper as the printer has it. Never null.
     virtual std::unique_ptr<Paper> makePaper() { return std::make_unique<Paper>(); }
     /// The pages to print on, that many dots to an inch, after the print dialog; null when that was cancelled. `paper`
-    /// can be null.
-    virtual std::unique_ptr<Graphics> openDialog(const Paper* /*paper*/, int /*resolution*/, PrintTarget /*target*/) {
+    /// can be null. The dialog offers a printer first, or a PDF of that name; the user can choose another.
+    virtual std::unique_ptr<Graphics> openDialog(const Paper* /*paper*/, int /*resolution*/,
+                                                 const std::string& /*pdfName*/) {
         return nullptr;
     }
 };
@@ -68,9 +66,10 @@ private:
 };
 
 /// Shows the print dialog; without a set-up the paper is the printer's own, and counts in points. Null when the user
-/// cancelled. What is drawn goes to paper when the surface is destroyed.
+/// cancelled. The dialog offers a printer first, or a PDF of that name. What is drawn goes to paper when the surface is
+/// destroyed.
 [[nodiscard]] std::unique_ptr<Graphics> OpenPrinterDialog(const PrinterSetup* setup = nullptr,
-                                                          PrintTarget target = PrintTarget::printer);
+                                                          const std::string& pdfName = "");
 
 /// Shows the page set-up dialog, then the print dialog for that set-up. Null when the user cancelled one of them.
 [[nodiscard]] std::unique_ptr<Graphics> askForPages(PrinterSetup& setup);

@@ -19,12 +19,7 @@ CalendarPeer::CalendarPeer(CalendarControl& calendar, QWidget* parent) : Peer(ca
     weekend.setForeground(palette().text());
     setWeekdayTextFormat(Qt::Saturday, weekend);
     setWeekdayTextFormat(Qt::Sunday, weekend);
-    days_ = findChild<QTableView*>();
-    days_->horizontalHeader()->setMinimumSectionSize(1); // seven columns find room in a small calendar
-    days_->verticalHeader()->setMinimumSectionSize(1);
-    days_->installEventFilter(this);
-    days_->viewport()->installEventFilter(this);
-    findChild<QWidget*>(QStringLiteral("qt_calendar_navigationbar"))->layout()->setSpacing(0);
+    reachIntoParts();
     bringAll();
     connect(this, &QCalendarWidget::selectionChanged, this, [this] {
         if (control_ != nullptr)
@@ -32,9 +27,32 @@ CalendarPeer::CalendarPeer(CalendarControl& calendar, QWidget* parent) : Peer(ca
     });
 }
 
+/// The parts of a calendar are Qt's own business, and another Qt may build it of others: then the calendar is a little
+/// wider, and a double click is Qt's.
+void CalendarPeer::reachIntoParts() {
+    if (auto* bar = findChild<QWidget*>(QStringLiteral("qt_calendar_navigationbar")); bar != nullptr && bar->layout())
+        bar->layout()->setSpacing(0);
+    days_ = findChild<QTableView*>();
+    if (days_ == nullptr) {
+        connect(this, &QCalendarWidget::activated, this, [this] { choose(); });
+        return;
+    }
+    days_->horizontalHeader()->setMinimumSectionSize(1); // seven columns find room in a small calendar
+    days_->verticalHeader()->setMinimumSectionSize(1);
+    days_->installEventFilter(this);
+    days_->viewport()->installEventFilter(this);
+}
+
+void CalendarPeer::choose() {
+    if (control_ != nullptr)
+        deliver(control_->DayDoubleClicked);
+}
+
 /// Qt's own signal for this also comes of a single click, on desktops that open files so.
 bool CalendarPeer::eventFilter(QObject* watched, QEvent* event) {
     bool chosen = false;
+    if (days_ == nullptr) // the widget is being made
+        return QCalendarWidget::eventFilter(watched, event);
     if (watched == days_->viewport() && event->type() == QEvent::MouseButtonDblClick) {
         // A first click on a day of another month brings that month; the second is on the marked day or means nothing.
         const QPoint place = static_cast<QMouseEvent*>(event)->position().toPoint();
@@ -45,7 +63,7 @@ bool CalendarPeer::eventFilter(QObject* watched, QEvent* event) {
     }
     if (!chosen || control_ == nullptr)
         return QCalendarWidget::eventFilter(watched, event);
-    deliver(control_->DayDoubleClicked);
+    choose();
     return true;
 }
 

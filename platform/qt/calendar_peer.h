@@ -19,7 +19,10 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    QTableView* days_ = nullptr;
+    void reachIntoParts();
+    void choose();
+
+    QTableView* days_ = nullptr; // null in a Qt that builds its calendar of other parts
 };
 
 } // namespace tallyvane

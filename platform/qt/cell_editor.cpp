@@ -18,12 +18,18 @@ bool moves(const QKeyEvent& key) {
     return key.key() >= Qt::Key_Home && key.key() <= Qt::Key_PageDown; // Home, End, the arrows and the Page keys
 }
 
+/// The colours of the list in every theme.
+QString styleOf(const ListColors& list) {
+    const auto name = [](Color color) { return toQt(color).name(); };
+    return QStringLiteral("border: 1px solid %1; background: %2; color: %3; padding: 0 3px;"
+                          "selection-background-color: %1; selection-color: %2;")
+        .arg(name(list.selectionLine), name(list.ground), name(list.text));
+}
+
 } // namespace
 
 CellEditor::CellEditor(Listbox& list, QWidget* parent) : Peer(list.ActiveCell(), parent), list_(&list) {
-    // Light in every theme, as the list is.
-    setStyleSheet(QStringLiteral("border: 1px solid #265caa; background: white; color: #10141a; padding: 0 3px;"
-                                 "selection-background-color: #265caa; selection-color: white;"));
+    setStyleSheet(styleOf(list.Colors()));
     setMaxLength(std::numeric_limits<int>::max()); // Qt's own limit would cut a text without a word
     hide();
     connect(this, &QLineEdit::textEdited, this, [this] { textTyped(); });

@@ -19,28 +19,20 @@ constexpr int scrollBarWidth = 15;
 constexpr int textMargin = 6;
 constexpr int pictureWidth = 16;
 
-constexpr Color ground = RGB(255, 255, 255);
-constexpr Color text = RGB(16, 20, 26);
-constexpr Color headingGround = RGB(232, 236, 242);
-constexpr Color columnLine = RGB(186, 200, 220);
-constexpr Color selection = RGB(92, 152, 236);
-constexpr Color selectionLine = RGB(38, 92, 170);
-constexpr Color helpDots = RGB(178, 24, 24);
-
-QPalette lightColors() {
-    QPalette colors(toQt(headingGround), toQt(headingGround));
-    colors.setColor(QPalette::Base, toQt(ground));
+QPalette paletteOf(const ListColors& list) {
+    QPalette colors(toQt(list.headingGround), toQt(list.headingGround));
+    colors.setColor(QPalette::Base, toQt(list.ground));
     for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
-        colors.setColor(role, toQt(text));
-    colors.setColor(QPalette::Highlight, toQt(selection));
-    colors.setColor(QPalette::HighlightedText, toQt(text));
+        colors.setColor(role, toQt(list.text));
+    colors.setColor(QPalette::Highlight, toQt(list.selection));
+    colors.setColor(QPalette::HighlightedText, toQt(list.text));
     return colors;
 }
 
-void drawDots(QPainter& painter, int left, int right, int y) {
+void drawDots(QPainter& painter, int left, int right, int y, Color color) {
     constexpr int step = 2; // from dot to dot
     for (int x = left; x < right; x += step)
-        painter.fillRect(x, y, 1, 1, toQt(helpDots));
+        painter.fillRect(x, y, 1, 1, toQt(color));
 }
 
 /// Has the list paint its cells.
@@ -60,7 +52,7 @@ private:
 
 void ListboxPeer::setUpLook() {
     setItemDelegate(new CellPainter(this));
-    setPalette(lightColors());
+    setPalette(paletteOf(control_->Colors()));
     setShowGrid(false);
     setCornerButtonEnabled(false);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -137,19 +129,20 @@ void ListboxPeer::paintCell(QPainter& painter, const QRect& area, int row, int c
     {
         PainterGraphics g(painter, area);
         if (selected)
-            g.tintFills(tallyvane::toQt(selection));
+            g.tintFills(tallyvane::toQt(control_->Colors().selection));
         deliver([&] {
             if (control_->CellBackgroundPaint)
                 control_->CellBackgroundPaint(g, row, column);
         });
     }
-    painter.fillRect(area.right(), area.top(), 1, area.height(), tallyvane::toQt(columnLine));
+    painter.fillRect(area.right(), area.top(), 1, area.height(), tallyvane::toQt(control_->Colors().columnLine));
     if (selected)
-        painter.fillRect(area.left(), area.bottom(), area.width(), 1, tallyvane::toQt(selectionLine));
+        painter.fillRect(area.left(), area.bottom(), area.width(), 1,
+                         tallyvane::toQt(control_->Colors().selectionLine));
     if (row < control_->ListCount())
         drawText(painter, area, row, column);
     if (hasFocus() && row < control_->ListCount() && currentIndex() == model_->index(row, column)) {
-        painter.setPen(tallyvane::toQt(selectionLine));
+        painter.setPen(tallyvane::toQt(control_->Colors().selectionLine));
         painter.drawRect(area.adjusted(0, 0, -1, -1));
     }
 }
@@ -158,7 +151,7 @@ void ListboxPeer::drawText(QPainter& painter, const QRect& area, int row, int co
     const QRect inner = area.adjusted(textMargin, 0, -textMargin, 0);
     bool drawn = false;
     PainterGraphics g(painter, area);
-    g.ForeColor(text);
+    g.ForeColor(control_->Colors().text);
     deliver([&] {
         if (control_->CellTextPaint)
             drawn = control_->CellTextPaint(g, row, column, inner.left() - area.left(), area.height());
@@ -179,7 +172,7 @@ void ListboxPeer::drawText(QPainter& painter, const QRect& area, int row, int co
     QRect drawnAt;
     painter.drawText(place, static_cast<int>(alignmentOf(column)), shown, &drawnAt);
     if (control_->CellHelpTag && !control_->CellHelpTag(row, column).empty())
-        drawDots(painter, drawnAt.left(), drawnAt.right(), area.height() - 2);
+        drawDots(painter, drawnAt.left(), drawnAt.right(), area.height() - 2, control_->Colors().helpDots);
 }
 
 void ListboxPeer::paintEvent(QPaintEvent* event) {

@@ -28,13 +28,13 @@ bool settlePdfName(QPrinter& printer) {
 
 std::unique_ptr<Paper> QtPrinters::makePaper() { return std::make_unique<QtPaper>(); }
 
-std::unique_ptr<Graphics> QtPrinters::openDialog(const Paper* paper, int resolution, PrintTarget target) {
+std::unique_ptr<Graphics> QtPrinters::openDialog(const Paper* paper, int resolution, const std::string& pdfName) {
     std::unique_ptr<QPrinter> printer = makePrinter();
     if (const auto* chosen = dynamic_cast<const QtPaper*>(paper))
         printer->setPageLayout(chosen->layout());
-    if (target == PrintTarget::pdf) {
+    if (!pdfName.empty()) {
         printer->setOutputFormat(QPrinter::PdfFormat);
-        printer->setOutputFileName(QDir::home().filePath(toQt(tr("Tallyvane Report")) + QStringLiteral(".pdf")));
+        printer->setOutputFileName(QDir::home().filePath(toQt(withEnding(pdfName, ".pdf"))));
     }
     QPrintDialog dialog(printer.get()); // of no window, which might go while the dialog is open
     do

@@ -103,9 +103,8 @@ TEST_F(GraphTest, ASurfaceThatIsTooSmallStaysAsItIs) {
 
 TEST_F(GraphTest, APrintedGraphLeavesThePageBelowFree) {
     add();
-    GTGraph::isPrintingOn = [] { return true; };
+    graph_.isPrintingOn = [] { return true; };
     EXPECT_EQ(callsOn(600, 800)[0].numbers[1], 450 - 31) << "the bottom of the plot";
-    GTGraph::isPrintingOn = [] { return false; };
 }
 
 TEST_F(GraphTest, WithoutSeriesThereIsABackdropAndATitle) {

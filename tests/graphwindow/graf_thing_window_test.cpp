@@ -36,14 +36,6 @@ class GrafThingWindowTest : public TestDesk {
 protected:
     using Boxes = std::array<CheckBox*, 8>;
 
-    void SetUp() override {
-        TestDesk::SetUp();
-        GTGraph::isPrintingOn = [] { return Globals::gPrintingOn; };
-    }
-    void TearDown() override {
-        GTGraph::isPrintingOn = [] { return false; };
-        TestDesk::TearDown();
-    }
     /// Rows of "date, the readings and the average in the order of the columns, weight", all of them selected.
     void fill(std::vector<Texts> rows) {
         table_.DeleteAllRows();

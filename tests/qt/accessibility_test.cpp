@@ -95,7 +95,7 @@ TEST_F(AccessibilityTest, APictureButtonCanBePressedFromOutside) {
     QAccessibleInterface* button = interfaceOf(canvas("Add date to journal"));
     EXPECT_EQ(button->role(), QAccessible::Button);
     button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    EXPECT_EQ(app_->window1()->JournalFld.Text(), Date().AbbreviatedDate());
+    EXPECT_EQ(app_->windows().main->JournalFld.Text(), Date().AbbreviatedDate());
 }
 
 } // namespace

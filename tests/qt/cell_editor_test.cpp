@@ -24,7 +24,7 @@ TEST_F(CellEditorTest, AClickOpensAReadingAndTypingReplacesIt) {
     QTest::keyClicks(editor(), "7.2");
     EXPECT_EQ(list().Cell(3, 1), "7.2");
     EXPECT_EQ(list().Cell(3, 8), "6.6");
-    EXPECT_EQ(app_->window1()->StaticText1.Text(), "7.2");
+    EXPECT_EQ(app_->windows().main->StaticText1.Text(), "7.2");
     QTest::keyClick(editor(), Qt::Key_Tab);
     EXPECT_EQ(list().openColumn(), 2);
     EXPECT_EQ(editor()->selectedText(), "6");
@@ -101,7 +101,7 @@ TEST_F(CellEditorTest, NobodyTypesIntoADayWhileOthersAreMarked) {
 
 TEST_F(CellEditorTest, AScrollBarCoversNoWeight) {
     list().select(std::vector<bool>(40, true));
-    app_->window1()->BevelButton2_Action();
+    app_->windows().main->BevelButton2_Action();
     list().AddRows(std::vector<std::vector<std::string>>(40, {"1/1/2026"})); // as an import adds them
     QCoreApplication::processEvents();
     EXPECT_EQ(list().WidthActual(9), 87) << "the widths are as they were";

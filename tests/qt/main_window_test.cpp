@@ -44,7 +44,7 @@ TEST_F(MainWindowTest, SelectionsGoBothWays) {
     click(0, 8);
     click(2, 8, Qt::ShiftModifier);
     EXPECT_EQ(list().SelectedCount(), 3);
-    EXPECT_EQ(app_->window1()->StaticText1.Text(), "6.0");
+    EXPECT_EQ(app_->windows().main->StaticText1.Text(), "6.0");
     click(1, 0, Qt::ControlModifier); // no click in the date: the selection changes, no dialog comes
     EXPECT_EQ(list().SelectedCount(), 2);
     EXPECT_EQ(dateDialog(), nullptr);
@@ -52,7 +52,7 @@ TEST_F(MainWindowTest, SelectionsGoBothWays) {
     EXPECT_EQ(table_->selectionModel()->selectedRows().size(), 1);
     QTest::mouseClick(table_->viewport(), Qt::LeftButton, {}, {20, table_->viewport()->height() - 3});
     EXPECT_EQ(list().SelectedCount(), 0);
-    EXPECT_EQ(app_->window1()->StaticText1.Text(), "6.5");
+    EXPECT_EQ(app_->windows().main->StaticText1.Text(), "6.5");
 }
 
 TEST_F(MainWindowTest, AHeadingSortsAndTheSelectionStaysWithItsDays) {
@@ -189,7 +189,7 @@ TEST_F(MainWindowTest, TheIndicatorSwitchHidesAndShowsTheStripsLights) {
     const auto shows = [&] { return grabbed(light).pixelColor(1, 1).saturationF() > 0.5; };
     for (const bool on : {true, false, true}) {
         Globals::gShowIndicators = on;
-        app_->window1()->Timer1.fire();
+        app_->windows().main->Timer1.fire();
         EXPECT_EQ(shows(), on);
     }
 }
@@ -245,20 +245,20 @@ TEST_F(MainWindowTest, AWindowThatCanStillBeGotHoldOfStaysWhereItWas) {
 TEST_F(MainWindowTest, TheGraphGrowsWithItsWindowAndAnswersThePrintItem) {
     startOn("1/1/2026@#@5\n1/2/2026@#@7\n");
     list().select({true, true});
-    app_->window1()->showGraph();
+    app_->windows().main->showGraph();
     WindowFrame* graph = frameTitled("Graph");
     ASSERT_NE(graph, nullptr);
     EXPECT_EQ(graph->minimumSizeHint(), QSize(716, 431));
     graph->resize(900, 600);
     QCoreApplication::processEvents();
-    const Canvas& plot = app_->graph()->Canvas1;
+    const Canvas& plot = app_->windows().graph->Canvas1;
     EXPECT_EQ(QSize(plot.Width(), plot.Height()), QSize(499 + 900 - 716, 397 + 600 - 431));
     const QImage shown = graph->grab().toImage();
     EXPECT_EQ(shown.pixelColor(20 + plot.Width() - 1, 14 + plot.Height() - 1), QColor(Qt::white)) << "its last corner";
     EXPECT_NE(shown.pixelColor(20 + plot.Width() - 1, 14 + plot.Height() / 2), QColor(Qt::white)) << "the plot";
 
     const auto* print = item("FilePrint");
-    app_->window1()->showLogs();
+    app_->windows().main->showLogs();
     EXPECT_TRUE(QTest::qWaitFor([&] { return !print->isEnabled(); })) << "the logs have a button of their own";
     graph->activateWindow();
     EXPECT_TRUE(QTest::qWaitFor([&] { return print->isEnabled(); }));

@@ -30,7 +30,7 @@ protected:
         app_ = std::make_unique<App>();
         setEventGuard([this](const std::function<void()>& event) { app_->run(event); });
         app_->Event_Open();
-        app_->splashWindow()->Timer1.fire();
+        app_->windows().splash->Timer1.fire();
         frame_ = frameTitled("Tallyvane");
         ASSERT_NE(frame_, nullptr);
         table_ = frame_->findChild<ListboxPeer*>();
@@ -54,7 +54,7 @@ protected:
         write(applicationFile("7VXData"), "1/1/2026@#@5\n1/2/2026@#@7\n");
         start();
         list().select({true, true});
-        Window1& window = *app_->window1();
+        Window1& window = *app_->windows().main;
         app_->FilePreferences_Action();
         app_->FileExportData_Action();
         app_->FileImportData_Action();
@@ -114,7 +114,7 @@ protected:
         return nullptr;
     }
     QLineEdit* editor() { return table_->findChild<CellEditor*>(); }
-    Listbox& list() { return app_->window1()->ListBox1; }
+    Listbox& list() { return app_->windows().main->ListBox1; }
 
     QtToolkit qt_; // in use instead of the recording toolkit, but for the network
     std::unique_ptr<App> app_;

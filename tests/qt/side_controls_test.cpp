@@ -26,7 +26,7 @@ Qt::DropAction drop(ListboxPeer& list, QMimeData& data, Qt::DropActions possible
 TEST_F(SideControlsTest, AFieldRefusesKeysAndTakesAPasteInOneLine) {
     start();
     app_->FilePreferences_Action();
-    PrefsWindow& prefs = *app_->prefsWindow();
+    PrefsWindow& prefs = *app_->windows().prefs;
     auto* field = frameTitled("Preferences")->findChildren<TextFieldPeer*>().value(0);
     ASSERT_NE(field, nullptr);
     field->setFocus();
@@ -78,7 +78,7 @@ TEST_F(SideControlsTest, APictureButtonByMouseAndByKeys) {
 
 TEST_F(SideControlsTest, TheLooksOfAPictureButtonPixelByPixel) {
     start();
-    const AutoButton& button = app_->window1()->AutoButton14;
+    const AutoButton& button = app_->windows().main->AutoButton14;
     const auto imageOf = [](const Picture& picture) { return dynamic_cast<QtBitmap&>(*picture.Bitmap()).image(); };
     const QImage disabled = imageOf(*button.disabledIcon);
     const QImage pressed = imageOf(*button.pressedIcon);
@@ -102,9 +102,9 @@ TEST_F(SideControlsTest, TheLooksOfAPictureButtonPixelByPixel) {
 
 TEST_F(SideControlsTest, DropsAreCopies) {
     start();
-    app_->window1()->showResources();
+    app_->windows().main->showResources();
     auto* shown = frameTitled("Files")->findChild<ListboxPeer*>();
-    Listbox& resources = app_->files()->ListBox1;
+    Listbox& resources = app_->windows().files->ListBox1;
 
     QMimeData link;
     link.setText("www.example.org");
@@ -123,7 +123,7 @@ TEST_F(SideControlsTest, DropsAreCopies) {
     const QPoint row = shown->visualRect(shown->model()->index(0, 0)).center();
     QTest::mouseClick(shown->viewport(), Qt::LeftButton, Qt::ControlModifier, row);
     EXPECT_EQ(resources.openRow(), 0) << "opened for another name";
-    EXPECT_FALSE(table_->acceptDrops() && app_->window1()->ListBox1.DropObject) << "the table of days takes none";
+    EXPECT_FALSE(table_->acceptDrops() && app_->windows().main->ListBox1.DropObject) << "the table of days takes none";
 }
 
 TEST_F(SideControlsTest, WhatIsTooLongEndsInDotsAndShowsWholeInATip) {
@@ -181,9 +181,9 @@ TEST_F(SideControlsTest, ATipOfWhatIsCutLastsAsLongAsTheCut) {
 TEST_F(SideControlsTest, ALongListShowsTheRowThatIsSelectedAndItsWholeWidth) {
     write(applicationFile("QVXContacts"), "Nurse@#@Jane@#@@#@@#@\n");
     start();
-    app_->window1()->showTeamAndMedications();
+    app_->windows().main->showTeamAndMedications();
     auto* shown = frameTitled("Information")->findChild<ListboxPeer*>();
-    Listbox& contacts = app_->infoWindow()->ListBox1;
+    Listbox& contacts = app_->windows().info->ListBox1;
     EXPECT_EQ(contacts.ListIndex(), 0) << "as the window has selected it";
     EXPECT_TRUE(shown->selectionModel()->isRowSelected(0));
     EXPECT_EQ(shown->columnWidth(0), shown->viewport()->width());

@@ -224,7 +224,7 @@ TEST_F(DiaryReportTest, TheSelectedDaysAndThePaper) {
     toolkit_.printDialogs.clear();
     report_.FileSaveAsPDF_Action();
     EXPECT_EQ(toolkit_.messages.back(), "In the dialog that follows select 'Save as PDF...' from the PDF button menu.");
-    EXPECT_EQ(toolkit_.printDialogs, std::vector<PrintTarget>{PrintTarget::pdf});
+    EXPECT_EQ(toolkit_.printDialogs, Texts{"Tallyvane Report"});
 }
 
 TEST(CountLines, AnEstimateByParagraphs) {

@@ -15,10 +15,10 @@ protected:
         TestDesk::SetUp();
         app_ = std::make_unique<App>();
         app_->Event_Open();
-        app_->splashWindow()->Timer1.fire();
-        app_->window1()->BevelButton1_Action();
-        app_->window1()->ListBox1.userTyped("5.6", 3, 0);
-        app_->window1()->JournalFld.Text("felt well");
+        app_->windows().splash->Timer1.fire();
+        app_->windows().main->BevelButton1_Action();
+        app_->windows().main->ListBox1.userTyped("5.6", 3, 0);
+        app_->windows().main->JournalFld.Text("felt well");
     }
     /// Nothing can be written where the table belongs.
     void blockTable() const { std::filesystem::create_directory(applicationFile("7VXData")); }
@@ -51,7 +51,7 @@ TEST_F(AppEndTest, WhatCannotBeSavedIsAskedAboutOnceAndNeverTrapsTheUser) {
               "Not everything could be saved.\n\nYour days: a folder of that name stands there\n" +
                   applicationFile("7VXData").string());
     EXPECT_EQ(toolkit_.quits, std::vector<int>{1}) << "an end with a loss";
-    EXPECT_FALSE(app_->window1()->isOpen());
+    EXPECT_FALSE(app_->windows().main->isOpen());
     EXPECT_EQ(read(applicationFile("QVXLogData")), "@#@@#@felt well@#@\n") << "the others are saved";
     app_->Event_Close();
     EXPECT_TRUE(toolkit_.messages.empty()) << "one question is enough";
@@ -72,13 +72,13 @@ TEST_F(AppEndTest, AFullDiskIsTriedAgainAndTheWindowsPlaceNeverStopsTheEnd) {
 }
 
 TEST_F(AppEndTest, WhatWaitsIsReadWhenItsWindowOpensAgain) {
-    app_->window1()->showLogs();
+    app_->windows().main->showLogs();
     std::filesystem::create_directory(applicationFile("Tallyvane"));
     std::filesystem::create_directory(applicationFile("Tallyvane") / "QVXLogData");
-    app_->logs()->FoodFld.userTyped("bread");
-    app_->logs()->Close();
-    app_->window1()->showLogs();
-    EXPECT_EQ(app_->logs()->FoodFld.Text(), "bread");
+    app_->windows().logs->FoodFld.userTyped("bread");
+    app_->windows().logs->Close();
+    app_->windows().main->showLogs();
+    EXPECT_EQ(app_->windows().logs->FoodFld.Text(), "bread");
     toolkit_.answers = {2};
     app_->FileQuit_Action();
     ASSERT_EQ(toolkit_.questions.size(), 1U);
@@ -102,7 +102,7 @@ TEST_F(AppEndTest, WhatCouldNotBeReadIsNotReplacedUnseen) {
     std::filesystem::remove(applicationFile("7VXData"));
 
     startBlocked();
-    app_->window1()->BevelButton1_Action();
+    app_->windows().main->BevelButton1_Action();
     app_->FileQuit_Action();
     EXPECT_EQ(read(applicationFile("7VXData before 2026-11-22")), "11/21/2026@#@7\n");
     EXPECT_TRUE(toolkit_.questions.empty());
@@ -168,9 +168,9 @@ TEST_F(AppEndTest, RescuedDaysThatCannotBePutInPlaceAreShownAndSavedLater) {
     StartupGlobals::gDataFolder.reset();
     app_ = std::make_unique<App>();
     app_->Event_Open();
-    EXPECT_EQ(app_->window1()->ListBox1.Cell(0, 1), "5.6");
-    app_->window1()->BevelButton1_Action();
-    app_->window1()->ListBox1.userTyped("7", 1, 0);
+    EXPECT_EQ(app_->windows().main->ListBox1.Cell(0, 1), "5.6");
+    app_->windows().main->BevelButton1_Action();
+    app_->windows().main->ListBox1.userTyped("7", 1, 0);
     unblockTable();
     app_->FileQuit_Action();
     EXPECT_TRUE(isWhole(applicationFile("7VXData")));

@@ -30,7 +30,7 @@ protected:
     void preferFolder(const std::string& folder) {
         write(applicationFile("Brindlemarks Preferences"), "true\n13\n9\n5\n3\n\n\n\n" + folder + "\n");
     }
-    void press(const char* button) { app_.window1()->Toolbar11_Action({button, "", "", "icon"}); }
+    void press(const char* button) { app_.windows().main->Toolbar11_Action({button, "", "", "icon"}); }
 
     App app_;
 };
@@ -38,12 +38,12 @@ protected:
 TEST_F(AppTest, AFirstStartMakesItsFolderAndShowsTheDiaryAfterTheSplash) {
     app_.Event_Open();
     EXPECT_TRUE(std::filesystem::is_directory(folder_ / "Tallyvane"));
-    EXPECT_FALSE(app_.window1()->Visible());
-    EXPECT_EQ(app_.window1()->Timer1.Mode(), Timer::ModeSingle);
-    EXPECT_TRUE(app_.splashWindow()->Visible());
-    app_.splashWindow()->Timer1.fire();
-    EXPECT_TRUE(app_.window1()->Visible());
-    EXPECT_FALSE(app_.splashWindow()->isOpen());
+    EXPECT_FALSE(app_.windows().main->Visible());
+    EXPECT_EQ(app_.windows().main->Timer1.Mode(), Timer::ModeSingle);
+    EXPECT_TRUE(app_.windows().splash->Visible());
+    app_.windows().splash->Timer1.fire();
+    EXPECT_TRUE(app_.windows().main->Visible());
+    EXPECT_FALSE(app_.windows().splash->isOpen());
     EXPECT_TRUE(toolkit_.messages.empty());
 }
 
@@ -52,8 +52,8 @@ TEST_F(AppTest, EveryLossOfFocusSavesAndTheEndSavesTwiceTheSame) {
     app_.Event_Open();
     app_.Event_Deactivate(); // while the splash window is up
     EXPECT_EQ(read(applicationFile("7VXData")), "");
-    app_.window1()->BevelButton1_Action();
-    app_.window1()->ListBox1.userTyped("5.6", 3, 0);
+    app_.windows().main->BevelButton1_Action();
+    app_.windows().main->ListBox1.userTyped("5.6", 3, 0);
     app_.Event_Deactivate();
     const std::string saved = read(applicationFile("7VXData"));
     EXPECT_TRUE(saved.starts_with("11/22/2026@#@5.6@#@@#@")) << saved;
@@ -68,7 +68,7 @@ TEST_F(AppTest, AMissingDataFolderIsToldOnceWhenTheDiaryIsShown) {
     preferFolder("/no/such/folder");
     app_.Event_Open();
     EXPECT_TRUE(toolkit_.messages.empty());
-    app_.splashWindow()->Timer1.fire();
+    app_.windows().splash->Timer1.fire();
     ASSERT_EQ(toolkit_.messages.size(), 1U);
     EXPECT_NE(toolkit_.messages[0].find("/no/such/folder"), std::string::npos);
     EXPECT_NE(toolkit_.messages[0].find((folder_ / "Tallyvane").string()), std::string::npos);
@@ -83,7 +83,7 @@ TEST_F(AppTest, ASecondStartWakesTheFirstAndEndsWithoutAWindow) {
     app_.wakeRunningProgram = [&] { woken = true; };
     app_.Event_Open();
     EXPECT_TRUE(woken);
-    EXPECT_EQ(app_.window1(), nullptr);
+    EXPECT_EQ(app_.windows().main, nullptr);
     EXPECT_EQ(toolkit_.quits, std::vector<int>{0});
     app_.Event_Deactivate();
     app_.Event_Close();
@@ -95,7 +95,7 @@ TEST_F(AppTest, DaysThatAnotherProgramHoldsAreNotOpenedTwice) {
     preferFolder(folder_ / "days");
     const auto other = SystemFiles::FolderClaim::take((folder_ / "days").string());
     app_.Event_Open();
-    EXPECT_EQ(app_.window1(), nullptr);
+    EXPECT_EQ(app_.windows().main, nullptr);
     ASSERT_EQ(toolkit_.messages.size(), 1U);
     EXPECT_EQ(toolkit_.quits, std::vector<int>{0});
 }
@@ -104,14 +104,14 @@ TEST_F(AppTest, TheApplicationFolderByAnotherNameIsNoOtherProgram) {
     preferFolder(folder_ / "link");
     std::filesystem::create_directory_symlink(folder_ / "Tallyvane", folder_ / "link");
     app_.Event_Open();
-    EXPECT_NE(app_.window1(), nullptr);
+    EXPECT_NE(app_.windows().main, nullptr);
     EXPECT_TRUE(toolkit_.messages.empty());
 }
 
 TEST_F(AppTest, AFailedSaveBetweenTimesIsToldOnceAndMadeGoodLater) {
     app_.Event_Open();
-    app_.window1()->JournalFld.Text("felt well");
-    app_.window1()->BevelButton1_Action();
+    app_.windows().main->JournalFld.Text("felt well");
+    app_.windows().main->BevelButton1_Action();
     {
         const FailingDisk disk(FailingDisk::Call::reserve, 0, false);
         for (int looks = 0; looks < 3; ++looks)
@@ -120,7 +120,7 @@ TEST_F(AppTest, AFailedSaveBetweenTimesIsToldOnceAndMadeGoodLater) {
     EXPECT_EQ(toolkit_.messages, Texts{"An error has occured. You should quit Tallyvane now to save your data."})
         << "told once";
     EXPECT_FALSE(std::filesystem::exists(applicationFile("7VXData")));
-    app_.window1()->AutosaveTimer.fire();
+    app_.windows().main->AutosaveTimer.fire();
     EXPECT_TRUE(std::filesystem::exists(applicationFile("7VXData"))) << "five minutes later";
     EXPECT_EQ(read(applicationFile("QVXLogData")), "@#@@#@felt well@#@\n");
     EXPECT_FALSE(app_.Event_UnhandledException());
@@ -132,7 +132,7 @@ TEST_F(AppTest, LogsThatHaveNotChangedAreNotWritten) {
     app_.Event_Deactivate();
     EXPECT_FALSE(std::filesystem::exists(applicationFile("QVXLogData")));
     EXPECT_FALSE(std::filesystem::exists(applicationFile("Tallyvane") / "QVXLogData"));
-    app_.logs()->FoodFld.userTyped("bread");
+    app_.windows().logs->FoodFld.userTyped("bread");
     app_.Event_Deactivate();
     EXPECT_EQ(read(applicationFile("QVXLogData")), "@#@bread@#@@#@\n");
     EXPECT_EQ(read(applicationFile("Tallyvane") / "QVXLogData"), "@#@bread@#@@#@\n");
@@ -142,7 +142,7 @@ TEST_F(AppTest, WhatIsNoFileIsToldAtTheStart) {
     std::filesystem::create_directories(applicationFile("7VXData"));
     std::filesystem::create_directories(applicationFile("Tallyvane") / "QVXFileData");
     app_.Event_Open();
-    app_.splashWindow()->Timer1.fire();
+    app_.windows().splash->Timer1.fire();
     ASSERT_EQ(toolkit_.messages.size(), 1U);
     for (const auto& path : {applicationFile("7VXData"), applicationFile("Tallyvane") / "QVXFileData"})
         EXPECT_NE(toolkit_.messages[0].find(path.string()), std::string::npos);
@@ -165,9 +165,9 @@ TEST_F(AppTest, AnyBytesInAnyFileStartAndEnd) {
         }
         App app;
         app.Event_Open();
-        ASSERT_NE(app.window1(), nullptr) << "round " << round;
-        app.splashWindow()->Timer1.fire();
-        app.window1()->BevelButton1_Action();
+        ASSERT_NE(app.windows().main, nullptr) << "round " << round;
+        app.windows().splash->Timer1.fire();
+        app.windows().main->BevelButton1_Action();
         app.FileQuit_Action();
         StartupGlobals::gDataFolder.reset();
     }
@@ -178,7 +178,7 @@ TEST_F(AppTest, AFolderThatTakesNoFilesIsBorneInSilence) {
     preferFolder("/proc/self/task");
     app_.Event_Open();
     EXPECT_EQ(StartupGlobals::gDataFolder->AbsolutePath(), "/proc/self/task");
-    app_.window1()->BevelButton1_Action();
+    app_.windows().main->BevelButton1_Action();
     app_.Event_Deactivate();
     PrefsModule::savePrefs();
     EXPECT_TRUE(toolkit_.messages.empty());
@@ -193,13 +193,13 @@ TEST_F(AppTest, AFileOfTheCommandLineIsOfferedForImport) {
     write(path, "11/1/2026,5\n11/2/2026,7\n");
     app_.offerForImport(path);
     app_.Event_Open();
-    EXPECT_EQ(app_.importing(), nullptr) << "until the main window is there";
-    app_.splashWindow()->Timer1.fire();
-    ASSERT_NE(app_.importing(), nullptr);
-    EXPECT_EQ(app_.importing()->StaticText2.Text(), "File: meter.csv");
-    app_.importing()->PushButton1.Action();
+    EXPECT_EQ(app_.windows().importing, nullptr) << "until the main window is there";
+    app_.windows().splash->Timer1.fire();
+    ASSERT_NE(app_.windows().importing, nullptr);
+    EXPECT_EQ(app_.windows().importing->StaticText2.Text(), "File: meter.csv");
+    app_.windows().importing->PushButton1.Action();
     EXPECT_TRUE(toolkit_.dialogs.empty());
-    EXPECT_EQ(app_.window1()->ListBox1.ListCount(), 2);
+    EXPECT_EQ(app_.windows().main->ListBox1.ListCount(), 2);
     app_.offerForImport("/no/such/file");
     EXPECT_EQ(toolkit_.messages, Texts{"\u201c/no/such/file\u201d can't be imported: there is no such file."});
 }
@@ -226,20 +226,20 @@ TEST_F(AppTest, MenuItemsAnswerOrAreOff) {
     app_.Event_Open();
     EXPECT_EQ(enabledItems(nullptr), (Texts{"FileQuit", "FileExportData", "FileAboutBrindlemarks", "FilePreferences",
                                             "HelpUsersGuide", "HelpSupportForum"}));
-    const std::size_t withoutDays = enabledItems(app_.window1()).size();
-    app_.window1()->BevelButton1_Action(); // selects the day that it adds
-    EXPECT_EQ(enabledItems(app_.window1()).size(), withoutDays + 2) << "those for selected days";
+    const std::size_t withoutDays = enabledItems(app_.windows().main.get()).size();
+    app_.windows().main->BevelButton1_Action(); // selects the day that it adds
+    EXPECT_EQ(enabledItems(app_.windows().main.get()).size(), withoutDays + 2) << "those for selected days";
 }
 
 TEST_F(AppTest, MenuItemsReachTheirWindows) {
     app_.Event_Open();
-    Window1& window1 = *app_.window1();
+    Window1& window1 = *app_.windows().main;
     const auto choose = [&](const char* item) { app_.menuBar.choose(item, &window1); };
     window1.BevelButton1_Action();
     choose("FileImportData");
-    EXPECT_TRUE(app_.importing()->isOpen());
+    EXPECT_TRUE(app_.windows().importing->isOpen());
     choose("FileExportData");
-    EXPECT_TRUE(app_.exporting()->isOpen());
+    EXPECT_TRUE(app_.windows().exporting->isOpen());
     choose("FileArchiveSelectedDays");
     choose("FileOpenArchivedDays");
     EXPECT_EQ(toolkit_.dialogs, (Texts{"Save archive|Enter name|untitled", "Select an archive file|text"}));
@@ -254,47 +254,47 @@ TEST_F(AppTest, MenuItemsReachTheirWindows) {
 
 TEST_F(AppTest, TheWindowsAreJoined) {
     app_.Event_Open();
-    Window1& window1 = *app_.window1();
+    Window1& window1 = *app_.windows().main;
     window1.Timer1.Mode(Timer::ModeOff);
     app_.FilePreferences_Action();
     window1.Timer1.Mode(Timer::ModeOff);
-    app_.prefsWindow()->EditField1.userChanged("12", 0, 0);
+    app_.windows().prefs->EditField1.userChanged("12", 0, 0);
     EXPECT_EQ(window1.Timer1.Mode(), Timer::ModeSingle);
 
     press("HeadingsBtn");
-    app_.editHeadings()->TextField1.userChanged("Dawn", 0, 0);
-    app_.editHeadings()->PushButton2.Action();
+    app_.windows().headings->TextField1.userChanged("Dawn", 0, 0);
+    app_.windows().headings->PushButton2.Action();
     EXPECT_EQ(window1.StaticText13.Text(), "Breakfast");
     press("HeadingsBtn");
-    EXPECT_EQ(app_.editHeadings()->TextField1.Text(), "Dawn") << "made anew, from the file";
-    app_.editHeadings()->PushButton1.Action();
+    EXPECT_EQ(app_.windows().headings->TextField1.Text(), "Dawn") << "made anew, from the file";
+    app_.windows().headings->PushButton1.Action();
     EXPECT_EQ(window1.StaticText13.Text(), "Dawn");
 
     press("LogsBtn");
-    app_.logs()->FoodFld.userTyped("bread\nmilk");
-    app_.logs()->Close();
+    app_.windows().logs->FoodFld.userTyped("bread\nmilk");
+    app_.windows().logs->Close();
     press("LogsBtn");
     press("LogsBtn"); // it is there already
-    EXPECT_EQ(app_.logs()->FoodFld.Text(), "bread\nmilk");
+    EXPECT_EQ(app_.windows().logs->FoodFld.Text(), "bread\nmilk");
     press("TeamMedBtn");
-    EXPECT_EQ(app_.infoWindow()->ListBox1.ListCount(), 3);
+    EXPECT_EQ(app_.windows().info->ListBox1.ListCount(), 3);
     press("GraphBtn");
     EXPECT_EQ(toolkit_.messages.back(), "Please select 2 or more days to graph.");
-    EXPECT_EQ(app_.graph(), nullptr);
+    EXPECT_EQ(app_.windows().graph, nullptr);
     window1.ListBox1.AddRows({{"11/1/2026"}, {"11/2/2026"}});
     window1.ListBox1.select({true, true});
     press("GraphBtn");
-    const GTGraph* graph = app_.graph()->grafThing1.get();
+    const GTGraph* graph = app_.windows().graph->grafThing1.get();
     press("GraphBtn");
-    EXPECT_EQ(app_.graph()->grafThing1.get(), graph) << "the window that is there, as it is";
-    app_.graph()->Canvas3_Action();
-    app_.graph()->Close();
+    EXPECT_EQ(app_.windows().graph->grafThing1.get(), graph) << "the window that is there, as it is";
+    app_.windows().graph->Canvas3_Action();
+    app_.windows().graph->Close();
     press("GraphBtn");
-    EXPECT_FALSE(app_.graph()->graphWeight);
-    EXPECT_TRUE(app_.graph()->CheckBox13.Value());
+    EXPECT_FALSE(app_.windows().graph->graphWeight);
+    EXPECT_TRUE(app_.windows().graph->CheckBox13.Value());
     for (const bool shown : {true, false}) {
         press("ResourcesBtn");
-        EXPECT_EQ(app_.files()->isOpen(), shown);
+        EXPECT_EQ(app_.windows().files->isOpen(), shown);
         EXPECT_EQ(Globals::gFilesOpen, shown);
     }
 }
@@ -302,7 +302,7 @@ TEST_F(AppTest, TheWindowsAreJoined) {
 TEST_F(AppTest, WhatIsOpenIsSavedWhenTheDisplayGoes) {
     app_.Event_Open();
     press("LogsBtn");
-    app_.logs()->FoodFld.userTyped("bread");
+    app_.windows().logs->FoodFld.userTyped("bread");
     app_.Event_DisplayLost();
     EXPECT_EQ(read(applicationFile("Tallyvane") / "QVXLogData"), "@#@bread@#@@#@\n");
 }
@@ -311,8 +311,8 @@ TEST_F(AppTest, AFileThatCannotBeSavedDoesNotCostTheOthers) {
     app_.Event_Open();
     press("HeadingsBtn");
     press("LogsBtn");
-    app_.editHeadings()->TextField1.userChanged("Dawn", 0, 0);
-    app_.logs()->FoodFld.userTyped("bread");
+    app_.windows().headings->TextField1.userChanged("Dawn", 0, 0);
+    app_.windows().logs->FoodFld.userTyped("bread");
     {
         const FailingDisk disk(FailingDisk::Call::reserve); // once: under the main window
         Quit(0);
@@ -329,10 +329,10 @@ TEST_F(AppTest, HelpAndAboutItems) {
         app_.menuBar.choose(item, nullptr);
     ASSERT_EQ(toolkit_.addresses.size(), 2U);
     EXPECT_TRUE(toolkit_.addresses[0].ends_with("/docs/TallyvaneGuide.pdf"));
-    EXPECT_EQ(app_.aboutWindow()->StaticText2.Text(), "v1.1.7");
-    app_.aboutWindow()->Close();
+    EXPECT_EQ(app_.windows().about->StaticText2.Text(), "v1.1.7");
+    app_.windows().about->Close();
     app_.menuBar.choose("FileAboutBrindlemarks", nullptr);
-    EXPECT_TRUE(app_.aboutWindow()->isOpen());
+    EXPECT_TRUE(app_.windows().about->isOpen());
 }
 
 } // namespace

@@ -21,7 +21,7 @@ TEST_F(DailyCopiesTest, TheStartCopiesTheDaysBeforeItSavesAny) {
     write(table(), days);
     App app;
     app.Event_Open();
-    app.window1()->Close();
+    app.windows().main->Close();
     EXPECT_NE(read(table()), days);
     EXPECT_EQ(read(copyOf("2026-11-22")), days);
 }
@@ -44,13 +44,13 @@ TEST_F(DailyCopiesTest, TheUserIsAskedBeforeACopyComesBack) {
                   "damaged 2026-11-22\u201d."});
         EXPECT_EQ(read(applicationFile("7VXData damaged 2026-11-22")), cut);
         if (!answer) {
-            EXPECT_EQ(app.window1(), nullptr) << "nobody has answered: nothing is opened, and nothing saved";
+            EXPECT_EQ(app.windows().main, nullptr) << "nobody has answered: nothing is opened, and nothing saved";
             app.Event_Close();
             EXPECT_EQ(read(table()), cut);
             continue;
         }
-        EXPECT_EQ(app.window1()->ListBox1.ListCount(), *answer == 0 ? 3 : 2);
-        app.window1()->Close();
+        EXPECT_EQ(app.windows().main->ListBox1.ListCount(), *answer == 0 ? 3 : 2);
+        app.windows().main->Close();
     }
 }
 

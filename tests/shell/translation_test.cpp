@@ -40,12 +40,12 @@ TEST_F(TranslationTest, MessagesAndDialogsAreTranslated) {
     write(applicationFile("Brindlemarks Preferences"), "true\n13\n9\n5\n3\n\n\n\n/no/such/folder\n");
     App app;
     app.Event_Open();
-    app.splashWindow()->Timer1.fire();
+    app.windows().splash->Timer1.fire();
     ASSERT_EQ(toolkit_.messages.size(), 1U);
     EXPECT_EQ(toolkit_.messages[0].find("{The folder with your days is not there: \u201c/no/such/folder"), 0U);
     toolkit_.messages.clear();
 
-    Window1& window = *app.window1();
+    Window1& window = *app.windows().main;
     for (const char* item : {"FileArchiveSelectedDays", "FileSaveAsPDF", "FileOpenArchivedDays"})
         app.menuBar.choose(item, &window);
     app.run([] { throw 1; });
@@ -64,7 +64,7 @@ TEST_F(TranslationTest, MenusToolbarAndPaperAreTranslated) {
     write(applicationFile("7VXData"), "1/1/2026@#@5\n");
     App app;
     app.Event_Open();
-    app.splashWindow()->Timer1.fire();
+    app.windows().splash->Timer1.fire();
     std::vector<std::string> shown;
     for (const Menu& menu : app.menuBar.menus()) {
         shown.push_back(menu.Text);
@@ -74,9 +74,9 @@ TEST_F(TranslationTest, MenusToolbarAndPaperAreTranslated) {
     const Toolbar1 toolbar;
     for (const ToolItem& item : toolbar.items())
         shown.insert(shown.end(), {item.Caption, item.HelpTag});
-    app.menuBar.choose("FilePrint", app.window1());
-    app.window1()->ListBox1.select({true});
-    app.window1()->showGraph();
+    app.menuBar.choose("FilePrint", app.windows().main.get());
+    app.windows().main->ListBox1.select({true});
+    app.windows().main->showGraph();
     Window* graph = Window::openWindows().back();
     EXPECT_EQ(graph->Title(), "{Graph}");
     app.menuBar.choose("FilePrint", graph);

@@ -33,38 +33,38 @@ protected:
 TEST_F(NewVersionTest, TheOfferWaitsForTheMainWindow) {
     EXPECT_EQ(toolkit_.downloads[0].address, "http://www.tallyvane.example/VersionInfo/Tallyvane.txt");
     answer("Tallyvane 2\n2.0\n");
-    EXPECT_EQ(app_.newVersion(), nullptr);
-    app_.splashWindow()->Timer1.fire();
-    ASSERT_NE(app_.newVersion(), nullptr);
-    EXPECT_EQ(app_.newVersion()->StaticText1.Text(),
+    EXPECT_EQ(app_.windows().newVersion, nullptr);
+    app_.windows().splash->Timer1.fire();
+    ASSERT_NE(app_.windows().newVersion, nullptr);
+    EXPECT_EQ(app_.windows().newVersion->StaticText1.Text(),
               "There is a newer version of Tallyvane 2 available. Would you like to download it now?");
     EXPECT_TRUE(fileIsThere());
-    app_.newVersion()->PushButton1.Action();
+    app_.windows().newVersion->PushButton1.Action();
     EXPECT_EQ(toolkit_.addresses, Texts{"http://www.tallyvane.example/Tallyvane.zip"});
-    EXPECT_FALSE(app_.newVersion()->isOpen());
+    EXPECT_FALSE(app_.windows().newVersion->isOpen());
     EXPECT_FALSE(fileIsThere());
 }
 
 TEST_F(NewVersionTest, LaterIsLater) {
-    app_.splashWindow()->Timer1.fire();
+    app_.windows().splash->Timer1.fire();
     answer("Tallyvane\n1.1.8\n");
-    app_.newVersion()->PushButton2.Action();
+    app_.windows().newVersion->PushButton2.Action();
     EXPECT_TRUE(toolkit_.addresses.empty());
     EXPECT_FALSE(fileIsThere());
 }
 
 TEST_F(NewVersionTest, AFileThatNamesNoProgramIsLeftAlone) {
-    app_.splashWindow()->Timer1.fire();
+    app_.windows().splash->Timer1.fire();
     answer("\n9.9.9\n");
-    EXPECT_EQ(app_.newVersion(), nullptr);
+    EXPECT_EQ(app_.windows().newVersion, nullptr);
     EXPECT_TRUE(fileIsThere());
 }
 
 TEST_F(NewVersionTest, AnAnswerAfterTheEndOfTheProgramIsNobodysBusiness) {
-    app_.splashWindow()->Timer1.fire();
-    app_.window1()->Close();
+    app_.windows().splash->Timer1.fire();
+    app_.windows().main->Close();
     answer("Tallyvane\n2.0\n");
-    EXPECT_EQ(app_.newVersion(), nullptr);
+    EXPECT_EQ(app_.windows().newVersion, nullptr);
     EXPECT_FALSE(fileIsThere());
 }
 

@@ -69,9 +69,10 @@ std::unique_ptr<Paper> RecordingToolkit::makePaper() {
     return nextPaper ? nextPaper() : std::make_unique<RecordedPaper>(letterWidth, letterHeight, pageSetupReady);
 }
 
-std::unique_ptr<Graphics> RecordingToolkit::openDialog(const Paper* chosen, int resolution, PrintTarget target) {
+std::unique_ptr<Graphics> RecordingToolkit::openDialog(const Paper* chosen, int resolution,
+                                                       const std::string& pdfName) {
     paper = chosen;
-    printDialogs.push_back(target);
+    printDialogs.push_back(pdfName);
     if (!printerReady)
         return nullptr;
     const Paper* used = printerPaper ? printerPaper.get() : chosen;
