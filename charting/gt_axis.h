@@ -162,10 +162,9 @@ private:
 
     TickSteps xAxisSteps(int width) const;
     TickSteps evenSteps(int length) const;
-    /// Calls `visit` with each value from the minimum up to the maximum, which is left out, and gives the first one
-    /// that is not below the maximum. A value that lies below it by no more than rounding is the maximum. No step is
-    /// smaller than a unit of the surface, so it visits no more values than there are units and one, however small the
-    /// increment.
+    /// Calls `visit` with each tick value from the minimum to below the maximum, `length` + 1 values at most however
+    /// small the increment. Returns the first value that is not below the maximum. A value that only rounding keeps
+    /// below it counts as the maximum.
     template <class Visit>
     double walk(double increment, int length, Visit visit) const {
         const auto isBelowMaximum = [&](double v) { return myMax - v > mostRounding * increment; };

@@ -55,7 +55,7 @@ void GTAxis::renderTickLabel(Graphics& g, const std::string& s, int x, int y) co
         g.DrawString(s, x, y);
 }
 
-/// Of the label no more is shown than stands before its first point. It is held inside the surface.
+/// Shows the label only up to its first ".", moved sideways where needed to stay on the surface.
 void GTAxis::renderXTickLabel(Graphics& g, const std::string& s, int x, int y) const {
     const std::string shown = NthField(s, ".", 1);
     const double width = g.StringWidth(shown);

@@ -51,7 +51,7 @@ public:
 private:
     friend class GTSeries;
 
-    /// A tally takes all values, and those that come, until it is taken off.
+    /// Adds all present values, and each one added later, to the tally, until reportNoMoreTo is called for it.
     void reportTo(RangeTally& tally);
     void reportNoMoreTo(RangeTally& tally);
 

@@ -49,7 +49,7 @@ public:
     Color textColor = RGB(0, 0, 0);
     bool titleVisible = false;
 
-    // Kept for those who ask; the backdrop is drawn in colours of its own.
+    // Stored only, without effect: the backdrop is always drawn in fixed colours.
     bool hasBackColor = false;
     Color backColor = RGB(212, 217, 255);
     std::optional<Picture> backdrop;

@@ -76,7 +76,7 @@ public:
     void PenColor(Color color) { myPenColor = color; }
     int PlotSymbol() const { return myPlotSymbol; }
     void PlotSymbol(int code) { myPlotSymbol = code; }
-    /// Kept for those who ask; nothing draws it.
+    /// Stored only; it is never drawn.
     void PlotSymbol(Picture picture) { myCustomPlotPict = std::move(picture); }
     const std::optional<Picture>& CustomPlotPict() const { return myCustomPlotPict; }
     int PlotSymbolSize() const { return myPlotSymbolSize; }

@@ -4,7 +4,7 @@
 
 namespace tallyvane {
 
-/// Gives a surface its colour and its pen back.
+/// Restores the colour and the pen of a surface on destruction.
 class PenKeeper {
 public:
     explicit PenKeeper(Graphics& g) : g_(g), color_(g.ForeColor()), width_(g.PenWidth()), height_(g.PenHeight()) {}

@@ -38,7 +38,7 @@ void stayAtEdge(Listbox& table, int column, std::string_view key) {
     table.confirmCell();
     Beep();
     if (column == DayTable::lastReading && (key == Keys::right || key == Keys::tab))
-        table.giveHint(CellWords::wayToWeight(table));
+        table.showHint(CellWords::wayToWeight(table));
 }
 
 } // namespace

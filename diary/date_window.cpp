@@ -7,7 +7,7 @@ namespace tallyvane {
 
 DateWindow::DateWindow(Window& owner, Listbox& days) : days_(days) {
     shape(Kind::dialog, 289, 186);
-    belongTo(&owner);
+    setOwner(&owner);
     Title(tr("Change Date"));
     place({
         {&Canvas1, {14, 14, 64, 64}},

@@ -35,7 +35,7 @@ constexpr Rect labelOver(int first, int width) { return {columnLeft(first), 4, w
 Window1::Window1(Toolbar& toolbar, MenuBar& menuBar) : ListBox1(DayTable::columnCount), Toolbar11(toolbar) {
     shape(Kind::document, windowWidth, 518, 490, anySize);
     Title("Tallyvane");
-    carry(&menuBar, &toolbar);
+    setBars(&menuBar, &toolbar);
     layOut();
     build();
     wire();

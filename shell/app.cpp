@@ -62,13 +62,13 @@ void App::Event_Open() {
     const std::optional<FolderItem> folder = DataFiles::applicationFolder();
     if (!StartupGlobals::gDataFolder && folder && !folder->Exists())
         static_cast<void>(folder->CreateAsFolder()); // without it the diary runs, and has nowhere to save
-    if (!claim(folder)) {
+    if (!lock(folder)) {
         giveWay();
         return;
     }
     if (listenForSecondStart)
         listenForSecondStart();
-    const auto mayWriteIn = [this](const std::optional<FolderItem>& place) { return claim(place); };
+    const auto mayWriteIn = [this](const std::optional<FolderItem>& place) { return lock(place); };
     if (!UnsavedWork::offerRescued(mayWriteIn)) { // before anything is read
         Quit(1);
         return;
@@ -94,16 +94,16 @@ void App::Event_Open() {
 }
 
 /// Holds a folder for this program. False when another program holds it.
-bool App::claim(const std::optional<FolderItem>& folder) {
+bool App::lock(const std::optional<FolderItem>& folder) {
     if (!folder || !folder->Directory())
         return true;
-    for (const auto& held : claims_)
-        if (held->isOn(folder->AbsolutePath()))
+    for (const auto& held : folderLocks_)
+        if (held->holds(folder->AbsolutePath()))
             return true;
-    auto claim = SystemFiles::FolderClaim::take(folder->AbsolutePath());
-    if (!claim)
+    auto folderLock = SystemFiles::FolderLock::acquire(folder->AbsolutePath());
+    if (!folderLock)
         return false;
-    claims_.push_back(std::move(claim));
+    folderLocks_.push_back(std::move(folderLock));
     return true;
 }
 
@@ -138,7 +138,7 @@ bool App::tableIsReady() {
 }
 
 void App::bringUpMainWindow() {
-    if (!claim(StartupGlobals::gDataFolder)) {
+    if (!lock(StartupGlobals::gDataFolder)) {
         MsgBox(tr("The days in \u201c%1\u201d are open in another Tallyvane. Close that one first, then start again.",
                   {StartupGlobals::gDataFolder->AbsolutePath()}));
         giveWay();
@@ -301,7 +301,7 @@ void App::Event_Deactivate() {
 void App::Event_EndRequested() {
     endsUnasked_ = true;
     if (asksAboutUnsaved_)
-        Desktop::inUse().quit(1); // takes the question away; what it was about is kept
+        Desktop::current().quit(1); // takes the question away; what it was about is kept
     else
         FileQuit_Action();
 }

@@ -89,7 +89,7 @@ public:
     MenuBar menuBar;
 
 private:
-    bool claim(const std::optional<FolderItem>& folder);
+    bool lock(const std::optional<FolderItem>& folder);
     bool tableIsReady();
     void bringUpMainWindow();
     int settleUnsaved(int code);
@@ -107,7 +107,7 @@ private:
     bool toldOfFailedSave_ = false; // since the last save that succeeded
     bool asksAboutUnsaved_ = false;
     bool endsUnasked_ = false;
-    std::vector<std::unique_ptr<SystemFiles::FolderClaim>> claims_;
+    std::vector<std::unique_ptr<SystemFiles::FolderLock>> folderLocks_;
     std::string fileToImport_; // a path that waits for the main window; "" for none
     bool hasHandedOver_ = false; // the splash window, with all that had to be told
     std::function<void()> offerDone_; // of an offer that waits for the main window; empty for none

@@ -7,7 +7,7 @@ namespace tallyvane {
 
 newVersionWindow::newVersionWindow(Window& owner, const std::string& appName) {
     shape(Kind::dialog, 480, 150);
-    belongTo(&owner);
+    setOwner(&owner);
     Title("Tallyvane");
     place({
         {&StaticText1, {20, 16, 440, 70}},

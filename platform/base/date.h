@@ -13,11 +13,11 @@ class Date {
 public:
     /// The present moment, by DateSource::now.
     Date();
-    /// Midnight of a day. The day must exist; ParseDate and isDay tell.
+    /// `secondsOfDay` (0 to 86399) after the midnight that starts the day. The day must exist: check with isDay.
     Date(int year, int month, int day, int secondsOfDay = 0);
 
-    /// The moment that many seconds after the first midnight of the year 1, in whole seconds. One before that, after
-    /// the year 9999 or no number at all becomes the nearest moment that there is.
+    /// The moment that many seconds after 1 January of year 1, 0:00; fractions are dropped. Clamped to the years 1 to
+    /// 9999; NaN gives the first moment of year 1.
     static Date ofTotalSeconds(double seconds);
 
     /// Whether the calendar has that day, in the years 1 to 9999.

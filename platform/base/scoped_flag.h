@@ -2,7 +2,7 @@
 
 namespace tallyvane {
 
-/// Holds a flag up for as long as it lives, however its block ends.
+/// Sets a flag to true, and to false again on destruction, also after an exception.
 class ScopedFlag {
 public:
     explicit ScopedFlag(bool& flag) : flag_(flag) { flag_ = true; }

@@ -2,8 +2,8 @@
 
 namespace tallyvane {
 
-/// What the desktop does for the program in one topic. The class of a topic derives from this with methods that do
-/// nothing, so that the program also works unseen; the desktop's class overrides them.
+/// Base of a service of the desktop, such as printing: one instance at a time, which can be replaced. The class of a
+/// service (Topic) has methods that do nothing, for tests and runs without a display; platform/qt overrides them.
 template <class Topic>
 class Service {
 public:
@@ -12,18 +12,18 @@ public:
     Service& operator=(const Service&) = delete;
     virtual ~Service() = default;
 
-    /// The service that the program uses: one that does nothing until another is set.
-    static Topic& inUse() { return *slot(); }
-    /// Null for the one that does nothing. The caller keeps the service, and sets null before it goes.
-    static void use(Topic* service) { slot() = service != nullptr ? service : unseen(); }
+    /// The one that the program uses: one that does nothing until another is set.
+    static Topic& current() { return *slot(); }
+    /// Sets the current service; null sets the one that does nothing. The caller owns it and ends by setting null.
+    static void use(Topic* service) { slot() = service != nullptr ? service : defaultService(); }
 
 private:
-    static Topic* unseen() {
+    static Topic* defaultService() {
         static Topic service;
         return &service;
     }
     static Topic*& slot() {
-        static Topic* service = unseen();
+        static Topic* service = defaultService();
         return service;
     }
 };

@@ -6,7 +6,7 @@
 
 namespace tallyvane {
 
-/// What of a control has a new value, in the order in which a peer brings them to a widget at its making.
+/// A property of a control that has changed; also the order in which a peer sets them on a new widget.
 enum class Property {
     visible,
     enabled,
@@ -28,13 +28,13 @@ public:
     /// All of it is to be painted anew.
     virtual void repaintControl() {}
     /// The control is being destroyed and must not be touched again.
-    virtual void controlGone() = 0;
-    /// The keys are to go to this control from now on.
+    virtual void controlDestroyed() = 0;
+    /// The control asks for the keyboard focus.
     virtual void takeFocus() {}
 };
 
-/// What all controls have in common. A control is a plain object: properties, events that its window sets, and one
-/// place for an observer. Without an observer everything works but the showing.
+/// Base of all controls. A control is a plain object: properties, events that its window sets, and at most one
+/// observer, which shows it. Without an observer everything else works.
 class Control {
 public:
     Control() = default;
@@ -42,7 +42,7 @@ public:
     Control& operator=(const Control&) = delete;
     virtual ~Control() {
         if (observer_ != nullptr)
-            observer_->controlGone();
+            observer_->controlDestroyed();
     }
 
     bool Visible() const { return visible_; }

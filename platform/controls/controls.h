@@ -244,7 +244,7 @@ private:
 /// A small wheel that turns while something is going on.
 class ProgressWheel : public Control {};
 
-/// Raises Action some time after it was switched on. The clockwork is the observer's; without one nothing fires.
+/// Raises Action when its period has passed. The observer measures the time; without one Action is never raised.
 class Timer : public Control {
 public:
     enum Modes { ModeOff = 0, ModeSingle = 1, ModeMultiple = 2 };
@@ -252,14 +252,14 @@ public:
     /// Milliseconds until the next firing.
     int Period() const { return period_; }
     void Period(int value) { set(period_, value, Property::value); }
-    /// Set to single-shot, also when it is that already, it starts to count anew.
+    /// Setting any mode but ModeOff restarts the period, even if that mode was set already.
     int Mode() const { return mode_; }
     void Mode(int value) {
         mode_ = value;
         changed(Property::value);
     }
 
-    /// The time has come: a single-shot timer goes off, then Action is raised.
+    /// Called by the observer when the period has passed: sets a single-shot timer to ModeOff, then raises Action.
     void fire() {
         if (mode_ == ModeSingle)
             Mode(ModeOff);

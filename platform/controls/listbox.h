@@ -29,7 +29,7 @@ public:
     /// A cell was opened, or the open one was closed.
     virtual void openCellChanged() = 0;
     /// A line is to show at the open cell.
-    virtual void hintGiven(const std::string& hint) = 0;
+    virtual void showHint(const std::string& hint) = 0;
     virtual void bringIntoView(int row) = 0;
 };
 
@@ -184,7 +184,7 @@ public:
     /// Moves the editing by so many rows, down if positive, as far as there are rows, and selects the whole text.
     void moveCell(int rows);
     /// Shows a line at the open cell, for a few seconds or until another cell is opened.
-    void giveHint(const std::string& hint);
+    void showHint(const std::string& hint);
 
     // Sorting
 
@@ -203,8 +203,9 @@ public:
 
     std::function<void()> Open;
     std::function<void()> Change;
+    /// A click, x, y in points from the cell's top left corner. True keeps an editable cell from being opened.
     std::function<bool(int row, int column, int x, int y)> CellClick;
-    /// A key in the open cell; true when it was consumed. Those that type no text come as `Keys` (platform/keys.h)
+    /// A key in the open cell; true when it was consumed. Those that type no text come as `Keys` (controls/keys.h)
     /// names them.
     std::function<bool(int row, int column, const std::string& key)> CellKeyDown;
     std::function<void(int row, int column)> CellTextChange;
@@ -219,9 +220,10 @@ public:
     std::function<std::string(int row, int column)> CellDescription;
     /// The line that shows while the pointer rests on a cell; "" for none. A text with such a line has dots under it.
     std::function<std::string(int row, int column)> CellHelpTag;
-    /// Paints below the text of a cell; the surface is the cell. Also called for rows that do not exist.
+    /// Paints a cell's background; the surface is the cell. Also called for rows past the last. The result is ignored.
     std::function<bool(Graphics& g, int row, int column)> CellBackgroundPaint;
-    /// Before the text is drawn at x, y: may set the colour, or draw the text itself and say true.
+    /// Called before the text is drawn: may set ForeColor, or draw the text itself and return true. x is the left edge
+    /// of the text and y the bottom of the cell, in points from the cell's top left corner.
     std::function<bool(Graphics& g, int row, int column, int x, int y)> CellTextPaint;
 
     void observe(ListboxObserver* observer) {

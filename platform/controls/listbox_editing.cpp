@@ -71,9 +71,9 @@ void Listbox::moveCell(int rows) {
     activeCell_.SelectAll();
 }
 
-void Listbox::giveHint(const std::string& hint) {
+void Listbox::showHint(const std::string& hint) {
     if (list_ != nullptr && openRow_ >= 0)
-        list_->hintGiven(hint);
+        list_->showHint(hint);
 }
 
 void Listbox::raiseTextChange(int row, int column) {

@@ -33,7 +33,7 @@ public:
         SelLength(Len(text_));
     }
 
-    /// The text and the selection as the user has just made them: as Text, but no news for the observer, who brings it.
+    /// Called by the observer when the user changed text and selection. Like Text, but does not notify the observer.
     void userChanged(std::string_view text, int selStart, int selLength) {
         std::string line = ReplaceLineEndings(text, " ");
         const bool differs = text_ != line;
@@ -50,7 +50,7 @@ public:
     }
 
     std::function<void()> Open;
-    /// A key; true when it was consumed. Those that type no text come as `Keys` (platform/keys.h) names them. Tab,
+    /// A key; true when it was consumed. Those that type no text come as `Keys` (controls/keys.h) names them. Tab,
     /// Return and Escape are the window's.
     std::function<bool(const std::string& key)> KeyDown;
     std::function<void()> TextChange;
@@ -94,7 +94,7 @@ public:
     bool SpellChecking() const { return spellChecking_; }
     void SpellChecking(bool value) { spellChecking_ = value; }
 
-    /// The user has typed: as Text, but no news for the observer, who brings it.
+    /// Called by the observer when the user has typed. Like Text, but does not notify the observer.
     void userTyped(std::string value) {
         if (text_ == value)
             return;

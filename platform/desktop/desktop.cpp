@@ -20,11 +20,11 @@ bool startsWithoutCase(std::string_view text, std::string_view beginning) {
 
 } // namespace
 
-void MsgBox(const std::string& text) { Desktop::inUse().message(text); }
+void MsgBox(const std::string& text) { Desktop::current().message(text); }
 
 std::optional<std::size_t> Ask(const std::string& question, const std::vector<std::string>& answers,
                                std::size_t onEscape) {
-    return Desktop::inUse().ask(question, answers, onEscape);
+    return Desktop::current().ask(question, answers, onEscape);
 }
 
 Answer Ask(const std::string& question, const std::string& yes, const std::string& no) {
@@ -34,7 +34,7 @@ Answer Ask(const std::string& question, const std::string& yes, const std::strin
     return *answer == 0 ? Answer::yes : Answer::no;
 }
 
-void Beep() { Desktop::inUse().beep(); }
+void Beep() { Desktop::current().beep(); }
 
 void ShowURL(const std::string& address) {
     if (address.starts_with("www")) {
@@ -45,7 +45,7 @@ void ShowURL(const std::string& address) {
     const auto startsIt = [&](std::string_view scheme) { return startsWithoutCase(address, scheme); };
     if (std::none_of(schemes.begin(), schemes.end(), startsIt))
         MsgBox(tr("\u201c%1\u201d can't be opened: it is neither a web nor an e-mail address.", {address}));
-    else if (!Desktop::inUse().openUrl(address))
+    else if (!Desktop::current().openUrl(address))
         MsgBox(tr("\u201c%1\u201d can't be opened: this desktop has no program for it.", {address}));
 }
 

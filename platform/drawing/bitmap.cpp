@@ -1,23 +1,23 @@
 #include "platform/drawing/bitmap.h"
 
-#include "platform/drawing/unseen_graphics.h"
+#include "platform/drawing/null_graphics.h"
 
 namespace tallyvane {
 
 namespace {
 
-class UnseenBitmap : public Bitmap {
+class NullBitmap : public Bitmap {
 public:
-    UnseenBitmap(int width, int height) : surface_(width, height) {}
+    NullBitmap(int width, int height) : surface_(width, height) {}
     Graphics& surface() override { return surface_; }
     void changePixels(const std::function<Pixel(Pixel)>& /*change*/) override {}
 
 private:
-    UnseenGraphics surface_;
+    NullGraphics surface_;
 };
 
 } // namespace
 
-std::shared_ptr<Bitmap> Bitmaps::make(int width, int height) { return std::make_shared<UnseenBitmap>(width, height); }
+std::shared_ptr<Bitmap> Bitmaps::make(int width, int height) { return std::make_shared<NullBitmap>(width, height); }
 
 } // namespace tallyvane

@@ -10,7 +10,7 @@ namespace tallyvane {
 
 class Graphics;
 
-/// One pixel of a bitmap, its colour not weakened by its alpha: 0 is clear, 255 covers all.
+/// One pixel of a bitmap, not premultiplied. Alpha 0 is transparent, 255 opaque.
 struct Pixel {
     std::uint8_t red = 0;
     std::uint8_t green = 0;

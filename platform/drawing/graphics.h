@@ -61,8 +61,8 @@ public:
 
     /// Goes on to a new sheet of paper. A screen has none.
     virtual void NextPage() {}
-    /// What is drawn from here on comes out smaller where that is needed for so many units to fit on the surface, and
-    /// on all further pages; Width and Height grow with it. Never larger. 0 for a direction that does not matter.
+    /// Scales all further drawing, also on later pages, down so that `width` by `height` units fit on the surface;
+    /// Width and Height grow to match. Never scales up. Pass 0 for a direction that does not matter.
     virtual void shrinkToFit(double width, double height) = 0;
 
 private:

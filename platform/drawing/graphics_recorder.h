@@ -3,12 +3,12 @@
 #include <string>
 #include <vector>
 
-#include "platform/drawing/unseen_graphics.h"
+#include "platform/drawing/null_graphics.h"
 
 namespace tallyvane {
 
 /// A surface that keeps what is drawn on it as plain data, so that a test can compare it.
-class GraphicsRecorder : public UnseenGraphics {
+class GraphicsRecorder : public NullGraphics {
 public:
     struct Call {
         std::string operation; // "FillRect"
@@ -25,7 +25,7 @@ public:
         bool operator==(const Call&) const = default;
     };
 
-    using UnseenGraphics::UnseenGraphics;
+    using NullGraphics::NullGraphics;
 
     void DrawLine(double x1, double y1, double x2, double y2) override;
     void DrawRect(double x, double y, double width, double height) override;

@@ -4,7 +4,7 @@ namespace tallyvane {
 
 Picture::Picture(int width, int height, int depth) : width_(width), height_(height) {
     if (depth != 0)
-        bitmap_ = Bitmaps::inUse().make(width, height);
+        bitmap_ = Bitmaps::current().make(width, height);
 }
 
 } // namespace tallyvane

@@ -7,8 +7,8 @@
 
 namespace tallyvane {
 
-/// Bytes of the text that stand in its first line, within that width and up to a line end, with the blanks or the line
-/// end after them. One character at the least.
+/// Number of bytes in the first line of a text, broken at `width` (units of the surface) or at a line end, including
+/// the blanks or the line end that follow. At least one character of a text that is not empty.
 std::size_t firstLine(const Graphics& g, std::string_view text, double width);
 
 /// Draws a text in lines of that width, the first one on the baseline y.

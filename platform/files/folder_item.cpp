@@ -81,7 +81,7 @@ std::optional<FolderItem> FolderItem::GetRelative(std::string_view saveInfo) {
 }
 
 void FolderItem::Launch() const {
-    if (Exists() && !Desktop::inUse().openFile(path_))
+    if (Exists() && !Desktop::current().openFile(path_))
         MsgBox(tr("\u201c%1\u201d can't be opened: this desktop has no program for it.", {path_}));
 }
 

@@ -5,7 +5,7 @@
 
 namespace tallyvane {
 
-/// Makes several saves. What fails one does not cost the others; the first IOException is thrown at the end.
+/// Runs every save even if some throw IOException, then rethrows the first one.
 void saveEach(std::initializer_list<std::function<void()>> saves);
 
 } // namespace tallyvane

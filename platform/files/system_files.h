@@ -10,7 +10,7 @@
 
 namespace tallyvane {
 
-/// A write that failed after its file was opened. The file holds what it held before.
+/// A file or folder could not be made, opened, read or written. `Replacement::replace` says what a file then holds.
 class IOException : public std::runtime_error {
 public:
     /// `why` is for the user, such as "No space left on device"; `what` names the path too.
@@ -68,9 +68,9 @@ public:
     /// Closes the file; one that was made by `open` and not replaced goes again.
     ~Replacement();
 
-    /// Makes `text` the content of the file and sees it to the disk. Only the range that differs is written, after
-    /// room for it was reserved, and it is written to its end even if the program is killed meanwhile. Throws
-    /// IOException, with the old content back in place, when any step fails.
+    /// Replaces the content by `text` and flushes it to disk. Only the range that differs is written, after space was
+    /// reserved, and the write is completed even if the program is killed meanwhile. Throws IOException on failure; the
+    /// old content is then restored as far as the disk allows, unless just the last step (folder entry, close) fails.
     void replace(const std::string& text);
 
 private:
@@ -81,25 +81,27 @@ private:
     bool made_;
 };
 
-/// Makes `text` the content of a file, which is made where there is none. Throws IOException when the file can't be
-/// had, or when writing fails; it then holds what it held before.
+/// Replaces the content of a file by `text`; creates the file if there is none. Throws IOException when it can't be
+/// opened, and as Replacement::replace does.
 void write(const std::string& path, const std::string& text);
 
-/// Holds a folder for this program as long as it lives. Ends with the process, however that ends.
-class FolderClaim {
+/// An exclusive lock (flock) on a folder while this object lives. If the process is killed, the lock ends with it, or
+/// with its writer process if that is still saving.
+class FolderLock {
 public:
-    /// Null when another process holds the folder for 0.4 seconds more. A disk that knows no claims gives it to all.
-    [[nodiscard]] static std::unique_ptr<FolderClaim> take(const std::string& path);
+    /// Null when another process keeps the lock for 0.4 seconds. Not null, but without a lock, when the folder can't be
+    /// opened or its file system has no locks.
+    [[nodiscard]] static std::unique_ptr<FolderLock> acquire(const std::string& path);
 
     /// Whether that path leads to the folder that is held, by whatever way.
-    bool isOn(const std::string& path) const;
+    bool holds(const std::string& path) const;
 
-    FolderClaim(const FolderClaim&) = delete;
-    FolderClaim& operator=(const FolderClaim&) = delete;
-    ~FolderClaim();
+    FolderLock(const FolderLock&) = delete;
+    FolderLock& operator=(const FolderLock&) = delete;
+    ~FolderLock();
 
 private:
-    explicit FolderClaim(int file);
+    explicit FolderLock(int file);
 
     int file_;
 };

@@ -322,9 +322,9 @@ void write(const std::string& path, const std::string& text) {
     file->replace(text);
 }
 
-FolderClaim::FolderClaim(int file) : file_(file) {}
+FolderLock::FolderLock(int file) : file_(file) {}
 
-std::unique_ptr<FolderClaim> FolderClaim::take(const std::string& path) {
+std::unique_ptr<FolderLock> FolderLock::acquire(const std::string& path) {
     // The writer of a program that was killed holds the folder for moments more.
     constexpr int mostTries = 20;
     constexpr useconds_t pauseMicroseconds = 20'000;
@@ -336,17 +336,17 @@ std::unique_ptr<FolderClaim> FolderClaim::take(const std::string& path) {
         }
         ::usleep(pauseMicroseconds);
     }
-    return std::unique_ptr<FolderClaim>(new FolderClaim(folder));
+    return std::unique_ptr<FolderLock>(new FolderLock(folder));
 }
 
-bool FolderClaim::isOn(const std::string& path) const {
+bool FolderLock::holds(const std::string& path) const {
     struct stat held {};
     struct stat other {};
     return ::fstat(file_, &held) == 0 && ::stat(path.c_str(), &other) == 0 && held.st_dev == other.st_dev &&
            held.st_ino == other.st_ino;
 }
 
-FolderClaim::~FolderClaim() {
+FolderLock::~FolderLock() {
     if (file_ >= 0)
         ::close(file_);
 }

@@ -12,7 +12,7 @@
 
 namespace tallyvane {
 
-/// Takes a text together.
+/// Collects a text in memory.
 class TextWriter {
 public:
     void Write(std::string_view text) { text_ += text; }
@@ -25,7 +25,7 @@ private:
     std::string text_;
 };
 
-/// Takes a text together and replaces a file by it on Close. A stream that goes without Close leaves the file alone.
+/// Collects a text in memory and replaces a file by it on Close. Destroyed without Close, it leaves the file unchanged.
 class TextOutputStream : public TextWriter {
 public:
     /// Empty for what is no plain file or can't be opened for writing.

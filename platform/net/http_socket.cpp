@@ -3,7 +3,7 @@
 namespace tallyvane {
 
 void HTTPSocket::Get(const std::string& address, const FolderItem& file) {
-    download_ = Downloads::inUse().start(address, file.AbsolutePath(), [this, address, file](int status) {
+    download_ = Downloads::current().start(address, file.AbsolutePath(), [this, address, file](int status) {
         Event_DownloadComplete(address, status, file);
     });
 }

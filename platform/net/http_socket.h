@@ -9,7 +9,7 @@
 
 namespace tallyvane {
 
-/// A fetch that is going on. It ends without a word when this goes.
+/// A running download. Destroying it cancels it; `done` is then not called.
 class Download {
 public:
     Download() = default;

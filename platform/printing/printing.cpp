@@ -19,7 +19,7 @@ int PrinterSetup::HorizontalResolution() const {
 std::unique_ptr<Graphics> OpenPrinterDialog(const PrinterSetup* setup, const std::string& pdfName) {
     const Paper* paper = setup == nullptr ? nullptr : setup->paper();
     const int resolution = setup == nullptr ? pointsAnInch : setup->HorizontalResolution();
-    return Printers::inUse().openDialog(paper, resolution, pdfName);
+    return Printers::current().openDialog(paper, resolution, pdfName);
 }
 
 std::unique_ptr<Graphics> askForPages(PrinterSetup& setup) {

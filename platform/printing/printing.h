@@ -62,7 +62,7 @@ public:
     const Paper* paper() const { return paper_.get(); }
 
 private:
-    std::unique_ptr<Paper> paper_ = Printers::inUse().makePaper();
+    std::unique_ptr<Paper> paper_ = Printers::current().makePaper();
 };
 
 /// Shows the print dialog; without a set-up the paper is the printer's own, and counts in points. Null when the user

@@ -20,7 +20,7 @@ CalendarPeer::CalendarPeer(CalendarControl& calendar, QWidget* parent) : Peer(ca
     setWeekdayTextFormat(Qt::Saturday, weekend);
     setWeekdayTextFormat(Qt::Sunday, weekend);
     reachIntoParts();
-    bringAll();
+    applyAll();
     connect(this, &QCalendarWidget::selectionChanged, this, [this] {
         if (control_ != nullptr)
             control_->SelectedDate(fromQt(selectedDate()));
@@ -67,7 +67,7 @@ bool CalendarPeer::eventFilter(QObject* watched, QEvent* event) {
     return true;
 }
 
-void CalendarPeer::bring(Property property) {
+void CalendarPeer::apply(Property property) {
     if (property != Property::value)
         return;
     const QDate date = toQt(control_->SelectedDate());

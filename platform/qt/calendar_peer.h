@@ -14,7 +14,7 @@ public:
     CalendarPeer(CalendarControl& calendar, QWidget* parent);
 
 protected:
-    void bring(Property property) override;
+    void apply(Property property) override;
     void resizeEvent(QResizeEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -30,7 +30,7 @@ QString styleOf(const ListColors& list) {
 
 CellEditor::CellEditor(Listbox& list, QWidget* parent) : Peer(list.ActiveCell(), parent), list_(&list) {
     setStyleSheet(styleOf(list.Colors()));
-    setMaxLength(std::numeric_limits<int>::max()); // Qt's own limit would cut a text without a word
+    setMaxLength(std::numeric_limits<int>::max()); // Qt's default limit would truncate a long text silently
     hide();
     connect(this, &QLineEdit::textEdited, this, [this] { textTyped(); });
     connect(this, &QLineEdit::selectionChanged, this, [this] { selectionMoved(); });
@@ -42,9 +42,9 @@ void CellEditor::detach() {
     Peer::detach();
 }
 
-void CellEditor::controlGone() {
+void CellEditor::controlDestroyed() {
     list_ = nullptr;
-    Peer::controlGone();
+    Peer::controlDestroyed();
 }
 
 void CellEditor::controlChanged(Property property) {

@@ -13,7 +13,7 @@ public:
     CellEditor(Listbox& list, QWidget* parent);
 
     void detach() override;
-    void controlGone() override;
+    void controlDestroyed() override;
     /// Text and selection alone; the list's peer shows and hides the field.
     void controlChanged(Property property) override;
 

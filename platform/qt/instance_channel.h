@@ -8,13 +8,13 @@
 
 namespace tallyvane {
 
-/// The line between a running program and a second start of it by the same user on the same data.
+/// Sends a message from a second instance of the program to the running one of the same user and data.
 class InstanceChannel {
 public:
     /// Whenever a second start calls, `onCall` is raised with what it says. Only for the program that holds the
     /// application's folder.
     void listen(std::function<void(const std::string& message)> onCall);
-    /// Calls the running program; returns when it has been reached, or can't be.
+    /// Sends a message to the running instance. Gives up silently when it can't be reached; waits 4 seconds at most.
     void call(const std::string& message);
 
 private:

@@ -1,4 +1,4 @@
-/// How a list looks: its colours, letters and widths, and the painting of its cells.
+/// How a list looks: its colours, fonts and widths, and the painting of its cells.
 #include <QApplication>
 #include <QHeaderView>
 #include <QPainter>
@@ -14,7 +14,7 @@ namespace tallyvane {
 namespace {
 
 constexpr int headingHeight = 19;
-constexpr int headingLetters = 12;
+constexpr int headingFontPixels = 12;
 constexpr int scrollBarWidth = 15;
 constexpr int textMargin = 6;
 constexpr int pictureWidth = 16;
@@ -65,19 +65,19 @@ void ListboxPeer::setUpLook() {
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setHighlightSections(false);
     QFont headings = font();
-    headings.setPixelSize(headingLetters);
+    headings.setPixelSize(headingFontPixels);
     horizontalHeader()->setFont(headings);
 }
 
-void ListboxPeer::setLetters() {
-    QFont letters = QApplication::font();
+void ListboxPeer::setListFont() {
+    QFont listFont = QApplication::font();
     if (const std::string& family = control_->TextFont(); family != "System")
-        letters.setFamily(tallyvane::toQt(family));
-    letters.setPixelSize(control_->TextSize());
-    if (letters == font())
+        listFont.setFamily(tallyvane::toQt(family));
+    listFont.setPixelSize(control_->TextSize());
+    if (listFont == font())
         return;
-    setFont(letters);
-    editor_->setFont(letters);
+    setFont(listFont);
+    editor_->setFont(listFont);
 }
 
 /// A heading as far as its column has room for it; dots at the end stand for the rest.
@@ -89,11 +89,11 @@ QString ListboxPeer::shownHeading(int column, const QString& heading) const {
 bool ListboxPeer::isCellCut(int row, int column) const {
     const int picture = column == 0 && control_->RowPicture(row) ? pictureWidth + textMargin : 0;
     const QString whole = tallyvane::toQt(Left(control_->Cell(row, column), mostCharacters));
-    return QFontMetrics(letters(row, column)).horizontalAdvance(whole) > columnWidth(column) - 2 * textMargin - picture;
+    return QFontMetrics(fontOfCell(row, column)).horizontalAdvance(whole) >
+           columnWidth(column) - 2 * textMargin - picture;
 }
 
-/// The letters of a cell, as its style sets them off.
-QFont ListboxPeer::letters(int row, int column) const {
+QFont ListboxPeer::fontOfCell(int row, int column) const {
     const TextStyle style = control_->styleOf(row, column);
     QFont cellFont = font();
     cellFont.setBold(style.bold);
@@ -159,7 +159,7 @@ void ListboxPeer::drawText(QPainter& painter, const QRect& area, int row, int co
     if (drawn)
         return;
     painter.setPen(tallyvane::toQt(g.ForeColor()));
-    const QFont cellFont = letters(row, column);
+    const QFont cellFont = fontOfCell(row, column);
     painter.setFont(cellFont);
     QRect place = inner.translated(-area.topLeft());
     if (const auto picture = column == 0 ? control_->RowPicture(row) : std::nullopt) {

@@ -76,31 +76,31 @@ Qt::ItemFlags ListboxModel::flags(const QModelIndex& /*index*/) const {
     return Qt::ItemIsSelectable | Qt::ItemIsEnabled;
 }
 
-void ListboxModel::tellRowAdded(int row) {
+void ListboxModel::notifyRowAdded(int row) {
     beginInsertRows({}, row, row);
     ++rows_;
     endInsertRows();
 }
 
-void ListboxModel::tellRowRemoved(int row) {
+void ListboxModel::notifyRowRemoved(int row) {
     beginRemoveRows({}, row, row);
     --rows_;
     endRemoveRows();
 }
 
-void ListboxModel::tellRowsReplaced() {
+void ListboxModel::notifyRowsReplaced() {
     beginResetModel();
     rows_ = list_.ListCount();
     endResetModel();
 }
 
-void ListboxModel::tellCellChanged(int row, int column) {
+void ListboxModel::notifyCellChanged(int row, int column) {
     const QModelIndex cell = index(row, column);
     if (cell.isValid())
         Q_EMIT dataChanged(cell, cell);
 }
 
-void ListboxModel::tellColumnsChanged() {
+void ListboxModel::notifyColumnsChanged() {
     std::vector<int> widths = widthsOf(list_);
     const bool reset = widths.size() != widths_.size();
     if (reset)

@@ -8,8 +8,8 @@
 
 namespace tallyvane {
 
-/// The cells of a list as Qt's views and its accessibility ask for them. Nothing is kept here but the numbers of
-/// rows and columns that the views have been told of.
+/// Qt's item model of a list. It stores no cells, only the row count and the column widths that the views were last
+/// notified of.
 class ListboxModel : public QAbstractTableModel {
 public:
     ListboxModel(const Listbox& list, QObject* parent);
@@ -20,12 +20,12 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
-    void tellRowAdded(int row);
-    void tellRowRemoved(int row);
-    void tellRowsReplaced();
-    void tellCellChanged(int row, int column);
+    void notifyRowAdded(int row);
+    void notifyRowRemoved(int row);
+    void notifyRowsReplaced();
+    void notifyCellChanged(int row, int column);
     /// Widths, their number and the headings.
-    void tellColumnsChanged();
+    void notifyColumnsChanged();
     /// What shows of a heading. One that does not show whole has a tool tip.
     std::function<QString(int column, const QString& heading)> shownHeading;
     /// Whether a text does not show whole. It has a tool tip then, if there is no other for its cell.

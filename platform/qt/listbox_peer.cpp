@@ -23,7 +23,7 @@ namespace tallyvane {
 ListboxPeer::ListboxPeer(Listbox& list, QWidget* parent)
     : Peer(list, parent), model_(new ListboxModel(list, this)), editor_(new CellEditor(list, viewport())) {
     {
-        const QScopedValueRollback bringing(bringingSelection_, true); // a new model clears the view's selection
+        const QScopedValueRollback applying(applyingSelection_, true); // a new model clears the view's selection
         setModel(model_);
     }
     setUpLook();
@@ -40,7 +40,7 @@ ListboxPeer::ListboxPeer(Listbox& list, QWidget* parent)
     };
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this, press);
     connect(horizontalHeader(), &QHeaderView::sectionDoubleClicked, this, press); // the second of two quick clicks
-    bringAll();
+    applyAll();
     selectionChanged();
 }
 
@@ -50,11 +50,11 @@ void ListboxPeer::detach() {
     setModel(nullptr); // it reads the list
 }
 
-void ListboxPeer::bring(Property property) {
+void ListboxPeer::apply(Property property) {
     if (property == Property::appearance)
-        bringAppearance();
+        applyAppearance();
     else if (property == Property::columns)
-        bringColumns();
+        applyColumns();
     else
         return;
     fitLastColumn();
@@ -62,51 +62,51 @@ void ListboxPeer::bring(Property property) {
     placeEditor();
 }
 
-void ListboxPeer::bringAppearance() {
+void ListboxPeer::applyAppearance() {
     const bool several = control_->SelectionType() == Listbox::SelectionTypes::multiple;
     setSelectionMode(several ? ExtendedSelection : SingleSelection);
     verticalHeader()->setDefaultSectionSize(control_->DefaultRowHeight());
-    setLetters();
+    setListFont();
     setFrameShape(control_->Border() ? StyledPanel : NoFrame);
 }
 
-void ListboxPeer::bringColumns() {
+void ListboxPeer::applyColumns() {
     horizontalHeader()->setVisible(control_->HasHeading());
-    model_->tellColumnsChanged();
+    model_->notifyColumnsChanged();
     const std::vector<int>& widths = model_->widths();
     for (std::size_t column = 0; column < widths.size(); ++column)
         horizontalHeader()->resizeSection(static_cast<int>(column), widths[column]);
 }
 
-// News of the list
+// Notifications from the list
 
 void ListboxPeer::rowAdded(int row) {
-    const QScopedValueRollback bringing(bringingSelection_, true);
-    model_->tellRowAdded(row);
+    const QScopedValueRollback applying(applyingSelection_, true);
+    model_->notifyRowAdded(row);
 }
 
 void ListboxPeer::rowRemoved(int row) {
-    const QScopedValueRollback bringing(bringingSelection_, true);
-    model_->tellRowRemoved(row);
+    const QScopedValueRollback applying(applyingSelection_, true);
+    model_->notifyRowRemoved(row);
 }
 
 void ListboxPeer::rowsReplaced() {
     {
-        const QScopedValueRollback bringing(bringingSelection_, true);
+        const QScopedValueRollback applying(applyingSelection_, true);
         const int scrolled = verticalScrollBar()->value();
         const QModelIndex current = currentIndex();
         const int column = std::max(0, current.column());
         const int row = control_->SelectedCount() > 0 ? control_->ListIndex() : current.row();
-        model_->tellRowsReplaced();
+        model_->notifyRowsReplaced();
         const int nearest = std::min(row, model_->rowCount() - 1);
         selectionModel()->setCurrentIndex(model_->index(nearest, column), QItemSelectionModel::NoUpdate);
         verticalScrollBar()->setValue(scrolled);
     }
-    bringSelection();
+    applySelection();
 }
 
 void ListboxPeer::cellChanged(int row, int column) {
-    model_->tellCellChanged(row, column);
+    model_->notifyCellChanged(row, column);
     if (row != control_->openRow() || column != control_->openColumn())
         return;
     scrollTo(model_->index(row, column)); // typed out of sight
@@ -114,7 +114,7 @@ void ListboxPeer::cellChanged(int row, int column) {
 }
 
 void ListboxPeer::selectionChanged() {
-    bringSelection();
+    applySelection();
     if (!userSelects_ && control_->SelectedCount() > 0 && !control_->Selected(currentIndex().row())) {
         // The keys of the list are for what is marked, not for where the user has been before.
         const QModelIndex first = model_->index(control_->ListIndex(), std::max(0, currentIndex().column()));
@@ -124,8 +124,8 @@ void ListboxPeer::selectionChanged() {
         scrollTo(model_->index(control_->ListIndex(), std::max(0, currentIndex().column())));
 }
 
-void ListboxPeer::bringSelection() {
-    const QScopedValueRollback bringing(bringingSelection_, true);
+void ListboxPeer::applySelection() {
+    const QScopedValueRollback applying(applyingSelection_, true);
     QItemSelection rows;
     for (int row = 0; row < control_->ListCount(); ++row) {
         const int first = row;
@@ -138,7 +138,7 @@ void ListboxPeer::bringSelection() {
     viewport()->update();
 }
 
-void ListboxPeer::hintGiven(const std::string& hint) {
+void ListboxPeer::showHint(const std::string& hint) {
     editor_->setAccessibleDescription(tallyvane::toQt(hint));
     QToolTip::showText(editor_->mapToGlobal(editor_->rect().bottomLeft()), tallyvane::toQt(hint), viewport());
 }
@@ -184,7 +184,7 @@ void ListboxPeer::placeEditor() {
 
 void ListboxPeer::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
     QTableView::selectionChanged(selected, deselected);
-    if (control_ == nullptr || bringingSelection_)
+    if (control_ == nullptr || applyingSelection_)
         return;
     std::vector<bool> rows(static_cast<std::size_t>(control_->ListCount()));
     for (const QItemSelectionRange& range : selectionModel()->selection())
@@ -341,7 +341,7 @@ void ListboxPeer::pressKey(int key, const QModelIndex& cell) {
         click(cell, QPoint());
 }
 
-/// The columns stay under their group labels and over their averages, whatever their widths.
+/// No horizontal scrolling: the columns stay aligned with the labels above the list and the averages below it.
 void ListboxPeer::updateGeometries() {
     QTableView::updateGeometries();
     horizontalScrollBar()->setRange(0, 0);

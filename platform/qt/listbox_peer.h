@@ -23,7 +23,7 @@ public:
     void cellChanged(int row, int column) override;
     void selectionChanged() override;
     void openCellChanged() override;
-    void hintGiven(const std::string& hint) override;
+    void showHint(const std::string& hint) override;
     void bringIntoView(int row) override;
     void repaintControl() override { viewport()->update(); }
 
@@ -37,7 +37,7 @@ public:
     void paintCell(QPainter& painter, const QRect& area, int row, int column);
 
 protected:
-    void bring(Property property) override;
+    void apply(Property property) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -52,22 +52,22 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
-    /// Tells what a doubtful text counts as, to those who see it and use no pointer.
+    /// Shows a cell's tool tip (what a doubtful text counts as) also when the keyboard enters or leaves the cell.
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     /// Ctrl+Shift+Home and Ctrl+Shift+End select the rows up to the first and last; Qt alone only goes there.
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
 
 private:
     void setUpLook();
-    void bringAppearance();
-    void bringColumns();
-    void setLetters();
+    void applyAppearance();
+    void applyColumns();
+    void setListFont();
     void fitLastColumn();
     QString shownHeading(int column, const QString& heading) const;
     bool isCellCut(int row, int column) const;
-    QFont letters(int row, int column) const;
+    QFont fontOfCell(int row, int column) const;
     Qt::Alignment alignmentOf(int column) const;
-    void bringSelection();
+    void applySelection();
     void click(const QModelIndex& cell, const QPoint& place);
     void commandClick(const QModelIndex& cell);
     bool takesDrop(QDropEvent& event) const;
@@ -83,7 +83,7 @@ private:
     CellEditor* editor_;
     QModelIndex pressed_;
     bool pressedWithCommand_ = false;
-    bool bringingSelection_ = false; // from the list to the view, not the other way
+    bool applyingSelection_ = false; // from the list to the view, not the other way
     bool userSelects_ = false;
 };
 

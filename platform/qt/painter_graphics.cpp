@@ -41,6 +41,9 @@ void PainterGraphics::fill(const QRectF& rect, QColor color) {
 }
 
 void PainterGraphics::DrawLine(double x1, double y1, double x2, double y2) {
+    for (const double place : {x1, y1, x2, y2})
+        if (std::isnan(place))
+            return;
     const QPointF from(reachable(x1), reachable(y1));
     const QPointF to(reachable(x2), reachable(y2));
     const QPointF pen(PenWidth(), PenHeight());

@@ -13,7 +13,7 @@ public:
     virtual ~WidgetPeer() = default;
     virtual QWidget* widget() = 0;
     /// Whether the page that the control stands on is in front.
-    virtual void standInFront(bool inFront) = 0;
+    virtual void setOnFrontPage(bool inFront) = 0;
     /// Cuts the tie to the control, for good: the window is being closed, the widget goes a little later.
     virtual void detach() = 0;
 };
@@ -33,18 +33,18 @@ public:
         control_ = nullptr;
     }
 
-    void standInFront(bool inFront) override {
-        inFront_ = inFront;
+    void setOnFrontPage(bool inFront) override {
+        onFrontPage_ = inFront;
         if (control_ != nullptr)
-            Widget::setVisible(control_->Visible() && inFront_);
+            Widget::setVisible(control_->Visible() && onFrontPage_);
     }
 
-    void controlGone() override { control_ = nullptr; }
+    void controlDestroyed() override { control_ = nullptr; }
     void takeFocus() override { Widget::setFocus(Qt::OtherFocusReason); }
     void controlChanged(Property property) override {
         switch (property) {
         case Property::visible:
-            Widget::setVisible(control_->Visible() && inFront_);
+            Widget::setVisible(control_->Visible() && onFrontPage_);
             break;
         case Property::enabled:
             Widget::setEnabled(control_->Enabled());
@@ -53,31 +53,31 @@ public:
             Widget::setToolTip(helpTag());
             break;
         case Property::accessibleName:
-            Widget::setAccessibleName(nameToRead());
+            Widget::setAccessibleName(screenReaderName());
             break;
         default:
-            bring(property);
+            apply(property);
         }
     }
     void repaintControl() override { Widget::update(); }
 
 protected:
     /// Brings every property to the new widget.
-    void bringAll() {
+    void applyAll() {
         for (int property = 0; property <= static_cast<int>(lastProperty); ++property)
             controlChanged(static_cast<Property>(property));
     }
-    /// Brings one of the control's own properties to the widget.
-    virtual void bring(Property /*property*/) {}
+    /// Shows the new value of one property on the widget.
+    virtual void apply(Property /*property*/) {}
     /// The line that shows while the pointer rests here.
     virtual QString helpTag() const { return toQt(control_->HelpTag()); }
     /// What a screen reader calls the control.
-    virtual QString nameToRead() const { return toQt(control_->AccessibleName()); }
+    virtual QString screenReaderName() const { return toQt(control_->AccessibleName()); }
 
     ControlType* control_;
 
 private:
-    bool inFront_ = true;
+    bool onFrontPage_ = true;
 };
 
 } // namespace tallyvane

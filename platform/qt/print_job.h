@@ -20,8 +20,8 @@ public:
 
     double width() const override { return layout_.paintRect(QPageLayout::Point).width(); }
     double height() const override { return layout_.paintRect(QPageLayout::Point).height(); }
-    /// What is drawn is as fine as the printer has it, whatever is counted in. Distances that are told in dots, such as
-    /// that of a graph's ticks, need dots that can be seen.
+    /// Units per inch, not the printer's real resolution, at which everything is drawn. 96, since distances fixed in
+    /// units, such as 20 between a chart's ticks, must stay readable.
     int resolution() const override { return 96; }
     bool ask() override;
 

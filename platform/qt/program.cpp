@@ -13,8 +13,8 @@
 #include "platform/files/folder_item.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/event_guard.h"
+#include "platform/qt/font_scale.h"
 #include "platform/qt/instance_channel.h"
-#include "platform/qt/letter_scale.h"
 #include "platform/qt/pictures.h"
 #include "platform/qt/qt_toolkit.h"
 #include "platform/qt/unix_signals.h"
@@ -26,7 +26,7 @@ namespace {
 std::optional<FolderItem> folderAt(const QString& path) { return GetFolderItem(QFile::encodeName(path).toStdString()); }
 
 /// The desktop's folders. That for application data is made on a new account that has none yet.
-void settleFolders() {
+void setUpFolders() {
     const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     static_cast<void>(QDir().mkpath(data)); // without it the diary runs, and has nowhere to save
     SpecialFolder::ApplicationData = folderAt(data);
@@ -38,7 +38,7 @@ void settleFolders() {
     SpecialFolder::State = folderAt(isUsable ? state : QDir::home().filePath(QStringLiteral(".local/state")));
 }
 
-void settleDateForm() {
+void setUpDateFormats() {
     const QLocale locale = QLocale::system();
     DateSource::setShortPattern(fromQt(locale.dateFormat(QLocale::ShortFormat)));
     // The long form of a time names its zone, which a moment on the wall clock does not have.
@@ -66,7 +66,7 @@ QtProgram* inEventLoop = nullptr;
 
 void saveAtExit() {
     if (QtProgram* program = std::exchange(inEventLoop, nullptr)) {
-        QtToolkit::takeOutOfUse();
+        QtToolkit::uninstall();
         deliver(program->onDisplayLost);
     }
 }
@@ -75,11 +75,11 @@ void saveAtExit() {
 
 struct QtProgram::Parts {
     Parts(int& argc, char** argv, const Rect& largestWindow)
-        : letterScale(argc, argv, {largestWindow.width, largestWindow.height}), application(argc, argv) {
-        letterScale.settle();
+        : fontScale(argc, argv, {largestWindow.width, largestWindow.height}), application(argc, argv) {
+        fontScale.apply();
     }
 
-    LetterScale letterScale;
+    FontScale fontScale;
     QApplication application;
     QtToolkit toolkit;
     InstanceChannel channel;
@@ -93,8 +93,8 @@ QtProgram::QtProgram(int& argc, char** argv, const Rect& largestWindow)
     QApplication::setDesktopFileName(QStringLiteral("tallyvane"));
     QApplication::setWindowIcon(loadPicture("vaneLogo128.png").icon);
     QApplication::setQuitOnLastWindowClosed(false);
-    settleFolders();
-    settleDateForm();
+    setUpFolders();
+    setUpDateFormats();
     parts_->unixSignals = std::make_unique<UnixSignals>([this] { deliver(onEndRequested); });
     QObject::connect(&application, &QGuiApplication::applicationStateChanged, &application,
                      [this](Qt::ApplicationState state) {

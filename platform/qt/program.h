@@ -8,8 +8,8 @@
 
 namespace tallyvane {
 
-/// The program's process on Qt: event loop, folders and date form of the desktop, signals, and the line to a second
-/// start. No Qt shows in this header, so that whoever joins the rooms needs none.
+/// The process on Qt: event loop, folders and date formats of the desktop, signals, and messages from a second
+/// instance. This header includes no Qt header, so that shell/ compiles without Qt.
 class QtProgram {
 public:
     /// The size of the largest window, in points: on a desktop of large letters the windows grow as far as it fits.

@@ -13,7 +13,7 @@ namespace tallyvane {
 namespace {
 
 /// Gives a PDF the ending that the user has not typed. False when a file of that name is to stay.
-bool settlePdfName(QPrinter& printer) {
+bool addPdfEnding(QPrinter& printer) {
     if (printer.outputFormat() != QPrinter::PdfFormat || printer.outputFileName().isEmpty())
         return true;
     const std::string typed = QFile::encodeName(printer.outputFileName()).toStdString();
@@ -40,7 +40,7 @@ std::unique_ptr<Graphics> QtPrinters::openDialog(const Paper* paper, int resolut
     do
         if (dialog.exec() != QDialog::Accepted)
             return nullptr;
-    while (!settlePdfName(*printer));
+    while (!addPdfEnding(*printer));
     return PrintJob::begin(std::move(printer), resolution);
 }
 

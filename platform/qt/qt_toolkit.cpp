@@ -14,7 +14,7 @@ QtToolkit::QtToolkit() {
     WindowSystem::use(&windowSystem);
 }
 
-void QtToolkit::takeOutOfUse() {
+void QtToolkit::uninstall() {
     Desktop::use(nullptr);
     Bitmaps::use(nullptr);
     FileDialogs::use(nullptr);

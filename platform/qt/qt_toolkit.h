@@ -9,17 +9,17 @@
 
 namespace tallyvane {
 
-/// Every service of the desktop by Qt. They are in use as long as this lives, which lies within the life of a
-/// QApplication.
+/// The Qt implementation of every service, installed while this object lives. Make it after the QApplication and
+/// destroy it before.
 class QtToolkit {
 public:
     QtToolkit();
     QtToolkit(const QtToolkit&) = delete;
     QtToolkit& operator=(const QtToolkit&) = delete;
-    ~QtToolkit() { takeOutOfUse(); }
+    ~QtToolkit() { uninstall(); }
 
     /// From here on the program works unseen.
-    static void takeOutOfUse();
+    static void uninstall();
 
     QtDesktop desktop;
     QtBitmaps bitmaps;

@@ -16,7 +16,7 @@ namespace {
 
 constexpr double degreesARadian = 180 / std::numbers::pi;
 
-QColor seenThrough(Color color, float percent) {
+QColor withOpacity(Color color, float percent) {
     QColor result = toQt(color);
     result.setAlphaF(std::clamp(percent, 0.0F, 100.0F) / 100.0F);
     return result;
@@ -24,7 +24,7 @@ QColor seenThrough(Color color, float percent) {
 
 /// Calls `draw` with the painter's origin at a place, turned by an angle, and takes the painter back.
 template <class Draw>
-void turned(QPainter& painter, QPointF place, double radians, Draw draw) {
+void drawRotated(QPainter& painter, QPointF place, double radians, Draw draw) {
     const QTransform before = painter.worldTransform();
     painter.translate(place);
     painter.rotate(radians * degreesARadian);
@@ -32,13 +32,13 @@ void turned(QPainter& painter, QPointF place, double radians, Draw draw) {
     painter.setWorldTransform(before);
 }
 
-void ink(QPainter& painter, const OutlinedShape& shape) {
-    painter.setBrush(shape.Fill > 0 ? QBrush(seenThrough(shape.FillColor, shape.Fill)) : QBrush(Qt::NoBrush));
+void setPenAndBrush(QPainter& painter, const OutlinedShape& shape) {
+    painter.setBrush(shape.Fill > 0 ? QBrush(withOpacity(shape.FillColor, shape.Fill)) : QBrush(Qt::NoBrush));
     painter.setPen(outlinePen(shape, painter));
 }
 
 /// Cuts a line at two places of its first coordinate, a. False when nothing lies between them.
-bool cut(double& a1, double& b1, double& a2, double& b2, double low, double high) {
+bool clipLine(double& a1, double& b1, double& a2, double& b2, double low, double high) {
     if (std::max(a1, a2) < low || std::min(a1, a2) > high)
         return false;
     const double slope = (b2 - b1) / (a2 - a1);
@@ -73,7 +73,7 @@ QPen outlinePen(const OutlinedShape& shape, const QPainter& painter) {
     // those of thick lines stick out where a line bends.
     const bool isSquare = paintsPixels(painter) && !isThick(shape.BorderWidth, painter);
     const Qt::PenCapStyle cap = isSquare ? Qt::SquareCap : Qt::RoundCap;
-    return {seenThrough(shape.BorderColor, shape.Border), shape.BorderWidth, Qt::SolidLine, cap, Qt::MiterJoin};
+    return {withOpacity(shape.BorderColor, shape.Border), shape.BorderWidth, Qt::SolidLine, cap, Qt::MiterJoin};
 }
 
 bool paintsPixels(const QPainter& painter) { return painter.paintEngine()->type() == QPaintEngine::Raster; }
@@ -97,8 +97,8 @@ std::optional<QLineF> ShapePainter::visiblePart(const CurveShape& curve) const {
     double x2 = origin_.x() + curve.X2;
     double y2 = origin_.y() + curve.Y2;
     if (!visible_.contains(QPointF(x1, y1)) || !visible_.contains(QPointF(x2, y2))) {
-        if (!std::isfinite(x1 + y1 + x2 + y2) || !cut(x1, y1, x2, y2, visible_.left(), visible_.right()) ||
-            !cut(y1, x1, y2, x2, visible_.top(), visible_.bottom()))
+        if (!std::isfinite(x1 + y1 + x2 + y2) || !clipLine(x1, y1, x2, y2, visible_.left(), visible_.right()) ||
+            !clipLine(y1, x1, y2, x2, visible_.top(), visible_.bottom()))
             return std::nullopt;
     }
     return QLineF(x1, y1, x2, y2);
@@ -120,19 +120,20 @@ QPointF ShapePainter::placeOf(const ShapeBase& shape) const {
 void ShapePainter::operator()(const RectShape& rect) {
     if (!isVisible(rect, reachOf(rect)))
         return;
-    ink(painter_, rect);
-    turned(painter_, placeOf(rect), rect.Rotation, [&] { painter_.drawRect(around({}, rect.Width, rect.Height)); });
+    setPenAndBrush(painter_, rect);
+    drawRotated(painter_, placeOf(rect), rect.Rotation,
+                [&] { painter_.drawRect(around({}, rect.Width, rect.Height)); });
 }
 
 void ShapePainter::operator()(const OvalShape& oval) {
     if (!isVisible(oval, reachOf(oval)))
         return;
-    ink(painter_, oval);
+    setPenAndBrush(painter_, oval);
     if (oval.Rotation == 0)
         painter_.drawEllipse(around(placeOf(oval), oval.Width, oval.Height));
     else
-        turned(painter_, placeOf(oval), oval.Rotation,
-               [&] { painter_.drawEllipse(around({}, oval.Width, oval.Height)); });
+        drawRotated(painter_, placeOf(oval), oval.Rotation,
+                    [&] { painter_.drawEllipse(around({}, oval.Width, oval.Height)); });
 }
 
 void ShapePainter::operator()(const ArcShape& arc) {
@@ -142,14 +143,14 @@ void ShapePainter::operator()(const ArcShape& arc) {
     QPainterPath slice;
     slice.arcTo(around({}, arc.Width, arc.Height), start, std::clamp(extent, -360.0, 360.0));
     slice.closeSubpath();
-    ink(painter_, arc);
-    turned(painter_, placeOf(arc), arc.Rotation, [&] { painter_.drawPath(slice); });
+    setPenAndBrush(painter_, arc);
+    drawRotated(painter_, placeOf(arc), arc.Rotation, [&] { painter_.drawPath(slice); });
 }
 
 void ShapePainter::operator()(const CurveShape& curve) {
     painter_.setPen(outlinePen(curve, painter_));
     if (curve.Rotation != 0)
-        turned(painter_, placeOf(curve), curve.Rotation, [&] {
+        drawRotated(painter_, placeOf(curve), curve.Rotation, [&] {
             painter_.drawLine(QPointF(0, 0), QPointF(reachable(curve.X2 - curve.X), reachable(curve.Y2 - curve.Y)));
         });
     else if (const auto line = visiblePart(curve))
@@ -168,16 +169,16 @@ void ShapePainter::operator()(const FigureShape& figure) {
         add(side.x1, side.y1);
         add(side.x2, side.y2);
     }
-    ink(painter_, figure);
-    turned(painter_, placeOf(figure), figure.Rotation, [&] { painter_.drawPolygon(outline); });
+    setPenAndBrush(painter_, figure);
+    drawRotated(painter_, placeOf(figure), figure.Rotation, [&] { painter_.drawPolygon(outline); });
 }
 
 void ShapePainter::operator()(const StringShape& string) {
     const QString text = toQt(string.Text);
     const double width = font_.metrics(string.TextFont, string.TextSize).horizontalAdvance(text);
     painter_.setFont(font_.font(string.TextFont, string.TextSize));
-    painter_.setPen(seenThrough(string.FillColor, string.Fill));
-    turned(painter_, placeOf(string), string.Rotation, [&] { painter_.drawText(QPointF(-width / 2, 0), text); });
+    painter_.setPen(withOpacity(string.FillColor, string.Fill));
+    drawRotated(painter_, placeOf(string), string.Rotation, [&] { painter_.drawText(QPointF(-width / 2, 0), text); });
 }
 
 } // namespace tallyvane

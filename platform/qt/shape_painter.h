@@ -10,7 +10,7 @@
 
 namespace tallyvane {
 
-/// A place that Qt can paint: one that is too far for it, or no number, is brought to where nobody sees it.
+/// A coordinate clamped to the range that Qt can paint, -1e6 to 1e6; NaN becomes -1e6.
 double reachable(double place);
 
 /// Paints shapes one by one in their order, all moved by one origin: the way for paper, and the measure for every

@@ -10,8 +10,8 @@ namespace {
 /// The one colour of a symbol that has no more than one, and lets nothing shine through.
 template <class Shape>
 std::optional<Color> onlyColor(const Shape& shape) {
-    const auto halfSeen = [](float percent) { return percent > 0 && percent < 100; };
-    if (halfSeen(shape.Fill) || halfSeen(shape.Border))
+    const auto isTranslucent = [](float percent) { return percent > 0 && percent < 100; };
+    if (isTranslucent(shape.Fill) || isTranslucent(shape.Border))
         return std::nullopt;
     if (shape.Fill > 0 && shape.Border > 0 && shape.FillColor != shape.BorderColor)
         return std::nullopt;
@@ -42,13 +42,13 @@ void ShapeRuns::paint(const Group2D& shapes) {
 
 void ShapeRuns::operator()(const CurveShape& curve) {
     if (!inRuns_ || curve.Rotation != 0 || isThick(curve.BorderWidth, painter_)) {
-        alone(curve);
+        paintUnbatched(curve);
         return;
     }
     const auto line = plain_.visiblePart(curve);
     if (!line)
         return;
-    takeUp(curve.BorderColor);
+    setRunColor(curve.BorderColor);
     if (!lines_.empty() && (curve.BorderWidth != firstLine_.BorderWidth || curve.Border != firstLine_.Border))
         flush();
     if (lines_.empty())
@@ -57,7 +57,7 @@ void ShapeRuns::operator()(const CurveShape& curve) {
 }
 
 template <class Shape>
-void ShapeRuns::alone(const Shape& shape) {
+void ShapeRuns::paintUnbatched(const Shape& shape) {
     flush();
     plain_(shape);
 }
@@ -68,7 +68,7 @@ void ShapeRuns::symbol(const Shape& shape) {
     const double pixels = (std::max(shape.Width, shape.Height) + shape.BorderWidth) * toPixels_.m11();
     const auto color = onlyColor(shape);
     if (!inRuns_ || !color || shape.Rotation != 0 || !(shape.Width >= 0 && shape.Height >= 0 && pixels <= mostPixels)) {
-        alone(shape);
+        paintUnbatched(shape);
         return;
     }
     if (!plain_.isVisible(shape, reachOf(shape)))
@@ -80,10 +80,10 @@ void ShapeRuns::symbol(const Shape& shape) {
     key.Y = fraction(place.y() - pixel.y());
     const std::size_t stamp = stampOf(key);
     if (stamp == stamps_.size()) {
-        alone(shape);
+        paintUnbatched(shape);
         return;
     }
-    takeUp(*color);
+    setRunColor(*color);
     imprints_.push_back({stamp, pixel.toPoint() + stamps_[stamp].corner});
 }
 
@@ -123,7 +123,7 @@ std::size_t ShapeRuns::stampOf(const Shape& shape) {
 }
 
 /// Ends the run when the colour changes.
-void ShapeRuns::takeUp(Color color) {
+void ShapeRuns::setRunColor(Color color) {
     if (color != color_)
         flush();
     color_ = color;
@@ -136,10 +136,10 @@ void ShapeRuns::flush() {
         lines_.clear();
     }
     if (!imprints_.empty())
-        layDown();
+        paintStamps();
 }
 
-void ShapeRuns::layDown() {
+void ShapeRuns::paintStamps() {
     const QTransform before = painter_.worldTransform();
     painter_.setWorldTransform(toPixels_.inverted() * before); // to the device's own pixels
     for (const Imprint& imprint : imprints_)

@@ -20,10 +20,10 @@ public:
     // What std::visit asks for
     void operator()(const RectShape& rect) { symbol(rect); }
     void operator()(const OvalShape& oval) { symbol(oval); }
-    void operator()(const ArcShape& arc) { alone(arc); }
+    void operator()(const ArcShape& arc) { paintUnbatched(arc); }
     void operator()(const CurveShape& curve);
-    void operator()(const FigureShape& figure) { alone(figure); }
-    void operator()(const StringShape& string) { alone(string); }
+    void operator()(const FigureShape& figure) { paintUnbatched(figure); }
+    void operator()(const StringShape& string) { paintUnbatched(string); }
 
 private:
     /// A symbol's pixels. It stands as far right of and below a whole pixel as the shape's X and Y say.
@@ -40,12 +40,12 @@ private:
     template <class Shape>
     void symbol(const Shape& shape);
     template <class Shape>
-    void alone(const Shape& shape);
+    void paintUnbatched(const Shape& shape);
     template <class Shape>
     std::size_t stampOf(const Shape& shape);
-    void takeUp(Color color);
+    void setRunColor(Color color);
     void flush();
-    void layDown();
+    void paintStamps();
 
     QPainter& painter_;
     ShapePainter plain_;

@@ -41,17 +41,17 @@ QString asItStands(const std::string& caption) {
 
 StaticTextPeer::StaticTextPeer(StaticText& text, QWidget* parent) : Peer(text, parent) {
     setTextFormat(Qt::PlainText);
-    bringAll();
+    applyAll();
 }
 
-void StaticTextPeer::bring(Property property) {
+void StaticTextPeer::apply(Property property) {
     if (property == Property::appearance)
-        bringAppearance();
+        applyAppearance();
     if (property == Property::appearance || property == Property::text)
         showText();
 }
 
-void StaticTextPeer::bringAppearance() {
+void StaticTextPeer::applyAppearance() {
     setAlignment(toQt(control_->Align()) | Qt::AlignVCenter);
     setWordWrap(control_->Multiline());
     QFont font = parentWidget()->font();
@@ -72,7 +72,7 @@ void StaticTextPeer::showText() {
     const QString whole = wholeText();
     setText(control_->Multiline() ? whole : fontMetrics().elidedText(whole, Qt::ElideRight, control_->Width()));
     setToolTip(helpTag());
-    setAccessibleName(nameToRead());
+    setAccessibleName(screenReaderName());
 }
 
 QString StaticTextPeer::wholeText() const { return tallyvane::toQt(Left(control_->Text(), mostCharacters)); }
@@ -81,15 +81,15 @@ QString StaticTextPeer::helpTag() const {
     return isCut() && control_->HelpTag().empty() ? wholeText() : Peer::helpTag();
 }
 
-QString StaticTextPeer::nameToRead() const {
-    return isCut() && control_->AccessibleName().empty() ? wholeText() : Peer::nameToRead();
+QString StaticTextPeer::screenReaderName() const {
+    return isCut() && control_->AccessibleName().empty() ? wholeText() : Peer::screenReaderName();
 }
 
 // Canvas
 
-CanvasPeer::CanvasPeer(Canvas& canvas, QWidget* parent) : Peer(canvas, parent) { bringAll(); }
+CanvasPeer::CanvasPeer(Canvas& canvas, QWidget* parent) : Peer(canvas, parent) { applyAll(); }
 
-void CanvasPeer::bring(Property /*property*/) {
+void CanvasPeer::apply(Property /*property*/) {
     setFocusPolicy(control_->AcceptFocus() ? Qt::TabFocus : Qt::NoFocus);
     update();
 }
@@ -148,7 +148,7 @@ void CanvasPeer::press() {
 
 // Rectangle
 
-RectanglePeer::RectanglePeer(Rectangle& rectangle, QWidget* parent) : Peer(rectangle, parent) { bringAll(); }
+RectanglePeer::RectanglePeer(Rectangle& rectangle, QWidget* parent) : Peer(rectangle, parent) { applyAll(); }
 
 void RectanglePeer::paintEvent(QPaintEvent* /*event*/) {
     if (control_ == nullptr)
@@ -161,9 +161,9 @@ void RectanglePeer::paintEvent(QPaintEvent* /*event*/) {
 
 // GroupBox
 
-GroupBoxPeer::GroupBoxPeer(GroupBox& box, QWidget* parent) : Peer(box, parent) { bringAll(); }
+GroupBoxPeer::GroupBoxPeer(GroupBox& box, QWidget* parent) : Peer(box, parent) { applyAll(); }
 
-void GroupBoxPeer::bring(Property property) {
+void GroupBoxPeer::apply(Property property) {
     if (property == Property::text)
         setTitle(asItStands(control_->Caption()));
 }
@@ -190,10 +190,10 @@ PushButtonPeer::PushButtonPeer(PushButton& button, QWidget* parent) : Peer(butto
     }
     if (button.Cancel())
         pressBy(Qt::Key_Escape);
-    bringAll();
+    applyAll();
 }
 
-void PushButtonPeer::bring(Property property) {
+void PushButtonPeer::apply(Property property) {
     if (property == Property::text)
         setText(asItStands(control_->Caption()));
 }
@@ -206,7 +206,7 @@ BevelButtonPeer::BevelButtonPeer(BevelButton& button, QWidget* parent) : Peer(bu
         if (control_ != nullptr)
             deliver(control_->Action);
     });
-    bringAll();
+    applyAll();
 }
 
 void BevelButtonPeer::keyPressEvent(QKeyEvent* event) {
@@ -217,7 +217,7 @@ void BevelButtonPeer::keyPressEvent(QKeyEvent* event) {
         QToolButton::keyPressEvent(event);
 }
 
-void BevelButtonPeer::bring(Property property) {
+void BevelButtonPeer::apply(Property property) {
     if (property == Property::text)
         setText(tallyvane::toQt(control_->Caption()));
 }
@@ -225,33 +225,33 @@ void BevelButtonPeer::bring(Property property) {
 // CheckBox
 
 CheckBoxPeer::CheckBoxPeer(CheckBox& box, QWidget* parent) : Peer(box, parent) {
-    bringAll();
+    applyAll();
     connect(this, &QCheckBox::clicked, this, [this](bool checked) {
         if (control_ != nullptr)
             deliver([&] { control_->userToggled(checked); });
     });
 }
 
-void CheckBoxPeer::bring(Property property) {
+void CheckBoxPeer::apply(Property property) {
     if (property == Property::value)
         setChecked(control_->Value());
     if (property == Property::text)
         setText(asItStands(control_->Caption()));
     if (property == Property::text || property == Property::appearance)
-        fitLetters();
+        shrinkFontToFit();
 }
 
-/// Captions that the user has written can be wide: their letters get smaller. What is too wide even then shows whole
+/// Captions that the user has written can be wide: the font gets smaller. What is too wide even then shows whole
 /// in the tool tip.
-void CheckBoxPeer::fitLetters() {
+void CheckBoxPeer::shrinkFontToFit() {
     constexpr int smallest = 9; // pixels
-    QFont letters = parentWidget()->font();
+    QFont fitting = parentWidget()->font();
     if (control_->TextSize() > 0)
-        letters.setPixelSize(control_->TextSize());
-    setFont(letters);
+        fitting.setPixelSize(control_->TextSize());
+    setFont(fitting);
     for (int pixels = fontInfo().pixelSize(); pixels > smallest && isTooWide();) {
-        letters.setPixelSize(--pixels);
-        setFont(letters);
+        fitting.setPixelSize(--pixels);
+        setFont(fitting);
     }
     setToolTip(helpTag());
 }
@@ -266,7 +266,7 @@ bool CheckBoxPeer::isTooWide() const { return sizeHint().width() > control_->Wid
 
 RadioButtonPeer::RadioButtonPeer(RadioButton& button, QWidget* parent) : Peer(button, parent) {
     joinChoices(*parent);
-    bringAll();
+    applyAll();
     connect(this, &QRadioButton::clicked, this, [this] {
         if (control_ != nullptr)
             deliver([&] { control_->userChose(); });
@@ -285,7 +285,7 @@ void RadioButtonPeer::joinChoices(QWidget& parent) {
     (new QButtonGroup(&parent))->addButton(this);
 }
 
-void RadioButtonPeer::bring(Property property) {
+void RadioButtonPeer::apply(Property property) {
     if (property == Property::text)
         setText(asItStands(control_->Caption()));
     if (property == Property::value)
@@ -294,9 +294,9 @@ void RadioButtonPeer::bring(Property property) {
 
 // ProgressBar
 
-ProgressBarPeer::ProgressBarPeer(ProgressBar& bar, QWidget* parent) : Peer(bar, parent) { bringAll(); }
+ProgressBarPeer::ProgressBarPeer(ProgressBar& bar, QWidget* parent) : Peer(bar, parent) { applyAll(); }
 
-void ProgressBarPeer::bring(Property property) {
+void ProgressBarPeer::apply(Property property) {
     if (property != Property::value)
         return;
     setRange(0, control_->Maximum());
@@ -308,14 +308,14 @@ void ProgressBarPeer::bring(Property property) {
 TabPanelPeer::TabPanelPeer(TabPanel& panel, QWidget* parent) : Peer(panel, parent) {
     for (const std::string& caption : panel.Captions())
         addTab(new QWidget(this), tallyvane::toQt(caption));
-    bringAll();
+    applyAll();
     connect(this, &QTabWidget::currentChanged, this, [this](int page) {
         if (control_ != nullptr)
             control_->Value(page);
     });
 }
 
-void TabPanelPeer::bring(Property property) {
+void TabPanelPeer::apply(Property property) {
     if (property == Property::value)
         setCurrentIndex(control_->Value());
 }
@@ -329,7 +329,7 @@ ProgressWheelPeer::ProgressWheelPeer(ProgressWheel& wheel, QWidget* parent) : Pe
         update();
     });
     turning_.start(millisecondsPerStep);
-    bringAll();
+    applyAll();
 }
 
 void ProgressWheelPeer::paintEvent(QPaintEvent* /*event*/) {

@@ -21,12 +21,12 @@ public:
     StaticTextPeer(StaticText& text, QWidget* parent);
 
 protected:
-    void bring(Property property) override;
+    void apply(Property property) override;
     QString helpTag() const override;
-    QString nameToRead() const override;
+    QString screenReaderName() const override;
 
 private:
-    void bringAppearance();
+    void applyAppearance();
     void showText();
     QString wholeText() const;
     bool isCut() const { return text() != wholeText(); }
@@ -42,7 +42,7 @@ public:
     void press();
 
 protected:
-    void bring(Property property) override;
+    void apply(Property property) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -58,7 +58,7 @@ public:
     RectanglePeer(Rectangle& rectangle, QWidget* parent);
 
 protected:
-    void bring(Property /*property*/) override { update(); }
+    void apply(Property /*property*/) override { update(); }
     void paintEvent(QPaintEvent* event) override;
 };
 
@@ -67,7 +67,7 @@ public:
     GroupBoxPeer(GroupBox& box, QWidget* parent);
 
 protected:
-    void bring(Property property) override;
+    void apply(Property property) override;
 };
 
 class PushButtonPeer : public Peer<QPushButton, PushButton> {
@@ -75,7 +75,7 @@ public:
     PushButtonPeer(PushButton& button, QWidget* parent);
 
 protected:
-    void bring(Property property) override;
+    void apply(Property property) override;
 };
 
 class BevelButtonPeer : public Peer<QToolButton, BevelButton> {
@@ -83,7 +83,7 @@ public:
     BevelButtonPeer(BevelButton& button, QWidget* parent);
 
 protected:
-    void bring(Property property) override;
+    void apply(Property property) override;
     void keyPressEvent(QKeyEvent* event) override;
 };
 
@@ -92,11 +92,11 @@ public:
     CheckBoxPeer(CheckBox& box, QWidget* parent);
 
 protected:
-    void bring(Property property) override;
+    void apply(Property property) override;
     QString helpTag() const override;
 
 private:
-    void fitLetters();
+    void shrinkFontToFit();
     bool isTooWide() const;
 };
 
@@ -105,7 +105,7 @@ public:
     RadioButtonPeer(RadioButton& button, QWidget* parent);
 
 protected:
-    void bring(Property property) override;
+    void apply(Property property) override;
 
 private:
     void joinChoices(QWidget& parent);
@@ -116,7 +116,7 @@ public:
     ProgressBarPeer(ProgressBar& bar, QWidget* parent);
 
 protected:
-    void bring(Property property) override;
+    void apply(Property property) override;
 };
 
 /// Shows the frame and the tabs; what stands on the pages are neighbours of this widget, laid over it.
@@ -125,7 +125,7 @@ public:
     TabPanelPeer(TabPanel& panel, QWidget* parent);
 
 protected:
-    void bring(Property property) override;
+    void apply(Property property) override;
 };
 
 class ProgressWheelPeer : public Peer<QWidget, ProgressWheel> {
@@ -149,7 +149,7 @@ public:
     ~TimerPeer() override;
 
     void controlChanged(Property property) override;
-    void controlGone() override { timer_ = nullptr; }
+    void controlDestroyed() override { timer_ = nullptr; }
 
 private:
     Timer* timer_;

@@ -17,7 +17,7 @@ namespace tallyvane {
 
 namespace {
 
-/// The text letter by letter; toPlainText would make blanks of the blanks that do not break.
+/// The text unchanged; toPlainText would turn non-breaking spaces into ordinary ones.
 std::string textOf(const QTextDocument& document) {
     QString text = document.toRawText();
     text.replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
@@ -42,12 +42,12 @@ bool worksInFields(int key) {
 // TextField
 
 TextFieldPeer::TextFieldPeer(TextField& field, QWidget* parent) : Peer(field, parent) {
-    setMaxLength(std::numeric_limits<int>::max()); // Qt's own limit would cut a text without a word
-    bringAll();
-    connect(this, &QLineEdit::textEdited, this, [this] { tellText(); });
+    setMaxLength(std::numeric_limits<int>::max()); // Qt's default limit would truncate a long text silently
+    applyAll();
+    connect(this, &QLineEdit::textEdited, this, [this] { reportText(); });
 }
 
-void TextFieldPeer::bring(Property property) {
+void TextFieldPeer::apply(Property property) {
     if (property != Property::text)
         return;
     const QString shown = tallyvane::toQt(control_->Text());
@@ -55,14 +55,14 @@ void TextFieldPeer::bring(Property property) {
         setText(shown);
 }
 
-void TextFieldPeer::tellText() {
+void TextFieldPeer::reportText() {
     if (control_ == nullptr)
         return;
     const int cursor = charactersIn(text(), cursorPosition());
     deliver([&] { control_->userChanged(fromQt(text()), cursor, 0); });
     if (control_ != nullptr && fromQt(text()) != control_->Text()) { // its line ends are blanks now
         const int place = cursorPosition();
-        bring(Property::text);
+        apply(Property::text);
         setCursorPosition(place);
     }
 }
@@ -101,7 +101,7 @@ TextAreaPeer::TextAreaPeer(TextArea& area, QWidget* parent) : Peer(area, parent)
     setReadOnly(area.ReadOnly());
     if (area.SpellChecking() && Dictionary::ofDesktop().isThere())
         new SpellingMarker(document(), Dictionary::ofDesktop());
-    bringAll();
+    applyAll();
     connect(this, &QPlainTextEdit::textChanged, this, [this] {
         if (control_ == nullptr)
             return;
@@ -110,7 +110,7 @@ TextAreaPeer::TextAreaPeer(TextArea& area, QWidget* parent) : Peer(area, parent)
     });
 }
 
-void TextAreaPeer::bring(Property property) {
+void TextAreaPeer::apply(Property property) {
     if (property != Property::text || control_->Text() == shown_)
         return;
     shown_ = control_->Text();
@@ -127,7 +127,7 @@ void TextAreaPeer::contextMenuEvent(QContextMenuEvent* event) {
     menu->exec(event->globalPos());
 }
 
-/// Nothing from a clipboard whose owner is gone: it has no form at all, and Qt would end the program over it.
+/// Qt calls this for every paste, also with the middle mouse button, and for every drop.
 void TextAreaPeer::insertFromMimeData(const QMimeData* source) {
     if (source != nullptr && !source->formats().isEmpty())
         QPlainTextEdit::insertFromMimeData(source);

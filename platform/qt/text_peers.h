@@ -16,13 +16,13 @@ public:
     TextFieldPeer(TextField& field, QWidget* parent);
 
 protected:
-    void bring(Property property) override;
+    void apply(Property property) override;
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
 
 private:
     bool consumes(const std::string& key);
-    void tellText();
+    void reportText();
 };
 
 class TextAreaPeer : public Peer<QPlainTextEdit, TextArea, TextAreaObserver> {
@@ -32,9 +32,9 @@ public:
     void replaceSelection(std::string_view text) override;
 
 protected:
-    void bring(Property property) override;
+    void apply(Property property) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
-    /// Qt ends the program on a clipboard whose owner is gone: it then has no form at all.
+    /// Ignores content that has no format, as an empty clipboard: Qt 6.4 reads the first format unchecked and crashes.
     void insertFromMimeData(const QMimeData* source) override;
 
 private:

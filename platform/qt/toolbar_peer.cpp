@@ -26,7 +26,7 @@ ToolbarPeer::ToolbarPeer(Toolbar& toolbar, QWidget* parent) : Peer(toolbar, pare
         });
         widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
     }
-    bringAll();
+    applyAll();
 }
 
 } // namespace tallyvane

@@ -108,7 +108,7 @@ void ContentArea::layOut() {
         return;
     for (const Child& child : children_) {
         child.peer->widget()->setGeometry(toQt(window_->frameOf(*child.placement)));
-        child.peer->standInFront(isOnPageInFront(*child.placement));
+        child.peer->setOnFrontPage(isOnPageInFront(*child.placement));
     }
 }
 
@@ -127,7 +127,7 @@ void ContentArea::resizeEvent(QResizeEvent* event) {
 WindowFrame::WindowFrame(Window& window, QWidget* owner, std::function<Window*()> front)
     : QMainWindow(owner, flagsOf(window.kind())), window_(&window) {
     content_ = new ContentArea(
-        window, [this] { tellBounds(); }, this);
+        window, [this] { reportBounds(); }, this);
     // Frames count from the left. A table that Qt turned around would have its readings under the wrong headings.
     setLayoutDirection(Qt::LeftToRight);
     setAttribute(Qt::WA_KeyboardFocusChange); // where the keys go is seen from the first moment
@@ -189,7 +189,7 @@ void WindowFrame::syncGeometry() {
         move(place);
 }
 
-void WindowFrame::tellBounds() {
+void WindowFrame::reportBounds() {
     if (window_ == nullptr || syncing_ || !isVisible() || isMinimized())
         return;
     const Rect bounds{pos().x(), pos().y(), content_->width(), content_->height()};
@@ -204,7 +204,7 @@ void WindowFrame::closeEvent(QCloseEvent* event) {
 
 void WindowFrame::moveEvent(QMoveEvent* event) {
     QMainWindow::moveEvent(event);
-    tellBounds();
+    reportBounds();
 }
 
 // QtWindowPeer

@@ -57,7 +57,7 @@ protected:
 private:
     void shapeFrame();
     void syncGeometry();
-    void tellBounds();
+    void reportBounds();
 
     Window* window_;
     ContentArea* content_;

@@ -3,15 +3,15 @@
 namespace tallyvane {
 
 std::optional<FolderItem> SaveAsDialog::ShowModal() const {
-    return GetFolderItem(FileDialogs::inUse().askWhereToSave(*this));
+    return GetFolderItem(FileDialogs::current().askWhereToSave(*this));
 }
 
 std::optional<FolderItem> OpenDialog::ShowModal() const {
-    return GetFolderItem(FileDialogs::inUse().askForFile(*this));
+    return GetFolderItem(FileDialogs::current().askForFile(*this));
 }
 
 std::optional<FolderItem> SelectFolderDialog::ShowModal() const {
-    return GetFolderItem(FileDialogs::inUse().askForFolder(*this));
+    return GetFolderItem(FileDialogs::current().askForFolder(*this));
 }
 
 } // namespace tallyvane

@@ -10,7 +10,7 @@ const std::function<void()>* handlerOf(const MenuHandlers& handlers, std::string
     return found == handlers.end() ? nullptr : &found->second;
 }
 
-const std::function<void()>* answer(const MenuBar& bar, MenuTarget* front, std::string_view name) {
+const std::function<void()>* handlerOf(const MenuBar& bar, MenuTarget* front, std::string_view name) {
     const auto* own = front == nullptr ? nullptr : handlerOf(front->menuHandlers, name);
     return own != nullptr ? own : handlerOf(bar.handlers, name);
 }
@@ -31,11 +31,11 @@ void MenuBar::enableItems(MenuTarget* front) {
         front->Event_EnableMenuItems(*this);
     for (Menu& menu : menus_)
         for (MenuItem& item : menu.items)
-            item.Enabled = item.Enabled && answer(*this, front, item.Name) != nullptr;
+            item.Enabled = item.Enabled && handlerOf(*this, front, item.Name) != nullptr;
 }
 
 void MenuBar::choose(std::string_view name, MenuTarget* front) {
-    if (const auto* handler = answer(*this, front, name))
+    if (const auto* handler = handlerOf(*this, front, name))
         (*handler)();
 }
 

@@ -59,10 +59,10 @@ public:
     MenuTarget& operator=(const MenuTarget&) = delete;
     virtual ~MenuTarget() = default;
 
-    /// Enables those items that are not AutoEnable and hold now.
+    /// Calls MenuBar::enable for each item without AutoEnable that can be chosen now.
     virtual void Event_EnableMenuItems(MenuBar& /*menuBar*/) {}
 
-    /// Answers that hold while the window is in front.
+    /// Handlers by item name while this window is in front; they take precedence over MenuBar::handlers.
     MenuHandlers menuHandlers;
 };
 
@@ -74,7 +74,7 @@ public:
     /// Enables an item, if there is one of that name.
     void enable(std::string_view name);
 
-    /// Answers that hold whatever window is in front.
+    /// Handlers by item name, for whatever window is in front.
     MenuHandlers handlers;
 
     /// Settles which items are enabled with that window in front (null: none of ours): those that it or `handlers`

@@ -23,7 +23,7 @@ void Quit(int code) {
     }
     if (beforeEnd)
         code = beforeEnd(code);
-    Desktop::inUse().quit(code);
+    Desktop::current().quit(code);
 }
 
 } // namespace tallyvane

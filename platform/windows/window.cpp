@@ -60,7 +60,7 @@ void Window::sizeControls() {
     }
 }
 
-void Window::carry(MenuBar* menuBar, Toolbar* toolbar) {
+void Window::setBars(MenuBar* menuBar, Toolbar* toolbar) {
     menuBar_ = menuBar;
     toolbar_ = toolbar;
 }
@@ -122,7 +122,7 @@ void Window::Refresh() {
 void Window::Open() {
     if (open_)
         return;
-    WindowSystem& windowSystem = WindowSystem::inUse();
+    WindowSystem& windowSystem = WindowSystem::current();
     bounds_ = windowSystem.placeFor(*this);
     raiseControlsOpen();
     Event_Open();

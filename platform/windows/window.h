@@ -97,11 +97,11 @@ public:
     int MinHeight() const { return limits_.minHeight; }
     int MaxHeight() const { return limits_.maxHeight; }
 
-    /// Brings the window into being, unseen: the open events of its controls, its own, then its peer. An exception of
-    /// an event leaves it unopened.
+    /// Opens the window hidden: raises the Open events of its controls, then Event_Open, then makes its peer. If an
+    /// event throws, the window stays closed.
     void Open();
     bool isOpen() const { return open_; }
-    /// Brings it into being if need be, and to the front.
+    /// Opens it if it is not open yet, shows it and brings it to the front.
     void Show();
     /// Raises Event_Close and takes the window away. An exception of the event leaves it open.
     void Close();
@@ -114,7 +114,7 @@ public:
     virtual void Event_Resized() {}
     virtual void Event_Moved() {}
 
-    /// The user has moved or resized the window: the peer's news.
+    /// Called by the peer when the user has moved or resized the window.
     void userChangedBounds(const Rect& bounds);
 
     const std::vector<Placement>& placements() const { return placements_; }
@@ -149,8 +149,8 @@ protected:
     }
     void shape(Kind kind, int width, int height) { shape(kind, width, height, height, height); }
     void place(std::initializer_list<Placement> placements);
-    void carry(MenuBar* menuBar, Toolbar* toolbar);
-    void belongTo(Window* owner) { owner_ = owner; }
+    void setBars(MenuBar* menuBar, Toolbar* toolbar);
+    void setOwner(Window* owner) { owner_ = owner; }
     /// The control that gets the keys when the window opens; without it the first in the table that takes keys.
     void focusFirst(Control& control) { firstFocus_ = &control; }
 

@@ -36,6 +36,12 @@ TEST_F(SortKeysTest, AHeadingSortsAndTheNextPressTurnsItsOwnOrderRound) {
     EXPECT_EQ(columnOf(table_, 0), (Texts{"1/1/2026", "10/2/2025", "9/30/2025", "no date"}));
     EXPECT_TRUE(window1_.ListBox1_HeaderPressed(0));
     EXPECT_EQ(columnOf(table_, 0), (Texts{"no date", "9/30/2025", "10/2/2025", "1/1/2026"}));
+    table_.AddRows({{"1/2/2026", "", "", "", "", "", "", "", "6.1", "90.5"}});
+    for (const auto& [column, last] : {std::pair{8, "6.1"}, {9, "90.5"}}) { // average and weight
+        window1_.doSortColumns();
+        EXPECT_TRUE(window1_.ListBox1_HeaderPressed(column));
+        EXPECT_EQ(columnOf(table_, column), (Texts{"", "", "", "", last}));
+    }
     EXPECT_FALSE(window1_.ListBox1_HeaderPressed(10));
     EXPECT_FALSE(window1_.ListBox1_HeaderPressed(-1));
 }

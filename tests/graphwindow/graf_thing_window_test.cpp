@@ -182,7 +182,7 @@ TEST_F(GrafThingWindowTest, BoxesAndTheWeightButtonChangeTheMode) {
 struct PaintCounter : ControlObserver {
     void controlChanged(Property /*property*/) override {}
     void repaintControl() override { ++paints; }
-    void controlGone() override {}
+    void controlDestroyed() override {}
     int paints = 0;
 };
 

@@ -170,11 +170,11 @@ TEST_F(FilesTest, AFileThatCouldNotBeFilledIsNotLeftBehind) {
 }
 
 TEST_F(FilesTest, AFolderIsHeldByOneProgramAtATime) {
-    auto first = SystemFiles::FolderClaim::take(folder_.string());
+    auto first = SystemFiles::FolderLock::acquire(folder_.string());
     EXPECT_NE(first, nullptr);
-    EXPECT_EQ(SystemFiles::FolderClaim::take(folder_.string()), nullptr);
+    EXPECT_EQ(SystemFiles::FolderLock::acquire(folder_.string()), nullptr);
     first.reset();
-    EXPECT_NE(SystemFiles::FolderClaim::take(folder_.string()), nullptr);
+    EXPECT_NE(SystemFiles::FolderLock::acquire(folder_.string()), nullptr);
 }
 
 } // namespace

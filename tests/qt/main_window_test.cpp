@@ -126,7 +126,7 @@ TEST_F(MainWindowTest, TheEditMenuActsOnTheFocusedField) {
     EXPECT_EQ(Globals::gJournal, "");
     choose("EditUndo");
     EXPECT_EQ(Globals::gJournal, "felt well");
-    QGuiApplication::clipboard()->setMimeData(new QMimeData); // its owner is gone
+    QGuiApplication::clipboard()->setMimeData(new QMimeData); // of no format
     choose("EditPaste");
     EXPECT_EQ(Globals::gJournal, "felt well");
 }

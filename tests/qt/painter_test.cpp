@@ -277,6 +277,8 @@ TEST(Painter, NoPlaceIsTooFar) {
         graph.Draw(g);
         g.FillRect(3, 3, 1, 1);
     };
+    const QImage noLine = painted(20, 20, [](Graphics& g) { g.DrawLine(notANumber, 10, 15, 10); });
+    EXPECT_EQ(noLine, painted(20, 20, [](Graphics&) {})) << "a line without a place";
     for (const double far : {1e7, -1e12, 1e300, infinite, -infinite, notANumber})
         for (const double near : {10.0, far}) {
             const QImage image = painted(100, 100, [&](Graphics& g) { drawTo(g, near, far); });

@@ -78,7 +78,7 @@ TEST_F(AppTest, AMissingDataFolderIsToldOnceWhenTheDiaryIsShown) {
 
 TEST_F(AppTest, ASecondStartWakesTheFirstAndEndsWithoutAWindow) {
     makeApplicationFolder();
-    const auto first = SystemFiles::FolderClaim::take((folder_ / "Tallyvane").string());
+    const auto first = SystemFiles::FolderLock::acquire((folder_ / "Tallyvane").string());
     bool woken = false;
     app_.wakeRunningProgram = [&] { woken = true; };
     app_.Event_Open();
@@ -93,7 +93,7 @@ TEST_F(AppTest, ASecondStartWakesTheFirstAndEndsWithoutAWindow) {
 TEST_F(AppTest, DaysThatAnotherProgramHoldsAreNotOpenedTwice) {
     std::filesystem::create_directory(folder_ / "days");
     preferFolder(folder_ / "days");
-    const auto other = SystemFiles::FolderClaim::take((folder_ / "days").string());
+    const auto other = SystemFiles::FolderLock::acquire((folder_ / "days").string());
     app_.Event_Open();
     EXPECT_EQ(app_.windows().main, nullptr);
     ASSERT_EQ(toolkit_.messages.size(), 1U);

@@ -7,26 +7,25 @@
 
 namespace tallyvane {
 
-/// Letters that are larger than the windows are laid out for. The windows grow with them as a whole, tables, lights
-/// and graphs included, so that nothing is clipped and all keeps its proportions.
+/// Scales all windows up when the desktop's font is larger than the layout allows for, so that nothing is clipped.
 ///
-/// Qt takes the scale of a process from the environment alone, before it knows the desktop's font. So a process that
-/// finds large letters starts itself anew, in its own place, with the scale that they ask for.
-class LetterScale {
+/// Qt reads the scale factor of a process only from the environment, before the desktop's font is known. So a process
+/// that finds a large font sets QT_SCALE_FACTOR and executes itself again with execv.
+class FontScale {
 public:
     /// How much the windows grow for letters of so many points; 1 for not at all. The largest window still fits into
     /// the room of the screen: beyond that the letters stay smaller than the desktop asks for.
     static double of(double points, QSize largestWindow, QSize room);
 
     /// Before the application, which takes arguments of its own out of the list.
-    LetterScale(int argc, char** argv, QSize largestWindow)
+    FontScale(int argc, char** argv, QSize largestWindow)
         : arguments_(argv, argv + argc), largestWindow_(largestWindow) {}
 
     /// Once, with the application there and no window yet. Does not return where the process starts anew.
-    void settle();
+    void apply();
 
 private:
-    void startAnew(double scale);
+    void restart(double scale);
 
     std::vector<std::string> arguments_;
     QSize largestWindow_;

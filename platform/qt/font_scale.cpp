@@ -1,4 +1,4 @@
-#include "platform/qt/letter_scale.h"
+#include "platform/qt/font_scale.h"
 
 #include <QApplication>
 #include <QFile>
@@ -18,7 +18,7 @@ constexpr const char* scaleName = "QT_SCALE_FACTOR";
 /// What the scale was before the process started anew; also the sign that it did.
 constexpr const char* scaleBeforeName = "TALLYVANE_SCALE_BEFORE";
 
-void limitLetters() {
+void limitFontSize() {
     QFont font = QApplication::font();
     font.setPointSizeF(largestPoints);
     QApplication::setFont(font);
@@ -36,14 +36,14 @@ void restoreEnvironment() {
 
 } // namespace
 
-double LetterScale::of(double points, QSize largestWindow, QSize room) {
+double FontScale::of(double points, QSize largestWindow, QSize room) {
     const double wanted = points / largestPoints;
     const double fitting = std::min(static_cast<double>(room.width()) / largestWindow.width(),
                                     static_cast<double>(room.height()) / largestWindow.height());
     return std::max(1.0, std::min(wanted, fitting));
 }
 
-void LetterScale::settle() {
+void FontScale::apply() {
     const bool isStartedAnew = qEnvironmentVariableIsSet(scaleBeforeName);
     if (isStartedAnew)
         restoreEnvironment();
@@ -52,11 +52,11 @@ void LetterScale::settle() {
         return;
     const double scale = of(points, largestWindow_, QGuiApplication::primaryScreen()->availableSize());
     if (!isStartedAnew && scale > 1)
-        startAnew(scale);
-    limitLetters();
+        restart(scale);
+    limitFontSize();
 }
 
-void LetterScale::startAnew(double scale) {
+void FontScale::restart(double scale) {
     const QByteArray before = qgetenv(scaleName);
     bool isNumber = false;
     const double outer = before.toDouble(&isNumber);
@@ -68,7 +68,7 @@ void LetterScale::startAnew(double scale) {
         arguments.push_back(argument.data());
     arguments.push_back(nullptr);
     ::execv(QFile::encodeName(QCoreApplication::applicationFilePath()).constData(), arguments.data());
-    restoreEnvironment(); // it can't be started anew: the letters are limited, and nothing grows
+    restoreEnvironment(); // it can't be restarted: the font is limited, and nothing grows
 }
 
 } // namespace tallyvane

@@ -6,9 +6,9 @@ namespace tallyvane {
 
 /// A surface that shows nothing. Its text is of fixed pitch: of every font a character is half as wide as the text
 /// size, the ascent three quarters of it, the height all of it.
-class UnseenGraphics : public Graphics {
+class NullGraphics : public Graphics {
 public:
-    UnseenGraphics(double width, double height) : width_(width), height_(height) {}
+    NullGraphics(double width, double height) : width_(width), height_(height) {}
 
     double Width() const override { return width_; }
     double Height() const override { return height_; }

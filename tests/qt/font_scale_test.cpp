@@ -1,4 +1,4 @@
-#include "platform/qt/letter_scale.h"
+#include "platform/qt/font_scale.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@ namespace tallyvane {
 namespace {
 
 TEST(LetterScaleTest, WindowsGrowWithLargeLettersAsFarAsTheScreenGoes) {
-    const auto scale = [](double points, QSize room) { return LetterScale::of(points, {800, 600}, room); };
+    const auto scale = [](double points, QSize room) { return FontScale::of(points, {800, 600}, room); };
     EXPECT_DOUBLE_EQ(scale(9, {1920, 1040}), 1) << "small letters";
     EXPECT_DOUBLE_EQ(scale(18, {1920, 1040}), 1.5) << "half as large again as the largest that fit";
     EXPECT_DOUBLE_EQ(scale(24, {1200, 2000}), 1.5) << "a screen that is too narrow";

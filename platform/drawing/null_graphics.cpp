@@ -1,4 +1,4 @@
-#include "platform/drawing/unseen_graphics.h"
+#include "platform/drawing/null_graphics.h"
 
 #include <algorithm>
 
@@ -6,11 +6,11 @@
 
 namespace tallyvane {
 
-double UnseenGraphics::StringWidth(std::string_view text) const {
+double NullGraphics::StringWidth(std::string_view text) const {
     return 0.5 * static_cast<double>(TextSize()) * Len(text);
 }
 
-void UnseenGraphics::shrinkToFit(double width, double height) {
+void NullGraphics::shrinkToFit(double width, double height) {
     const double times = std::max({1.0, width / width_, height / height_});
     width_ *= times;
     height_ *= times;
