@@ -66,7 +66,7 @@ void AutoButton::Event_Paint(Graphics& /*g*/) {
     mePainted = true;
 }
 
-void AutoButton::makeSurePressedIcon() {
+void AutoButton::ensurePressedIcon() {
     if (!pressedIcon && enabledIcon)
         pressedIcon = makePressedIcon(*enabledIcon);
 }
@@ -86,7 +86,7 @@ void AutoButton::showAtRest() {
 bool AutoButton::Event_MouseDown(int /*x*/, int /*y*/) {
     if (Toggle)
         toggleOn = !toggleOn;
-    makeSurePressedIcon();
+    ensurePressedIcon();
     if (isAtRest()) {
         showPressed();
         raise(MouseDown);
@@ -102,7 +102,7 @@ bool AutoButton::Event_MouseDown(int /*x*/, int /*y*/) {
 
 /// On the very edge the pointer neither leaves nor comes back.
 void AutoButton::Event_MouseDrag(int x, int y) {
-    makeSurePressedIcon();
+    ensurePressedIcon();
     const bool outside = x < 0 || x > Width() || y < 0 || y > Height();
     if (outside && pressedIcon && Backdrop() == pressedIcon) {
         showAtRest();

@@ -47,7 +47,7 @@ public:
 private:
     bool isInside(int x, int y) const { return x > 0 && x < Width() && y > 0 && y < Height(); }
     bool isAtRest() const { return enabledIcon && Backdrop() == enabledIcon; }
-    void makeSurePressedIcon();
+    void ensurePressedIcon();
     void showPressed();
     void showAtRest();
 

@@ -33,7 +33,7 @@ public:
     /// without such a reading keeps what stands there.
     void updateRows();
 
-    /// Over all rows, or over the selected ones. Of the table as updateRows left it.
+    /// Sums over all rows, or over the selected ones, of the numbers that the last updateRows read.
     Sums sumsOfAll() const;
     Sums sumsOfSelected() const;
 

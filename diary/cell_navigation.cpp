@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "diary/cell_words.h"
+#include "diary/cell_help.h"
 #include "diary/day_table.h"
 #include "platform/base/text.h"
 #include "platform/controls/keys.h"
@@ -32,13 +32,13 @@ std::optional<Target> targetOf(const Listbox& table, int row, int column, std::s
     return std::nullopt;
 }
 
-/// What was typed is taken in, as a move takes it in. Since it is selected too, the next digit would replace it: the
-/// user hears that, and learns the way to the weight where the next key would have been expected to lead there.
+/// Keeps the cell open, with what was typed confirmed. The text is selected, so the next digit would replace it: a beep
+/// warns of that. After the last reading a hint tells how to reach the weight.
 void stayAtEdge(Listbox& table, int column, std::string_view key) {
     table.confirmCell();
     Beep();
     if (column == DayTable::lastReading && (key == Keys::right || key == Keys::tab))
-        table.showHint(CellWords::wayToWeight(table));
+        table.showHint(CellHelp::weightHint(table));
 }
 
 } // namespace

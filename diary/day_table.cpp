@@ -48,7 +48,7 @@ void addDay(Listbox& table, const Date& day) {
 
 void save(const Listbox& table) { UnsavedFiles::save(userFile(), textOf(table)); }
 
-void startedFrom(const Listbox& table) { UnsavedFiles::startedFrom(userFile(), textOf(table)); }
+void setBaseline(const Listbox& table) { UnsavedFiles::setBaseline(userFile(), textOf(table)); }
 
 bool load(Listbox& table) {
     std::optional<TextInputStream> stream = UnsavedFiles::openText(userFile());

@@ -38,8 +38,8 @@ void addDay(Listbox& table, const Date& day);
 /// IOException and leaves the old file whole.
 void save(const Listbox& table);
 
-/// Takes down that the table, as it stands, is what was read: as long as nothing changes, nothing of it can be lost.
-void startedFrom(const Listbox& table);
+/// Sets the table, as it was just read, as the baseline: saving it unchanged never replaces a newer file.
+void setBaseline(const Listbox& table);
 
 /// Appends the days of "7VXData" to the table. False when there is no such file or it can't be opened.
 [[nodiscard]] bool load(Listbox& table);

@@ -16,8 +16,9 @@ namespace {
 /// Keeps a journal in a dated file of the application's folder. Its path; "" when such a file holds the text already.
 std::string keep(const std::string& journal) {
     const std::optional<FolderItem> folder = DataFiles::applicationFolder();
-    return folder ? UnsavedFiles::keepCopy(*folder, std::string(DataFiles::journal) + " " + Date().isoDate(), journal)
-                  : "";
+    return folder
+               ? UnsavedFiles::writeNewCopy(*folder, std::string(DataFiles::journal) + " " + Date().isoDate(), journal)
+               : "";
 }
 
 UnsavedFiles::UserFile userFile() {
@@ -30,7 +31,7 @@ void save() { UnsavedFiles::save(userFile(), logRecord()); }
 
 void saveIfChanged() { UnsavedFiles::saveIfChanged(userFile(), logRecord()); }
 
-void startedFrom() { UnsavedFiles::startedFrom(userFile(), logRecord()); }
+void setBaseline() { UnsavedFiles::setBaseline(userFile(), logRecord()); }
 
 std::string load(const std::function<void(std::string)>& showJournal) {
     std::string journal;

@@ -6,18 +6,18 @@
 
 namespace tallyvane::RunningLogs {
 
-/// Writes the four globals as one line. When the file can't be had they wait among the unsaved files; so they do when
-/// the disk fails, which throws IOException.
+/// Writes the four globals as one line. If the file can't be opened, or writing fails (which throws IOException), they
+/// stay among the unsaved files.
 void save();
 /// The same, but nothing if they have not changed since they were read or saved.
 void saveIfChanged();
-/// Takes down that the globals, as they stand, are what was read.
-void startedFrom();
+/// Sets the globals, as they were just read, as the baseline.
+void setBaseline();
 
-/// Reads the logs into their globals, as they stand in the file; `showJournal` gets the journal with real line ends,
-/// and after that the whole of the file "Tallyvane Journal" if there is one, which wins. A journal that would be lost
-/// so is first kept in a file of its own, such as "Tallyvane Journal 2026-11-22", whose path is the result; "" for
-/// none. If it can't be kept, it wins.
+/// Reads the logs into their globals and shows the journal, with real line ends, by `showJournal`. If there is a file
+/// "Tallyvane Journal", its text is shown instead; a journal that it does not contain is first copied to a dated file,
+/// such as "Tallyvane Journal 2026-11-22", whose path is returned ("" for none). If that copy can't be written, the
+/// journal is shown and the file is not.
 std::string load(const std::function<void(std::string)>& showJournal);
 
 } // namespace tallyvane::RunningLogs

@@ -1,7 +1,7 @@
 #include "diary/window1.h"
 
+#include "diary/cell_help.h"
 #include "diary/cell_navigation.h"
-#include "diary/cell_words.h"
 #include "diary/date_window.h"
 #include "diary/day_details.h"
 #include "diary/day_table.h"
@@ -35,7 +35,7 @@ void Window1::Event_Open() {
         Top(50);
     if (Left() < 0)
         Left(0);
-    DayTable::startedFrom(ListBox1);
+    DayTable::setBaseline(ListBox1);
 }
 
 void Window1::Event_Close() {
@@ -52,7 +52,7 @@ void Window1::saveAll() {
 
 void Window1::saveChanged() {
     saveEach({[this] { saveData(); }, [] { RunningLogs::saveIfChanged(); }});
-    AutosaveTimer.Mode(Timer::ModeMultiple); // counts anew
+    AutosaveTimer.Mode(Timer::ModeMultiple); // restarts the five minutes
 }
 
 void Window1::saveData() { DayTable::save(ListBox1); }
@@ -68,7 +68,7 @@ void Window1::saveLogs() { RunningLogs::save(); }
 
 void Window1::getLogs() {
     keptJournal = RunningLogs::load([this](const std::string& journal) { JournalFld.Text(journal); });
-    RunningLogs::startedFrom();
+    RunningLogs::setBaseline();
 }
 
 void Window1::getDetails(int row) {
@@ -180,7 +180,7 @@ bool Window1::ListBox1_CellTextPaint(Graphics& g, int /*row*/, int column, int /
 }
 
 std::string Window1::ListBox1_CellDescription(int row, int column) const {
-    return CellWords::spoken(ListBox1, row, column, columnName(column));
+    return CellHelp::accessibleText(ListBox1, row, column, columnName(column));
 }
 
 /// A column's heading with the name of its meal, if it stands under one.

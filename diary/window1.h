@@ -19,7 +19,7 @@ class Window1 : public Window {
 public:
     static constexpr int listHeight = 259;
 
-    /// The toolbar and the menu bar are the shell's; the window carries them.
+    /// The shell owns the toolbar and the menu bar, which must outlive the window.
     Window1(Toolbar& toolbar, MenuBar& menuBar);
     ~Window1() override;
 
@@ -27,7 +27,7 @@ public:
     StaticText StaticText13, StaticText14, StaticText15, StaticText20; // breakfast, lunch, supper, weight
     Listbox ListBox1;
 
-    Canvas SummaryBand; // the ground of the strip
+    Canvas SummaryBand; // the background of the summary strip
     StaticText StaticText1, StaticText2, StaticText3, StaticText4, StaticText5, StaticText6; // readings 1 to 6
     StaticText StaticText23, StaticText22, StaticText16; // before bed, average, weight
     Canvas Canvas4, Canvas5, Canvas6, Canvas7, Canvas8, Canvas9, Canvas10, Canvas11; // lights of columns 1 to 8
@@ -47,7 +47,7 @@ public:
     std::string theFoods;
     int medLines = 0;
 
-    /// Calls upward, to windows of other rooms. The shell sets those that there are.
+    /// Opens or closes windows of other rooms; set by the shell. An empty one does nothing.
     std::function<void()> showResources;
     std::function<void()> closeResources;
     std::function<void()> showLogs;
@@ -67,8 +67,8 @@ public:
     void Event_Resized() override {}
     void Event_Moved() override {}
 
-    /// The three saves of closing. What fails one file does not cost the others; the first failure of days or logs is
-    /// thrown at the end.
+    /// The three saves of closing: days, logs, window geometry. All are run even if one fails; the first failure of
+    /// days or logs is thrown at the end.
     void saveAll();
     /// The days, and the logs if they have changed since they were read or saved.
     void saveChanged();

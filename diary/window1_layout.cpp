@@ -1,4 +1,4 @@
-#include "diary/cell_words.h"
+#include "diary/cell_help.h"
 #include "diary/date_window.h"
 #include "diary/day_table.h"
 #include "diary/indicators.h"
@@ -14,7 +14,7 @@ constexpr int bandHeight = 26;
 constexpr int stripTop = bandHeight + Window1::listHeight;
 
 constexpr Color white = RGB(255, 255, 255);
-constexpr Color stripGround = RGB(242, 245, 250);
+constexpr Color stripBackground = RGB(242, 245, 250);
 constexpr Color stripLine = RGB(128, 140, 156);
 constexpr Color stripText = RGB(20, 24, 30);
 
@@ -154,7 +154,7 @@ void Window1::wire() {
     ListBox1.CellTextChange = [this](int row, int column) { ListBox1_CellTextChange(row, column); };
     ListBox1.HeaderPressed = [this](int column) { return ListBox1_HeaderPressed(column); };
     ListBox1.CellDescription = [this](int row, int column) { return ListBox1_CellDescription(row, column); };
-    ListBox1.CellHelpTag = [this](int row, int column) { return CellWords::helpTag(ListBox1, row, column); };
+    ListBox1.CellHelpTag = [this](int row, int column) { return CellHelp::helpTag(ListBox1, row, column); };
     ListBox1.CellBackgroundPaint = [this](Graphics& g, int row, int column) {
         return ListBox1_CellBackgroundPaint(g, row, column);
     };
@@ -162,7 +162,7 @@ void Window1::wire() {
         return ListBox1_CellTextPaint(g, row, column, x, y);
     };
     SummaryBand.Paint = [](Graphics& g) {
-        g.ForeColor(stripGround);
+        g.ForeColor(stripBackground);
         g.FillRect(0, 0, g.Width(), g.Height());
         g.ForeColor(stripLine);
         g.FillRect(0, 0, g.Width(), 1);

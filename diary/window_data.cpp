@@ -36,7 +36,7 @@ void save(const Rect& bounds) {
         stream->WriteLine(Str(value));
     try {
         stream->Close();
-    } catch (const IOException&) { // no loss worth a word
+    } catch (const IOException&) { // ignored: only the window's place is lost
     }
 }
 

@@ -9,7 +9,7 @@ namespace tallyvane::WindowData {
 
 /// Nothing without the file. A line that is missing or no number gives 0.
 [[nodiscard]] std::optional<Rect> load();
-/// What can't be saved is let go: the window then opens where it was before.
+/// A failure is ignored: the window then opens where it was before.
 void save(const Rect& bounds);
 
 } // namespace tallyvane::WindowData

@@ -14,8 +14,8 @@ void ExportData(const Listbox& days, const std::string& delimiter, const std::op
         stream->WriteFields(days.cells(row).first(DayTable::visibleColumns), delimiter);
     stream->Close();
     const std::string name = target->Name();
-    if (!name.ends_with(exportEnding))
-        static_cast<void>(target->Name(name + exportEnding)); // else it keeps the name that the user chose
+    if (!name.ends_with(exportExtension))
+        static_cast<void>(target->Name(name + exportExtension)); // else it keeps the name that the user chose
 }
 
 } // namespace tallyvane

@@ -8,8 +8,8 @@
 
 namespace tallyvane {
 
-/// What the name of an export ends in.
-inline constexpr const char* exportEnding = ".txt";
+/// The file name extension of an export.
+inline constexpr const char* exportExtension = ".txt";
 
 /// Writes all days, in their present order, into a text file for other programs: a line for each, the ten visible cells
 /// unchanged with the delimiter between them. There is no quoting; a cell that holds the delimiter reads back as two.

@@ -31,7 +31,7 @@ exportWindow::exportWindow(const Listbox& days) : days_(days) {
 }
 
 void exportWindow::PushButton1_Action() {
-    const SaveAsDialog dialog{tr("Save your data"), tr("Enter a filename"), tr("Tallyvane Data"), exportEnding};
+    const SaveAsDialog dialog{tr("Save your data"), tr("Enter a filename"), tr("Tallyvane Data"), exportExtension};
     const std::optional<FolderItem> file = dialog.ShowModal();
     ExportData(days_, RadioButton1.Value() ? "," : Chr(9), file);
     Close();

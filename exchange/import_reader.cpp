@@ -18,10 +18,10 @@ std::unique_ptr<ImportReader> ImportReader::open(const FolderItem& file, std::st
 }
 
 bool ImportReader::readFor(Milliseconds time) {
-    constexpr int linesBetweenLooks = 64;
+    constexpr int linesPerTimeCheck = 64;
     const Milliseconds end = clock() + time;
     do
-        for (int line = 0; line < linesBetweenLooks && !atEnd_; ++line)
+        for (int line = 0; line < linesPerTimeCheck && !atEnd_; ++line)
             readLine();
     while (!atEnd_ && clock() < end);
     return atEnd_;

@@ -18,12 +18,12 @@ public:
     using Row = std::vector<std::string>;
     using Milliseconds = std::chrono::milliseconds;
 
-    /// Time since some moment, for the slices.
+    /// A monotonic clock; tests replace it.
     static inline std::function<Milliseconds()> clock = [] {
         return std::chrono::duration_cast<Milliseconds>(std::chrono::steady_clock::now().time_since_epoch());
     };
 
-    /// Takes the file from the disk at one go. Null for what is no plain file or can't be read.
+    /// Reads the whole file into memory. Null unless it is a regular file that can be read.
     [[nodiscard]] static std::unique_ptr<ImportReader> open(const FolderItem& file, std::string delimiter);
 
     /// Reads on for about so long, a few lines at the least. True when the file is at its end.

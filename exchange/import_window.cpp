@@ -48,7 +48,7 @@ void importWindow::offer(const FolderItem& file) {
 
 void importWindow::Event_Open() { theDelim = "comma"; }
 
-/// An import that is going on ends without a trace in the table.
+/// Cancels an import in progress; the table stays unchanged.
 void importWindow::Event_Close() {
     Timer1.Mode(Timer::ModeOff);
     reader_.reset();
@@ -71,7 +71,7 @@ void importWindow::PushButton1_Action() {
     if (const std::optional<FolderItem> file = offered_ ? offered_ : dialog.ShowModal())
         reader_ = ImportReader::open(*file, theDelim);
     if (reader_)
-        readOn(patience);
+        continueReading(patience);
     else
         Close();
 }
@@ -79,21 +79,21 @@ void importWindow::PushButton1_Action() {
 void importWindow::Timer1_Action() {
     constexpr ImportReader::Milliseconds slice(50);
     if (reader_)
-        readOn(slice);
+        continueReading(slice);
 }
 
-void importWindow::readOn(ImportReader::Milliseconds time) {
+void importWindow::continueReading(ImportReader::Milliseconds time) {
     if (!reader_->readFor(time)) {
         showProgress();
         Timer1.Mode(Timer::ModeSingle);
         return;
     }
-    takeIn(reader_->takeRows());
+    appendRows(reader_->takeRows());
     Close();
 }
 
-/// The change of the selection brings the averages of the new days.
-void importWindow::takeIn(std::vector<ImportReader::Row> rows) {
+/// Appends the rows and selects them, which raises Change and so updates the averages.
+void importWindow::appendRows(std::vector<ImportReader::Row> rows) {
     const int first = days_.ListCount();
     days_.AddRows(std::move(rows));
     SortKeys::rebuild(days_);

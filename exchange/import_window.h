@@ -41,8 +41,8 @@ public:
     void Timer1_Action();
 
 private:
-    void readOn(ImportReader::Milliseconds time);
-    void takeIn(std::vector<ImportReader::Row> rows);
+    void continueReading(ImportReader::Milliseconds time);
+    void appendRows(std::vector<ImportReader::Row> rows);
     void showProgress();
 
     Listbox& days_;

@@ -47,7 +47,7 @@ void setUpAverages(GTSeries& series, const SelectedDays& days) {
     series.YAxis().text(tr("Meter Reading"));
 }
 
-/// Of the second series, whose days are numbered; of the others nothing shows.
+/// Hides ticks and labels, but for the X axis of the series whose days are numbered.
 void setUpBareAxes(GTSeries& series, bool daysAreNumbered) {
     series.XAxis().tickLabelsVisible(daysAreNumbered);
     series.XAxis().ticksVisible = daysAreNumbered;
@@ -57,7 +57,7 @@ void setUpBareAxes(GTSeries& series, bool daysAreNumbered) {
 
 } // namespace
 
-std::unique_ptr<GTGraph> ofPeriods(const SelectedDays& days, const Shown& shown) {
+std::unique_ptr<GTGraph> makeReadingsGraph(const SelectedDays& days, const Shown& shown) {
     std::unique_ptr<GTGraph> graph = emptyGraph();
     const double top = yMax(days);
     for (std::size_t i = 0; i < periods.size(); ++i) {
@@ -78,13 +78,13 @@ std::unique_ptr<GTGraph> ofPeriods(const SelectedDays& days, const Shown& shown)
     return graph;
 }
 
-std::unique_ptr<GTGraph> ofWeights(const SelectedDays& days) {
-    constexpr double lowestOfAll = 1000; // where the search for the lowest weight begins
+std::unique_ptr<GTGraph> makeWeightGraph(const SelectedDays& days) {
+    constexpr double initialLowest = 1000; // where the search for the lowest weight begins
     constexpr double margin = 2;
     std::unique_ptr<GTGraph> graph = emptyGraph();
     const std::shared_ptr<GTSeries> series = newLine(RGB(0, 0, 0));
     days.addByRow(*series, DayTable::weightColumn);
-    const Extent weights = days.widened({lowestOfAll, yMax(days)}, DayTable::weightColumn);
+    const Extent weights = days.widened({initialLowest, yMax(days)}, DayTable::weightColumn);
     setUpDayAxis(series->XAxis(), days);
     series->YAxis().text(tr("Weight"));
     series->SetYRange(weights.low - margin, weights.high + margin);

@@ -32,18 +32,18 @@ inline constexpr std::array<Period, 8> periods{{
 /// Which of the periods are to be seen.
 using Shown = std::array<bool, periods.size()>;
 
-/// A series for each period that is shown. The first period's series is always there, with the titles of the axes, and
-/// without points when it is not shown.
+/// A series for each period that is shown. The first period's series is always there, since it carries the titles of
+/// the axes; it has no points when it is not shown.
 ///
-/// The first two series count their points; the others have them at the rows of the table. So the same day can lie at
-/// different places, and each series fills the width of the plot.
-std::unique_ptr<GTGraph> ofPeriods(const SelectedDays& days, const Shown& shown);
+/// In the first two series x is a running number (1, 2, 3, ...), in the others the row in the table. Each series is
+/// scaled to the plot's width by itself, so one day can lie at different places.
+std::unique_ptr<GTGraph> makeReadingsGraph(const SelectedDays& days, const Shown& shown);
 
 /// One series of weights, from 2 below the lowest. It reaches 2 above the highest, or higher if the readings do.
-std::unique_ptr<GTGraph> ofWeights(const SelectedDays& days);
+std::unique_ptr<GTGraph> makeWeightGraph(const SelectedDays& days);
 
-/// Draws a graph on a surface, a little lower where needed: the plot is as high as a whole number of ticks, so that
-/// each label of the values stands at its value.
+/// Draws a graph, with a bottom margin that makes the plot's height a whole number of ticks, so that each label of the
+/// value axis stands at its value.
 void draw(GTGraph& graph, Graphics& g);
 
 } // namespace tallyvane::DayGraph

@@ -13,8 +13,8 @@ namespace {
 // The legend below a printed graph, in points of the page
 constexpr int firstBaseline = 480;
 constexpr int lineHeight = 20;
-constexpr std::size_t linesAColumn = 4;
-constexpr int legendBottom = firstBaseline + lineHeight * static_cast<int>(linesAColumn);
+constexpr std::size_t linesPerColumn = 4;
+constexpr int legendBottom = firstBaseline + lineHeight * static_cast<int>(linesPerColumn);
 
 } // namespace
 
@@ -27,27 +27,27 @@ void GrafThingWindow::setLineDefault() {
     const SelectedDays days(days_);
     finished_.reset();
     if (graphWeight) {
-        grafThing1 = DayGraph::ofWeights(days);
+        grafThing1 = DayGraph::makeWeightGraph(days);
         Canvas1.Refresh();
         return;
     }
     DayGraph::Shown shown{};
     for (std::size_t i = 0; i < shown.size(); ++i)
         shown[i] = boxes()[i]->Value();
-    grafThing1 = DayGraph::ofPeriods(days, shown);
+    grafThing1 = DayGraph::makeReadingsGraph(days, shown);
 }
 
 void GrafThingWindow::getheadings() {
     const std::optional<Headings> headings = readHeadings();
     if (!headings)
         return;
-    constexpr std::size_t periodsAMeal = 2;
+    constexpr std::size_t periodsPerMeal = 2;
     constexpr std::size_t meals = 3;
     const auto captioned = boxes();
     CheckBox13.Caption(tr(DayGraph::periods.front().caption));
-    for (std::size_t i = 0; i < meals * periodsAMeal; ++i)
-        captioned[i + 1]->Caption(tr("%1 %2", {(*headings)[headingGroups + i], (*headings)[i / periodsAMeal]}));
-    CheckBox6.Caption((*headings)[headingGroups + meals * periodsAMeal]);
+    for (std::size_t i = 0; i < meals * periodsPerMeal; ++i)
+        captioned[i + 1]->Caption(tr("%1 %2", {(*headings)[headingGroups + i], (*headings)[i / periodsPerMeal]}));
+    CheckBox6.Caption((*headings)[headingGroups + meals * periodsPerMeal]);
 }
 
 void GrafThingWindow::CheckBox_Action() {
@@ -107,13 +107,13 @@ void GrafThingWindow::drawLegend(Graphics& g) {
         g.ForeColor(DayGraph::periods[i].color);
         g.Bold(i == 0);
         const std::string dash = i == 0 ? "-- " : "--  ";
-        g.DrawString(dash + boxes()[i]->Caption(), columnLefts[i / linesAColumn],
-                     firstBaseline + lineHeight * static_cast<int>(i % linesAColumn));
+        g.DrawString(dash + boxes()[i]->Caption(), columnLefts[i / linesPerColumn],
+                     firstBaseline + lineHeight * static_cast<int>(i % linesPerColumn));
     }
 }
 
 void GrafThingWindow::filePrint_Action() {
-    constexpr int unlimited = -1; // as many dots to an inch as the paper counts
+    constexpr int unlimited = -1; // the full resolution of the paper
     constexpr int screenResolution = 72;
     PrinterSetup setup;
     setup.MaxHorizontalResolution = unlimited;

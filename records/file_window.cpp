@@ -36,16 +36,18 @@ std::string_view separatorIn(std::string_view text) {
     return "";
 }
 
-void tellOfSeparator(const std::string& name, std::string_view separator) {
+void reportSeparator(const std::string& name, std::string_view separator) {
     MsgBox(tr("\u201c%1\u201d can't be kept in this list, since the file of the list puts \u201c%2\u201d between its "
               "entries.",
               {name, std::string(separator)}));
 }
 
-/// A name that does not lengthen the separator that follows it in the file.
-std::string storableName(const std::string& name) { return name.ends_with('@') ? name + ' ' : name; }
+/// Adds a blank after a final "@", which would otherwise merge with the "@@@" that follows the name in the file.
+std::string storableName(const std::string& name) {
+    return name.ends_with('@') ? name + ' ' : name;
+}
 
-/// A "#" at the end of a link leads nowhere, and would lengthen the separator that follows it in the file.
+/// Removes "#" at the end: it points nowhere, and would merge with the "###" that follows the link in the file.
 std::string withoutEmptyFragment(std::string_view link) {
     return std::string(link.substr(0, link.find_last_not_of('#') + 1));
 }
@@ -105,7 +107,7 @@ fileWindow::fileWindow() {
 
 void fileWindow::Event_Open() {
     getFileList();
-    UnsavedFiles::startedFrom(userFile(), textOfList());
+    UnsavedFiles::setBaseline(userFile(), textOfList());
     Globals::gFileWindowOpen = true;
 }
 
@@ -164,7 +166,7 @@ bool fileWindow::saveFileList() {
 void fileWindow::addFile(const FolderItem& file) {
     const std::string name = droppedLine(file.DisplayName());
     if (const std::string_view separator = separatorIn(name); !separator.empty()) {
-        tellOfSeparator(name, separator);
+        reportSeparator(name, separator);
         return;
     }
     ListBox1.AddRow(name);
@@ -174,7 +176,7 @@ void fileWindow::addFile(const FolderItem& file) {
 
 void fileWindow::addLink(const std::string& link) {
     if (const std::string_view separator = separatorIn(link); !separator.empty()) {
-        tellOfSeparator(link, separator);
+        reportSeparator(link, separator);
         return;
     }
     ListBox1.AddRow(link);

@@ -27,8 +27,8 @@ public:
 
     /// Adds the entries of the file to the list.
     void getFileList();
-    /// Whether the list was written: not when it is empty, and the file keeps the entries of before, nor when the file
-    /// can't be had. Throws IOException when the disk fails.
+    /// Saves the list; true when it was written. False when the list is empty (the file keeps its entries) or the file
+    /// can't be opened. Throws IOException when the disk fails.
     bool saveFileList();
 
     bool ListBox1_CellBackgroundPaint(Graphics& g, int row, int column);

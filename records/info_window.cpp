@@ -44,7 +44,7 @@ std::optional<CellPlace> cellBeside(const Listbox& list, CellPlace cell, const s
     return exists ? next : cell;
 }
 
-void openWhole(Listbox& list, CellPlace cell) {
+void editCellWithAllSelected(Listbox& list, CellPlace cell) {
     list.EditCell(cell.row, cell.column);
     list.ActiveCell().SelectAll();
 }
@@ -56,8 +56,8 @@ void openWhole(Listbox& list, CellPlace cell) {
 void InfoWindow::Event_Open() {
     getContacts();
     getMeds();
-    RowFile::startedFrom(ListBox1, team(), DataFiles::contacts);
-    RowFile::startedFrom(ListBox2, schedule(), DataFiles::medications);
+    RowFile::setBaseline(ListBox1, team(), DataFiles::contacts);
+    RowFile::setBaseline(ListBox2, schedule(), DataFiles::medications);
 }
 
 void InfoWindow::Event_Close() { saveBoth(); }
@@ -91,7 +91,7 @@ void InfoWindow::enableDetails(bool on) {
     EditField5.Enabled(on);
 }
 
-void InfoWindow::emptyDetails() {
+void InfoWindow::clearDetails() {
     ignoreIt = true;
     for (TextField* field : {&EditField2, &EditField3, &EditField4})
         field->Text("");
@@ -103,7 +103,7 @@ void InfoWindow::ListBox1_Change() {
     const int row = ListBox1.ListIndex();
     enableDetails(row >= 0);
     if (row < 0) {
-        emptyDetails();
+        clearDetails();
         return;
     }
     EditField2.Text(ListBox1.Cell(row, 1));
@@ -120,13 +120,13 @@ void InfoWindow::storeDetail(int column, const std::string& text) {
 void InfoWindow::BevelButton1_Action() {
     ListBox1.AddRow(tr("new contact"));
     ListBox1.ListIndex(ListBox1.LastIndex());
-    emptyDetails();
+    clearDetails();
     EditField2.SetFocus();
 }
 
 void InfoWindow::BevelButton2_Action() {
     ListBox1.RemoveRow(ListBox1.ListIndex());
-    emptyDetails();
+    clearDetails();
 }
 
 void InfoWindow::Canvas2_Action() {
@@ -149,7 +149,7 @@ bool InfoWindow::ListBox2_CellKeyDown(int row, int column, const std::string& ke
     const std::optional<CellPlace> cell = cellBeside(ListBox2, {row, column}, key);
     if (!cell)
         return false;
-    openWhole(ListBox2, *cell);
+    editCellWithAllSelected(ListBox2, *cell);
     if (cell->row == row && cell->column == column)
         Beep(); // the whole text is selected: the next key would replace it
     return true;
@@ -157,7 +157,7 @@ bool InfoWindow::ListBox2_CellKeyDown(int row, int column, const std::string& ke
 
 void InfoWindow::AutoButton3_Action() {
     ListBox2.AddRow(tr("medication"));
-    openWhole(ListBox2, {ListBox2.LastIndex(), 0});
+    editCellWithAllSelected(ListBox2, {ListBox2.LastIndex(), 0});
 }
 
 void InfoWindow::AutoButton4_Action() { ListBox2.RemoveRow(ListBox2.ListIndex()); }

@@ -50,7 +50,7 @@ private:
     void layOut();
     void build();
     void wire();
-    void emptyDetails();
+    void clearDetails();
     void storeDetail(int column, const std::string& text);
     void enableDetails(bool on);
 };

@@ -78,7 +78,7 @@ void logsWindow::getLogs() {
 
 void logsWindow::Event_Open() {
     getLogs();
-    UnsavedFiles::startedFrom(userFile(), logRecord());
+    UnsavedFiles::setBaseline(userFile(), logRecord());
 }
 
 void logsWindow::saveChanged() { UnsavedFiles::saveIfChanged(userFile(), logRecord()); }

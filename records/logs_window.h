@@ -21,7 +21,7 @@ public:
     void Event_Open() override;
     void Event_Close() override { saveLogs(); }
 
-    /// The texts of the last time, into fields and globals; without a file both stay. The journal is not this window's.
+    /// Loads the saved texts into fields and globals; without a file both stay as they are. The journal is not touched.
     void getLogs();
     void saveLogs();
     /// Saves if the texts have changed since they were read or saved.

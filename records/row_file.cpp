@@ -38,8 +38,8 @@ void save(const Listbox& list, const std::string& what, std::string_view name) {
     UnsavedFiles::save(UnsavedFiles::UserFile::ofApplication(what, name), textOf(list));
 }
 
-void startedFrom(const Listbox& list, const std::string& what, std::string_view name) {
-    UnsavedFiles::startedFrom(UnsavedFiles::UserFile::ofApplication(what, name), textOf(list));
+void setBaseline(const Listbox& list, const std::string& what, std::string_view name) {
+    UnsavedFiles::setBaseline(UnsavedFiles::UserFile::ofApplication(what, name), textOf(list));
 }
 
 } // namespace tallyvane::RowFile

@@ -13,11 +13,11 @@ namespace RowFile {
 /// Appends a row for each line; an empty file has one, which is empty. False, and no change, when there is no file.
 /// With `replace` the list loses the rows that it had.
 bool load(Listbox& list, std::string_view name, bool replace);
-/// Writes all columns; `what` is the list as the user knows it. When the file can't be had the rows wait among the
-/// unsaved files; so they do when the disk fails, which throws IOException.
+/// Writes all columns; `what` names the list in messages. If the file can't be opened, or writing fails (which throws
+/// IOException), the rows stay among the unsaved files.
 void save(const Listbox& list, const std::string& what, std::string_view name);
-/// Takes down that the list, as it stands, is what was read.
-void startedFrom(const Listbox& list, const std::string& what, std::string_view name);
+/// Sets the list, as it was just read, as the baseline.
+void setBaseline(const Listbox& list, const std::string& what, std::string_view name);
 
 } // namespace RowFile
 

@@ -12,8 +12,8 @@ namespace tallyvane {
 
 namespace {
 
-// Points. A page that is higher than this is filled with lines to the one height, any other to the other.
-constexpr double lowestTallPage = 600;
+// In points. On a page higher than the threshold the lines fill 650 points, on any other 450.
+constexpr double tallPageThreshold = 600;
 constexpr double heightOnTallPage = 650;
 constexpr double heightOnLowPage = 450;
 
@@ -36,7 +36,7 @@ void DiaryReport::PrintAll(const std::string& pdfName) {
     const std::unique_ptr<Graphics> g = OpenPrinterDialog(Globals::ps.get(), pdfName);
     if (!g)
         return;
-    const bool isTall = Globals::ps->Height() > lowestTallPage;
+    const bool isTall = Globals::ps->Height() > tallPageThreshold;
     print(*g, title(), isTall ? heightOnTallPage : heightOnLowPage, Days::all);
 }
 
@@ -83,40 +83,40 @@ void DiaryReport::print(Graphics& g, const std::string& title, double height, Da
     for (int row = 0; row < diary_.ListBox1.ListCount(); ++row) {
         if (days == Days::selected && !diary_.ListBox1.Selected(row))
             continue;
-        page.makeRoom(1);
+        page.ensureLines(1);
         page.drawDay(cellsOf(row));
         if (Globals::gIncludeMeds || Globals::gIncludeExercise || Globals::gIncludeFood)
             diary_.getDetails(row);
         printDetails(page, g);
         page.skipLine();
-        page.makeRoom(0);
+        page.ensureLines(0);
     }
     page.skipLine();
     page.drawAverages(averages());
 }
 
 void DiaryReport::printDetails(ReportPage& page, const Graphics& g) {
-    page.makeRoom(0);
+    page.ensureLines(0);
     if (Globals::gIncludeMeds) {
         // What is too wide for the page takes more lines than the file has.
         const int wrapped = diary_.theMeds.empty() ? 0 : countLines2(diary_.theMeds, page.detailWidth(), g);
         const int lines = std::max(diary_.medLines, wrapped);
-        page.makeRoom(lines);
+        page.ensureLines(lines);
         if (!diary_.theMeds.empty())
             page.drawDetail(tr("Medication: "), diary_.theMeds, lines - 1);
     }
     const auto printEstimated = [&](bool included, const std::string& label, const std::string& text) {
-        page.makeRoom(0);
+        page.ensureLines(0);
         if (!included)
             return;
         const int lines = countLines2(text, page.detailWidth(), g);
-        page.makeRoom(lines);
+        page.ensureLines(lines);
         if (!text.empty())
             page.drawDetail(label, text, lines);
     };
     printEstimated(Globals::gIncludeExercise, tr("Exercise: "), diary_.theExercises);
     printEstimated(Globals::gIncludeFood, tr("Food: "), diary_.theFoods);
-    page.makeRoom(0);
+    page.ensureLines(0);
 }
 
 } // namespace tallyvane

@@ -18,8 +18,8 @@ public:
     /// The main window, which must outlive the report. It keeps the details of the day that was printed last.
     explicit DiaryReport(Window1& diary) : diary_(diary) {}
 
-    /// Prints all days on the paper of the page set-up, which is made if there is none yet. Nothing when the print
-    /// dialog is cancelled, which offers a printer first, or a PDF of that name.
+    /// Prints all days on the paper of the page set-up, which is made if there is none yet. The print dialog offers a
+    /// PDF file of that name, or a printer without one; nothing is printed when it is cancelled.
     void PrintAll(const std::string& pdfName = "");
 
     void FilePrint_Action();

@@ -33,7 +33,7 @@ double ReportPage::detailWidth() const { return std::min(450.0, g_.Width() - det
 
 double ReportPage::baseline() const { return linesTop + g_.TextHeight() * line_; }
 
-void ReportPage::makeRoom(int lines) {
+void ReportPage::ensureLines(int lines) {
     if (line_ + lines <= limit_)
         return;
     g_.NextPage();

@@ -14,8 +14,7 @@ public:
     static constexpr std::size_t columns = 9;
     using Cells = std::array<std::string, columns>;
 
-    /// Pages of so many lines in the font now set. What a page lacks in width or height for them is made up by drawing
-    /// all of it smaller.
+    /// Pages of `limit` lines in the current font. If the paper is too small for them, everything is drawn smaller.
     ReportPage(Graphics& g, int limit);
 
     /// Width of the texts of a day, in points: 450, or what the page has.
@@ -31,8 +30,8 @@ public:
     void drawAverages(const Cells& cells);
 
     void skipLine() { ++line_; }
-    /// Goes on to a new page if so many lines more do not fit on this one.
-    void makeRoom(int lines);
+    /// Starts a new page if `lines` more do not fit on this one.
+    void ensureLines(int lines);
 
 private:
     double baseline() const;

@@ -24,7 +24,7 @@ std::optional<FolderItem> placeIn(const FolderItem& folder, std::string_view nam
 /// The first of "name", "name 2", "name 3" and so on that a folder does not hold yet; empty when that folder is not
 /// there.
 std::optional<FolderItem> freePlace(const FolderItem& folder, const std::string& name);
-/// The name of that number in such a row, from 1.
+/// The name with a number: "name" for 1, "name 2" for 2 and so on.
 std::string numbered(const std::string& name, int number);
 
 /// The application's own folder in the desktop's folder for application data. Empty where the desktop has none.
@@ -42,10 +42,11 @@ std::optional<TextInputStream> openText(const std::optional<FolderItem>& file);
 std::optional<TextOutputStream> createText(const std::optional<FolderItem>& file);
 
 inline constexpr std::string_view applicationName = "Tallyvane";
-inline constexpr std::string_view dayTable = "7VXData"; // in the data folder; all others in the application's folder
-inline constexpr std::string_view preferences = "Brindlemarks Preferences";
+// In the application's folder, unless noted
+inline constexpr std::string_view dayTable = "7VXData"; // in the data folder
+inline constexpr std::string_view preferences = "Brindlemarks Preferences"; // read here, written to the data folder
 inline constexpr std::string_view headings = "7VXHeadings";
-inline constexpr std::string_view runningLogs = "QVXLogData";
+inline constexpr std::string_view runningLogs = "QVXLogData"; // the logs window has one more in the inner folder
 inline constexpr std::string_view journal = "Tallyvane Journal";
 inline constexpr std::string_view windowData = "QVXWindowData";
 inline constexpr std::string_view contacts = "QVXContacts";

@@ -87,7 +87,7 @@ void EditHeadings::fill(const Headings& headings) {
 
 void EditHeadings::Event_Open() {
     getHeadings();
-    startedFromHeadings(texts());
+    setHeadingsBaseline(texts());
 }
 
 void EditHeadings::getHeadings() {

@@ -33,9 +33,9 @@ extern std::string gFood;
 extern std::string gJournal;
 extern std::string gMedication;
 
-/// The resources window is open, as the window itself keeps it.
+/// Whether the resources window is open; the window itself sets it.
 extern bool gFileWindowOpen;
-/// The toolbar has shown the resources window.
+/// Whether the toolbar's button last opened the resources window rather than closed it.
 extern bool gFilesOpen;
 /// A graph is being printed on a page that has its legend below the graph.
 extern bool gPrintingOn;

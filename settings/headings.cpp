@@ -42,6 +42,6 @@ std::string textOf(const Headings& headings) {
 
 void saveHeadings(const Headings& headings) { UnsavedFiles::save(userFile(), textOf(headings)); }
 
-void startedFromHeadings(const Headings& headings) { UnsavedFiles::startedFrom(userFile(), textOf(headings)); }
+void setHeadingsBaseline(const Headings& headings) { UnsavedFiles::setBaseline(userFile(), textOf(headings)); }
 
 } // namespace tallyvane

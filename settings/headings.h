@@ -15,10 +15,10 @@ using Headings = std::array<std::string, 13>;
 Headings defaultHeadings();
 /// The headings as they were saved; a file that is too short gives empty ones for the rest. Nothing without a file.
 [[nodiscard]] std::optional<Headings> readHeadings();
-/// Writes the file, a heading a line. It waits among the unsaved files when it can't be had, and when
-/// the disk fails, which throws IOException.
+/// Writes the file, one heading a line. If the file can't be opened, or writing fails (which throws IOException), the
+/// headings stay among the unsaved files.
 void saveHeadings(const Headings& headings);
-/// Takes down that these are what the program starts from.
-void startedFromHeadings(const Headings& headings);
+/// Sets these headings, as they were just read, as the baseline.
+void setHeadingsBaseline(const Headings& headings);
 
 } // namespace tallyvane

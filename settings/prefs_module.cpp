@@ -10,7 +10,7 @@
 namespace tallyvane::PrefsModule {
 
 std::string gDataLocation;
-std::function<void()> bringUpMainWindow;
+std::function<void()> createMainWindow;
 
 namespace {
 
@@ -109,10 +109,10 @@ void getPrefs() {
             read(*stream);
         else
             useDefaultFolder();
-        UnsavedFiles::startedFrom(userFile(), text());
+        UnsavedFiles::setBaseline(userFile(), text());
     }
-    if (bringUpMainWindow)
-        bringUpMainWindow();
+    if (createMainWindow)
+        createMainWindow();
 }
 
 void savePrefs() {

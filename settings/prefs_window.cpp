@@ -17,7 +17,7 @@ constexpr std::array<double*, 4> limits{&Globals::gOver, &Globals::gCaution, &Gl
 
 constexpr int zoneTop(int zone) { return 122 + 56 * zone; }
 constexpr Rect zoneMark(int zone) { return {56, zoneTop(zone) + 6, 15, 15}; }
-constexpr Rect groundOfMarks{50, zoneTop(0), 27, zoneTop(4) + 27 - zoneTop(0)};
+constexpr Rect backgroundOfLights{50, zoneTop(0), 27, zoneTop(4) + 27 - zoneTop(0)};
 constexpr Rect zoneName(int zone) { return {82, zoneTop(zone), 150, 26}; }
 constexpr Rect limitField(int limit) { return {240, zoneTop(limit) + 27, 90, 28}; }
 
@@ -30,7 +30,7 @@ PrefsWindow::PrefsWindow() {
         {&TabPanel1, {12, 12, 416, 436}},
         {&StaticText1, {28, 50, 384, 40}, lockLeft | lockTop, &TabPanel1, 0},
         {&CheckBox1, {28, 92, 384, 26}, lockLeft | lockTop, &TabPanel1, 0},
-        {&LightGround, groundOfMarks, lockLeft | lockTop, &TabPanel1, 0},
+        {&IndicatorBackground, backgroundOfLights, lockLeft | lockTop, &TabPanel1, 0},
         {&Canvas1, zoneMark(0), lockLeft | lockTop, &TabPanel1, 0},
         {&StaticText2, zoneName(0), lockLeft | lockTop, &TabPanel1, 0},
         {&EditField1, limitField(0), lockLeft | lockTop, &TabPanel1, 0},
@@ -58,7 +58,7 @@ void PrefsWindow::build() {
     StaticText1.Text(tr("Enter the limits for each blood glucose level. You can use either mmol/L or mg/dL"));
     StaticText1.Multiline(true);
     CheckBox1.Caption(tr("Show Indicator Lights"));
-    LightGround.Paint = [](Graphics& g) {
+    IndicatorBackground.Paint = [](Graphics& g) {
         g.ForeColor(RGB(186, 200, 220));
         g.FillRect(0, 0, g.Width(), g.Height());
         g.ForeColor(RGB(255, 255, 255));

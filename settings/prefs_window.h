@@ -20,12 +20,12 @@ public:
     Canvas Canvas1, Canvas2, Canvas3, Canvas4, Canvas5;
     StaticText StaticText2, StaticText3, StaticText4, StaticText5, StaticText6;
     TextField EditField1, EditField2, EditField3, EditField4;
-    Canvas LightGround; // behind the marks of the zones, whose colours are made for it
+    Canvas IndicatorBackground; // behind the marks of the zones, whose colours are made for it
     StaticText StaticText7; // the units
     PushButton PushButton1; // OK
     Timer Timer1; // saves and closes
 
-    /// Has the main window show its lights anew, shortly after.
+    /// Starts the main window's timer, which repaints the lights a moment later.
     std::function<void()> startIndicatorTimer;
 
     /// Throws IOException when the disk fails, and stays open.

@@ -20,7 +20,7 @@ std::optional<FolderItem> stateFolder() {
     return SpecialFolder::State ? SpecialFolder::State->Child(DataFiles::applicationName) : std::nullopt;
 }
 
-/// The folders of the ends of the program, the oldest first.
+/// The folders in which earlier runs kept files, the oldest first.
 std::vector<FolderItem> folders() {
     std::vector<FolderItem> found;
     const std::optional<FolderItem> state = stateFolder();
@@ -32,7 +32,7 @@ std::vector<FolderItem> folders() {
     return found;
 }
 
-/// What a folder still holds of its list.
+/// The files in a folder's list that are still there.
 std::vector<Rescued> filesIn(const FolderItem& folder) {
     std::vector<Rescued> files;
     std::optional<TextInputStream> list = DataFiles::openText(folder.Child(UnsavedFiles::listName));
@@ -86,7 +86,7 @@ void keep() {
     if (!SpecialFolder::State || UnsavedFiles::all().empty())
         return;
     SystemFiles::makeFolders(SpecialFolder::State->AbsolutePath() + "/" + std::string(DataFiles::applicationName));
-    const std::vector<Rescued> kept = offered();
+    const std::vector<Rescued> kept = pending();
     const auto isKept = [&kept](const UnsavedFiles::Unsaved& unsaved) { // by an end like this one
         const std::string place = unsaved.file.place ? unsaved.file.place->AbsolutePath() : "";
         return std::any_of(kept.begin(), kept.end(), [&](const Rescued& before) {
@@ -104,7 +104,7 @@ void keep() {
         static_cast<void>(UnsavedFiles::saveInto(*state, name)); // what it does not take stays unsaved
 }
 
-std::vector<Rescued> offered() {
+std::vector<Rescued> pending() {
     std::vector<Rescued> newest;
     for (Rescued& file : allKept()) {
         const auto known =
@@ -123,10 +123,10 @@ std::optional<Failure> putInPlace(const Rescued& file) {
         return Failure{tr("what was kept can't be read"), file.keptAt};
     const UnsavedFiles::UserFile target{file.what, file.name, GetFolderItem(file.place), false};
     try {
-        UnsavedFiles::keepPresent(file.place, *content);
+        UnsavedFiles::backUpCurrent(file.place, *content);
         SystemFiles::write(file.place, *content);
     } catch (const IOException& failure) { // it is shown all the same, and saved as soon as that is possible
-        UnsavedFiles::wait(target, *content, failure.why());
+        UnsavedFiles::addUnsaved(target, *content, failure.why());
         const std::string keptAt = settle(file);
         setAside(file); // those that were kept before it
         return Failure{failure.why(), keptAt};

@@ -20,8 +20,8 @@ struct Rescued {
 /// Keeps all unsaved files, each readable for its owner alone; those that are safe there no longer count as unsaved.
 void keep();
 
-/// What no start has settled: of each file the one that was kept last.
-std::vector<Rescued> offered();
+/// The files to offer at a start: kept, and neither put back nor set aside; of each file only the newest copy.
+std::vector<Rescued> pending();
 
 /// Why a file could not be put in its place, for the user, and where it is kept from here on.
 struct Failure {
@@ -29,12 +29,12 @@ struct Failure {
     std::string keptAt;
 };
 
-/// Puts a file in its place, keeps what stood there beside it, such as "7VXData before 2026-11-23", and sets aside what
-/// was kept of it before. When that can't be, the file waits among the unsaved ones, so that it is read and saved
-/// later, and is not offered again.
+/// Writes a kept file back to its place. What stands there is first copied beside it, such as "7VXData before
+/// 2026-11-23", and older kept copies are set aside. If writing fails the text becomes unsaved, so that it is shown now
+/// and saved later, and it is not offered again.
 std::optional<Failure> putInPlace(const Rescued& file);
 
-/// Leaves all that was kept of a file where it is, under names by which it is not offered again. The paths.
+/// Renames all kept copies of a file so that they are not offered again, and returns their new paths.
 std::vector<std::string> setAside(const Rescued& file);
 
 } // namespace tallyvane::RescuedFiles

@@ -16,7 +16,7 @@ std::string pathOf(const std::string& folder, const Date& day);
 /// The days of which the folder has a set, the newest first, those after today last.
 std::vector<Date> daysKept(const std::string& folder, const Date& today);
 
-/// Takes all sets away but the newest thirty. Those of days to come, from a clock that was wrong, go first.
+/// Removes all sets but the newest thirty. Sets dated after today, from a clock that was wrong, are removed first.
 void removeOld(const std::string& folder, const Date& today);
 
 } // namespace tallyvane::SnapshotSets

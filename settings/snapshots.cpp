@@ -12,7 +12,7 @@ namespace tallyvane::Snapshots {
 
 namespace {
 
-/// Of the application's folder. Details are not ours to write, and not lost.
+/// In the application's folder. `Details` is left out: the program only reads it.
 constexpr std::array<std::string_view, 7> outerFiles{
     DataFiles::preferences, DataFiles::headings, DataFiles::runningLogs, DataFiles::journal,
     DataFiles::windowData,  DataFiles::contacts, DataFiles::medications};
@@ -38,7 +38,7 @@ std::optional<std::string> snapshotsFolder() {
     return folder && isOfTheUsersTable ? std::optional(folder->AbsolutePath()) : std::nullopt;
 }
 
-/// A file that is not there is not missed; one that is and can't be read is.
+/// Skips a file that does not exist; throws for one that exists and can't be read.
 void copyIfThere(const std::string& from, const std::string& to) {
     if (const std::optional<std::string> content = SystemFiles::read(from))
         SystemFiles::write(to, *content);
@@ -62,7 +62,7 @@ void copyAll(const std::string& source, const std::string& target) {
         SystemFiles::write(fileIn(target, tableFolderFile), tableFolder());
 }
 
-/// Lines that have an end, and something before it.
+/// Counts the lines that are not empty and have a line end.
 int countDays(std::string_view table) {
     int days = 0;
     bool isEmpty = true;
@@ -74,7 +74,7 @@ int countDays(std::string_view table) {
     return days;
 }
 
-/// A power cut leaves blocks of zeros; our own last line has an end.
+/// Not whole: a table with zero bytes, which a power cut leaves, or without a line end after its last line.
 bool isWhole(std::string_view table) {
     return (table.ends_with('\n') || table.ends_with('\r')) && table.find('\0') == std::string_view::npos;
 }
@@ -107,7 +107,7 @@ bool tableIsUnreadable() {
     return SystemFiles::kindOf(tablePath()) == SystemFiles::Kind::file && !SystemFiles::read(tablePath());
 }
 
-std::optional<Copy> fullerThanTable(const Date& today) {
+std::optional<Copy> findFullerCopy(const Date& today) {
     const std::optional<std::string> folder = snapshotsFolder();
     const SystemFiles::Kind kind = SystemFiles::kindOf(tablePath());
     if (!folder || (kind != SystemFiles::Kind::none && kind != SystemFiles::Kind::file))
@@ -132,7 +132,7 @@ std::string keepDamagedTable(const Date& today) {
     return name;
 }
 
-void bringBack(const Copy& copy) {
+void restore(const Copy& copy) {
     const std::optional<std::string> days = SystemFiles::read(copy.path);
     if (!days)
         throw IOException("can't read " + copy.path);

@@ -19,15 +19,15 @@ void take(const Date& today);
 /// A copy of the day table.
 struct Copy {
     Date day;
-    int days = 0; // that it holds
-    int daysOfTable = 0; // that the table holds, whole ones
+    int days = 0; // in the copy
+    int daysOfTable = 0; // complete days in the table
     std::string path;
 };
 
-/// The newest copy up to today, by the days of the sets, that holds more days than the table, if the table is missing,
-/// empty, ends within a line or has lost blocks. Nothing for a table that is whole, while the user's data folder is
-/// away, and of copies of a table in another folder.
-[[nodiscard]] std::optional<Copy> fullerThanTable(const Date& today);
+/// The newest copy that holds more days than the table, if the table is missing, empty, ends within a line or has lost
+/// blocks. Copies dated after today are tried last. None if the table is whole or the user's data folder is missing;
+/// copies of a table in another folder do not count.
+[[nodiscard]] std::optional<Copy> findFullerCopy(const Date& today);
 
 /// Keeps what the table holds now under another name beside it, such as "7VXData damaged 2026-11-22", and tells that
 /// name. Throws IOException when the disk fails.
@@ -35,6 +35,6 @@ std::string keepDamagedTable(const Date& today);
 
 /// Makes the copy the table. Throws IOException when the copy can't be read or the disk fails; the table then is as it
 /// was.
-void bringBack(const Copy& copy);
+void restore(const Copy& copy);
 
 } // namespace tallyvane::Snapshots

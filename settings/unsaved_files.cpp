@@ -25,7 +25,7 @@ struct State {
     std::map<std::string, Known> known; // by place
 };
 
-/// Never destroyed: a lost display saves after all other objects are gone.
+/// Never destroyed: when the display is lost, the last save comes after all other objects have been destroyed.
 State& state() {
     static auto* const instance = new State;
     return *instance;
@@ -53,7 +53,7 @@ std::optional<std::size_t> hashAt(const std::optional<FolderItem>& place) {
 
 /// Makes the text the content of a file. Why that can't be, for the user; nothing when it is done. Throws IOException
 /// when writing fails.
-std::optional<std::string> writeOrTellWhy(const std::optional<FolderItem>& place, const std::string& text) {
+std::optional<std::string> writeOrReason(const std::optional<FolderItem>& place, const std::string& text) {
     if (!place)
         return tr("the desktop has no folder for it");
     const std::string& path = place->AbsolutePath();
@@ -88,8 +88,8 @@ UserFile UserFile::ofInnerFolder(std::string what, std::string_view name) {
     return ofApplication(std::move(what), std::string(DataFiles::applicationName) + "/" + std::string(name));
 }
 
-void startedFrom(const UserFile& file, const std::string& text) {
-    if (waitingFor(keyOf(file)) == state().waiting.end()) // else no disk has it
+void setBaseline(const UserFile& file, const std::string& text) {
+    if (waitingFor(keyOf(file)) == state().waiting.end()) // an unsaved text is not the baseline: the disk lacks it
         state().known[keyOf(file)] = {text, hashAt(file.place), false};
 }
 
@@ -98,9 +98,9 @@ bool save(const UserFile& file, const std::string& text) {
     const bool hasChanged = known == nullptr || known->text != text;
     const std::optional<std::size_t> onDisk = hashAt(file.place);
     const bool placeHasChanged = known != nullptr && known->onDisk != onDisk;
-    const bool isUnseen = onDisk && (known == nullptr || placeHasChanged); // what stands there now
+    const bool isForeign = onDisk && (known == nullptr || placeHasChanged); // content neither read nor written here
     const bool hasChangedHere = hasChanged || known->hasChangedHere;
-    if (isUnseen && !hasChangedHere && onDisk != hashOf("")) {
+    if (isForeign && !hasChangedHere && onDisk != hashOf("")) {
         forget(file);
         return true;
     }
@@ -108,11 +108,11 @@ bool save(const UserFile& file, const std::string& text) {
     try {
         if (file.makesFolders && file.place)
             SystemFiles::makeFolders(folderOf(file.place->AbsolutePath()));
-        if (isUnseen)
-            keepPresent(file.place->AbsolutePath(), text);
-        const std::optional<std::string> why = writeOrTellWhy(file.place, text);
+        if (isForeign)
+            backUpCurrent(file.place->AbsolutePath(), text);
+        const std::optional<std::string> why = writeOrReason(file.place, text);
         if (why && isLost)
-            wait(file, text, *why);
+            addUnsaved(file, text, *why);
         else
             forget(file);
         if (!why)
@@ -120,7 +120,7 @@ bool save(const UserFile& file, const std::string& text) {
         return !why;
     } catch (const IOException& failure) {
         if (isLost)
-            wait(file, text, failure.why());
+            addUnsaved(file, text, failure.why());
         throw;
     }
 }
@@ -129,7 +129,7 @@ bool saveIfChanged(const UserFile& file, const std::string& text) {
     const Known* known = knownOf(file);
     if (known == nullptr || known->text != text)
         return save(file, text);
-    forget(file); // what waits was taken back
+    forget(file); // the unsaved change was undone
     return true;
 }
 
@@ -138,7 +138,7 @@ std::optional<TextInputStream> openText(const UserFile& file) {
     return unsaved != state().waiting.end() ? TextInputStream(unsaved->text) : DataFiles::openText(file.place);
 }
 
-void wait(const UserFile& file, const std::string& text, const std::string& why) {
+void addUnsaved(const UserFile& file, const std::string& text, const std::string& why) {
     if (const auto known = waitingFor(keyOf(file)); known != state().waiting.end())
         *known = {file, text, why};
     else
@@ -193,7 +193,7 @@ void forget(const UserFile& file) {
 
 void forgetAll() { state() = {}; }
 
-std::string keepCopy(const FolderItem& folder, const std::string& name, const std::string& text) {
+std::string writeNewCopy(const FolderItem& folder, const std::string& name, const std::string& text) {
     for (int number = 1;; ++number) {
         const std::optional<FolderItem> place = folder.Child(DataFiles::numbered(name, number));
         if (!place)
@@ -207,13 +207,13 @@ std::string keepCopy(const FolderItem& folder, const std::string& name, const st
     }
 }
 
-void keepPresent(const std::string& place, const std::string& newText) {
+void backUpCurrent(const std::string& place, const std::string& newText) {
     const std::string present = SystemFiles::read(place).value_or("");
     if (present.empty() || present == newText)
         return;
     const std::size_t slash = place.rfind('/');
     if (const std::optional<FolderItem> folder = GetFolderItem(place.substr(0, slash)))
-        keepCopy(*folder, place.substr(slash + 1) + " before " + Date().isoDate(), present);
+        writeNewCopy(*folder, place.substr(slash + 1) + " before " + Date().isoDate(), present);
 }
 
 } // namespace tallyvane::UnsavedFiles

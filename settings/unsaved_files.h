@@ -35,13 +35,14 @@ struct Unsaved {
     std::string why; // for the user: "No space left on device"
 };
 
-/// Takes down what the program starts from: `text` is what a save would write if nothing is changed from here on. What
-/// comes to stand at the place in another way is never replaced unseen: it stays as long as nothing is changed here,
-/// and is kept beside the file otherwise.
-void startedFrom(const UserFile& file, const std::string& text);
+/// Sets the baseline of a file that was just read: `text` is what a save would write as long as the user changes
+/// nothing. If another program changes the file later, a save leaves that content alone while nothing has been changed
+/// here, and otherwise keeps it in a copy beside the file.
+void setBaseline(const UserFile& file, const std::string& text);
 
-/// Makes the text the content of the file. False, and the text waits, when the file can't be had; also when writing
-/// fails, which throws IOException. Nothing waits that has not changed, as long as its place has not changed either.
+/// Replaces the file's content by the text; true when that is done or not needed. Returns false if the file can't be
+/// opened, throws IOException if writing fails. Either way the text is then unsaved, unless neither it nor the file has
+/// changed since the file was last read or saved.
 bool save(const UserFile& file, const std::string& text);
 /// The same, but nothing for a text that has not changed since it was read or saved.
 bool saveIfChanged(const UserFile& file, const std::string& text);
@@ -49,8 +50,8 @@ bool saveIfChanged(const UserFile& file, const std::string& text);
 /// The text that waits for that file, or else the file; none where nothing waits and there is no file to read.
 std::optional<TextInputStream> openText(const UserFile& file);
 
-/// Has a text wait that no disk has.
-void wait(const UserFile& file, const std::string& text, const std::string& why);
+/// Adds a text that could not be written, with the reason, or replaces the unsaved text of the same file.
+void addUnsaved(const UserFile& file, const std::string& text, const std::string& why);
 
 /// What waits, in the order in which it first failed.
 const std::vector<Unsaved>& all();
@@ -65,16 +66,16 @@ std::optional<FolderItem> saveInto(const FolderItem& folder, const std::string& 
 /// In such a folder: a line for each file, with what it is, its name and its place.
 inline constexpr std::string_view listName = "Places";
 
-/// The file is no more, or the user gives its text up: nothing of it waits.
+/// Drops the unsaved text of a file: the file was deleted, or the user gave the text up.
 void forget(const UserFile& file);
-/// Of all files nothing waits, and nothing is known of what was read.
+/// Drops all unsaved texts and all baselines.
 void forgetAll();
 
-/// Writes a text into a file of that name, or "name 2" and so on where others are, unless one of them holds it already.
-/// The path; "" when it was there. Throws IOException when the disk fails.
-std::string keepCopy(const FolderItem& folder, const std::string& name, const std::string& text);
-/// Keeps what stands at a place beside it, such as "7VXData before 2026-11-23", if it is anything else than that text.
-/// Throws IOException when it can't be kept.
-void keepPresent(const std::string& place, const std::string& newText);
+/// Writes the text to a new file of that name, or "name 2" and so on, and returns its path. Returns "" if one of these
+/// files holds the text already. Throws IOException when the disk fails.
+std::string writeNewCopy(const FolderItem& folder, const std::string& name, const std::string& text);
+/// Copies what a file holds to a new file beside it, such as "7VXData before 2026-11-23", unless it is empty or equal
+/// to newText. Throws IOException when the copy can't be written.
+void backUpCurrent(const std::string& place, const std::string& newText);
 
 } // namespace tallyvane::UnsavedFiles

@@ -38,8 +38,8 @@ void showSingle(
 } // namespace
 
 App::App() : menuBar(MenuBar1()) {
-    PrefsModule::bringUpMainWindow = [this] { bringUpMainWindow(); };
-    beforeEnd = [this](int code) { return settleUnsaved(code); };
+    PrefsModule::createMainWindow = [this] { createMainWindow(); };
+    beforeEnd = [this](int code) { return resolveUnsaved(code); };
     menuBar.handlers = {
         {"FileQuit", [this] { FileQuit_Action(); }},
         {"FileAboutBrindlemarks", [this] { FileAboutBrindlemarks_Action(); }},
@@ -51,7 +51,7 @@ App::App() : menuBar(MenuBar1()) {
 }
 
 App::~App() {
-    PrefsModule::bringUpMainWindow = nullptr;
+    PrefsModule::createMainWindow = nullptr;
     beforeEnd = nullptr;
     StartUpManager::primaryWindow = nullptr;
 }
@@ -63,7 +63,7 @@ void App::Event_Open() {
     if (!StartupGlobals::gDataFolder && folder && !folder->Exists())
         static_cast<void>(folder->CreateAsFolder()); // without it the diary runs, and has nowhere to save
     if (!lock(folder)) {
-        giveWay();
+        wakeFirstAndQuit();
         return;
     }
     if (listenForSecondStart)
@@ -83,10 +83,10 @@ void App::Event_Open() {
         offerNewVersion(std::move(done));
     };
     windows_.splash->handedOver = [this] {
-        tellMissingDataFolder();
-        UnsavedWork::tellOfUnreadable();
-        tellKeptJournal();
-        hasHandedOver_ = true;
+        reportMissingDataFolder();
+        UnsavedWork::reportUnreadable();
+        reportKeptJournal();
+        startMessagesShown_ = true;
         showOffer();
         offerForImport(std::exchange(fileToImport_, ""));
     };
@@ -107,15 +107,15 @@ bool App::lock(const std::optional<FolderItem>& folder) {
     return true;
 }
 
-void App::giveWay() {
+void App::wakeFirstAndQuit() {
     if (wakeRunningProgram)
         wakeRunningProgram();
     Quit(0);
 }
 
-/// A table that can't be read must not be replaced by an empty one. One that the disk or the power took away is not
-/// brought back without a word. False when nothing is to be opened.
-bool App::tableIsReady() {
+/// Checks the day table before it is loaded, and replaces a damaged one by a copy if the user agrees. False when the
+/// program must end: the table can't be read (an empty one must not replace it), or the question was not answered.
+bool App::prepareTable() {
     if (Snapshots::tableIsUnreadable()) {
         MsgBox(
             tr("The file with your days is there and can't be read, in \u201c%1\u201d. Nothing is opened, so that it "
@@ -123,7 +123,7 @@ bool App::tableIsReady() {
                {StartupGlobals::gDataFolder->AbsolutePath()}));
         return false;
     }
-    const std::optional<Snapshots::Copy> copy = Snapshots::fullerThanTable(Date());
+    const std::optional<Snapshots::Copy> copy = Snapshots::findFullerCopy(Date());
     if (!copy)
         return true;
     const std::string kept = Snapshots::keepDamagedTable(Date());
@@ -133,32 +133,32 @@ bool App::tableIsReady() {
            {std::to_string(copy->daysOfTable), copy->day.ShortDate(), std::to_string(copy->days), kept}),
         tr("Bring It Back"), tr("Go On Without It"));
     if (answer == Answer::yes)
-        Snapshots::bringBack(*copy);
+        Snapshots::restore(*copy);
     return answer != Answer::none;
 }
 
-void App::bringUpMainWindow() {
+void App::createMainWindow() {
     if (!lock(StartupGlobals::gDataFolder)) {
         MsgBox(tr("The days in \u201c%1\u201d are open in another Tallyvane. Close that one first, then start again.",
                   {StartupGlobals::gDataFolder->AbsolutePath()}));
-        giveWay();
+        wakeFirstAndQuit();
         return;
     }
-    if (!tableIsReady()) {
+    if (!prepareTable()) {
         Quit(1);
         return;
     }
     Snapshots::take(Date()); // before anything is saved
     auto window = std::make_unique<Window1>(toolbar_, menuBar);
-    joinWindows(*window);
-    joinMenus(*window);
+    wireWindows(*window);
+    wireMenus(*window);
     window->Open();
     window->Visible(false);
     window->Timer1.Mode(Timer::ModeSingle);
     windows_.main = std::move(window); // only now: a table that could not be loaded must never be saved
 }
 
-void App::joinWindows(Window1& window) {
+void App::wireWindows(Window1& window) {
     window.showHeadingsEditor = [this] { showHeadingsEditor(); };
     window.autosave = [this] { Event_Deactivate(); };
     window.showLogs = [this] { showSingle(windows_.logs); };
@@ -174,7 +174,7 @@ void App::joinWindows(Window1& window) {
 }
 
 /// The items that hold only while the main window is in front.
-void App::joinMenus(Window1& window) {
+void App::wireMenus(Window1& window) {
     const Listbox& days = window.ListBox1;
     window.menuHandlers = {
         {"FileImportData", [this] { FileImportData_Action(); }},
@@ -195,7 +195,7 @@ void App::showHeadingsEditor() {
     });
 }
 
-void App::tellMissingDataFolder() {
+void App::reportMissingDataFolder() {
     const std::string& missing = StartupGlobals::gMissingDataFolder;
     if (missing.empty() || !StartupGlobals::gDataFolder)
         return;
@@ -204,7 +204,7 @@ void App::tellMissingDataFolder() {
               {missing, StartupGlobals::gDataFolder->AbsolutePath()}));
 }
 
-void App::tellKeptJournal() {
+void App::reportKeptJournal() {
     if (!windows_.main->keptJournal.empty())
         MsgBox(
             tr("The journal shows the file \u201cTallyvane Journal\u201d, as it does at every start while that file is "
@@ -215,7 +215,7 @@ void App::tellKeptJournal() {
 /// The offer belongs to the main window, and waits until that is there.
 void App::offerNewVersion(std::function<void()> done) {
     offerDone_ = std::move(done);
-    if (hasHandedOver_)
+    if (startMessagesShown_)
         showOffer();
 }
 
@@ -242,7 +242,7 @@ void App::comeToFront() {
 void App::offerForImport(const std::string& path) {
     if (path.empty())
         return;
-    if (!hasHandedOver_) {
+    if (!startMessagesShown_) {
         fileToImport_ = path;
         return;
     }
@@ -270,7 +270,7 @@ void App::run(const std::function<void()>& event) {
 }
 
 bool App::Event_UnhandledException() {
-    // Going to another program to make room for the diary saves again, and may fail again: one message is enough.
+    // While the message is up, each switch to another program saves again and may fail again: one message is enough.
     if (showingException_)
         return false;
     const ScopedFlag showing(showingException_);
@@ -279,7 +279,7 @@ bool App::Event_UnhandledException() {
 }
 
 void App::Event_Deactivate() {
-    if (!windows_.main || asksAboutUnsaved_)
+    if (!windows_.main || askingAboutUnsaved_)
         return;
     const auto saveOpenLogs = [this] {
         if (windows_.logs && windows_.logs->isOpen())
@@ -293,26 +293,26 @@ void App::Event_Deactivate() {
     }
     UnsavedFiles::tryAgain();
     if (UnsavedFiles::all().empty())
-        toldOfFailedSave_ = false;
-    else if (failure && !std::exchange(toldOfFailedSave_, true))
-        std::rethrow_exception(failure); // told once until all is saved, not at each look at another program
+        failedSaveReported_ = false;
+    else if (failure && !std::exchange(failedSaveReported_, true))
+        std::rethrow_exception(failure); // once until everything is saved, not at every switch to another program
 }
 
 void App::Event_EndRequested() {
-    endsUnasked_ = true;
-    if (asksAboutUnsaved_)
-        Desktop::current().quit(1); // takes the question away; what it was about is kept
+    endsWithoutQuestion_ = true;
+    if (askingAboutUnsaved_)
+        Desktop::current().quit(1); // closes the question; resolveUnsaved then keeps the files for the next start
     else
         FileQuit_Action();
 }
 
-/// What no disk has taken is the user's to decide, or is kept for the next start. The exit code.
-int App::settleUnsaved(int code) {
+/// Asks the user about unsaved files, or keeps them for the next start when nobody can be asked. Returns the exit code.
+int App::resolveUnsaved(int code) {
     UnsavedFiles::tryAgain(); // an hour after a full disk there may be room
     if (UnsavedFiles::all().empty())
         return code;
-    if (!endsUnasked_) {
-        const ScopedFlag asking(asksAboutUnsaved_);
+    if (!endsWithoutQuestion_) {
+        const ScopedFlag asking(askingAboutUnsaved_);
         switch (UnsavedWork::ask()) {
         case UnsavedWork::Outcome::saved:
             return code;

@@ -67,8 +67,8 @@ public:
     /// Opens the import for a file of that path, once the main window is there; "" for none.
     void offerForImport(const std::string& path);
 
-    /// Those that have been shown, in the order of the menus; null before. The main window is null before Event_Open,
-    /// and in a second start.
+    /// All windows; each is null until it is first shown. The main window is null before Event_Open, and in a second
+    /// start.
     struct Windows {
         std::unique_ptr<Window1> main;
         std::unique_ptr<SplashWindow> splash;
@@ -90,26 +90,26 @@ public:
 
 private:
     bool lock(const std::optional<FolderItem>& folder);
-    bool tableIsReady();
-    void bringUpMainWindow();
-    int settleUnsaved(int code);
-    void tellMissingDataFolder();
-    void tellKeptJournal();
+    bool prepareTable();
+    void createMainWindow();
+    int resolveUnsaved(int code);
+    void reportMissingDataFolder();
+    void reportKeptJournal();
     void offerNewVersion(std::function<void()> done);
     void showOffer();
-    void giveWay();
-    void joinWindows(Window1& window);
-    void joinMenus(Window1& window);
+    void wakeFirstAndQuit();
+    void wireWindows(Window1& window);
+    void wireMenus(Window1& window);
     void showHeadingsEditor();
 
     Toolbar1 toolbar_;
     bool showingException_ = false;
-    bool toldOfFailedSave_ = false; // since the last save that succeeded
-    bool asksAboutUnsaved_ = false;
-    bool endsUnasked_ = false;
+    bool failedSaveReported_ = false; // since the last save that succeeded
+    bool askingAboutUnsaved_ = false;
+    bool endsWithoutQuestion_ = false;
     std::vector<std::unique_ptr<SystemFiles::FolderLock>> folderLocks_;
     std::string fileToImport_; // a path that waits for the main window; "" for none
-    bool hasHandedOver_ = false; // the splash window, with all that had to be told
+    bool startMessagesShown_ = false; // the splash window, with all that had to be told
     std::function<void()> offerDone_; // of an offer that waits for the main window; empty for none
     Windows windows_;
 };

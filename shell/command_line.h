@@ -7,8 +7,7 @@ namespace tallyvane {
 
 /// What the program was called with: "--help", "--version", or a file of readings.
 struct CommandLine {
-    /// Of the arguments behind the program's name, without those that are the toolkit's. "--" makes a file of what
-    /// follows it.
+    /// Parses the arguments after the program's name, without those of the toolkit. After "--" everything is a file.
     explicit CommandLine(const std::vector<std::string>& arguments);
     /// The same before the toolkit has taken out its own, which begin with one "-" and may have values behind them:
     /// only what begins with "--" is looked at.

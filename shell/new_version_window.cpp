@@ -11,7 +11,7 @@ newVersionWindow::newVersionWindow(Window& owner, const std::string& appName) {
     Title("Tallyvane");
     place({
         {&StaticText1, {20, 16, 440, 70}},
-        // The harmless button is the first to have the keys: the offer can come while somebody types.
+        // The harmless button comes first and so has the focus: the offer can appear while the user is typing.
         {&PushButton2, {150, 104, 150, 30}},
         {&PushButton1, {310, 104, 150, 30}},
     });

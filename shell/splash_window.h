@@ -20,7 +20,7 @@ public:
     VersionCheckSocket VersionCheckSocket1;
     Timer Timer1;
 
-    /// What the end of the second brings.
+    /// Called when the second is over.
     std::function<void()> showPrimaryWindow;
     /// After that, with this window closed.
     std::function<void()> handedOver;

@@ -50,7 +50,7 @@ bool isInApplicationFolder(const std::string& path) {
     return folder && path.starts_with(folder->AbsolutePath() + "/");
 }
 
-void putInPlace(const std::vector<RescuedFiles::Rescued>& files, const FolderGuard& mayWriteIn) {
+void putInPlace(const std::vector<RescuedFiles::Rescued>& files, const FolderCheck& mayWriteIn) {
     std::string away;
     std::string failed;
     for (const RescuedFiles::Rescued& file : files) {
@@ -108,8 +108,8 @@ Outcome ask() {
     return Outcome::saved;
 }
 
-bool offerRescued(const FolderGuard& mayWriteIn) {
-    const std::vector<RescuedFiles::Rescued> files = RescuedFiles::offered();
+bool offerRescued(const FolderCheck& mayWriteIn) {
+    const std::vector<RescuedFiles::Rescued> files = RescuedFiles::pending();
     if (files.empty())
         return true;
     const Answer answer = Ask(tr("When Tallyvane was ended, these files could not be saved in their places:\n%1\n\nDo "
@@ -123,7 +123,7 @@ bool offerRescued(const FolderGuard& mayWriteIn) {
     return answer != Answer::none;
 }
 
-void tellOfUnreadable() {
+void reportUnreadable() {
     using namespace DataFiles;
     using enum SystemFiles::Kind;
     constexpr std::array names{preferences, headings, runningLogs, journal, contacts, medications};

@@ -18,13 +18,13 @@ enum class Outcome {
 /// Asks what to do about the files that still wait for a disk, until none waits or the user gives them up.
 [[nodiscard]] Outcome ask();
 
-/// Whether files in a folder may be written: not while another program holds it.
-using FolderGuard = std::function<bool(const std::optional<FolderItem>& folder)>;
+/// Tells whether files in a folder may be written: false while another program has the folder locked.
+using FolderCheck = std::function<bool(const std::optional<FolderItem>& folder)>;
 
 /// Offers what was kept at an end with nobody to ask. False when the program was ended before the user had answered.
-[[nodiscard]] bool offerRescued(const FolderGuard& mayWriteIn);
+[[nodiscard]] bool offerRescued(const FolderCheck& mayWriteIn);
 
 /// Tells of the user's files in whose place stands something that can be neither read nor written.
-void tellOfUnreadable();
+void reportUnreadable();
 
 } // namespace tallyvane::UnsavedWork

@@ -18,7 +18,7 @@ int PrinterSetup::HorizontalResolution() const {
 
 std::unique_ptr<Graphics> OpenPrinterDialog(const PrinterSetup* setup, const std::string& pdfName) {
     const Paper* paper = setup == nullptr ? nullptr : setup->paper();
-    const int resolution = setup == nullptr ? pointsAnInch : setup->HorizontalResolution();
+    const int resolution = setup == nullptr ? pointsPerInch : setup->HorizontalResolution();
     return Printers::current().openDialog(paper, resolution, pdfName);
 }
 

@@ -12,7 +12,7 @@
 
 namespace tallyvane {
 
-constexpr int pointsAnInch = 72;
+constexpr int pointsPerInch = 72;
 
 /// The paper as the user has set it up. A plain one is none: nothing can be printed on it.
 class Paper {
@@ -26,7 +26,7 @@ public:
     virtual double width() const { return 0; }
     virtual double height() const { return 0; }
     /// Dots to an inch that a surface counts in at most.
-    virtual int resolution() const { return pointsAnInch; }
+    virtual int resolution() const { return pointsPerInch; }
     /// Shows the page set-up dialog. False when the user cancelled.
     virtual bool ask() { return false; }
 };
@@ -54,8 +54,8 @@ public:
     [[nodiscard]] bool PageSetupDialog() { return paper_->ask(); }
 
     /// What the pages' resolution may be at most, in dots to an inch; -1 for that of the paper.
-    int MaxHorizontalResolution = pointsAnInch;
-    int MaxVerticalResolution = pointsAnInch;
+    int MaxHorizontalResolution = pointsPerInch;
+    int MaxVerticalResolution = pointsPerInch;
     /// What it is, across and down alike.
     int HorizontalResolution() const;
 

@@ -122,8 +122,8 @@ bool CellEditor::takesKey(const QKeyEvent& key) {
 
 void CellEditor::movePages(int pages) {
     const int before = list_->openRow();
-    const int rowsAPage = parentWidget()->height() / list_->DefaultRowHeight();
-    deliver([&] { list_->moveCell(pages * rowsAPage); });
+    const int rowsPerPage = parentWidget()->height() / list_->DefaultRowHeight();
+    deliver([&] { list_->moveCell(pages * rowsPerPage); });
     if (list_ != nullptr && list_->openRow() == before)
         QApplication::beep();
 }

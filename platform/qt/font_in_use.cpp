@@ -11,12 +11,12 @@ namespace tallyvane {
 namespace {
 
 QFont fontOf(const std::string& name, float size, TextStyle style, const QPaintDevice& device) {
-    constexpr double pointsAnInch = 72;
+    constexpr double pointsPerInch = 72;
     QFont font = QGuiApplication::font();
     if (name != "System")
         font.setFamily(toQt(name));
     // By points and the device's resolution, since pixel sizes of fonts are whole and a print needs 37.5.
-    font.setPointSizeF(std::max(1.0, static_cast<double>(size)) * pointsAnInch / device.logicalDpiY());
+    font.setPointSizeF(std::max(1.0, static_cast<double>(size)) * pointsPerInch / device.logicalDpiY());
     // Paper has no pixels to fit letters to. Qt also keeps these letters apart from those on the screen that way:
     // shared ones would take over the printer's idea of a point, and menus would be written in dots.
     if (device.devType() == QInternal::Printer)

@@ -34,7 +34,7 @@ QVariant ListboxModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
         return toQt(shown(list_.Cell(index.row(), index.column())));
     case Qt::AccessibleTextRole:
-        return toQt(spoken(index.row(), index.column()));
+        return toQt(accessibleText(index.row(), index.column()));
     case Qt::ToolTipRole:
         return toQt(tip(index.row(), index.column()));
     default:
@@ -42,7 +42,7 @@ QVariant ListboxModel::data(const QModelIndex& index, int role) const {
     }
 }
 
-std::string ListboxModel::spoken(int row, int column) const {
+std::string ListboxModel::accessibleText(int row, int column) const {
     if (list_.CellDescription)
         return shown(list_.CellDescription(row, column));
     const std::string heading = list_.Heading(column).empty() ? "" : shown(list_.Heading(column)) + ", ";

@@ -34,7 +34,7 @@ public:
     const std::vector<int>& widths() const { return widths_; }
 
 private:
-    std::string spoken(int row, int column) const;
+    std::string accessibleText(int row, int column) const;
     std::string tip(int row, int column) const;
 
     const Listbox& list_;

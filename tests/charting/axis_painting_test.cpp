@@ -65,7 +65,7 @@ TEST(AxisPainting, PlaceOfTitleLineTickAndLabel) {
     check(
         "y at the right, margin, longer title", vertical, {right, margin(5), title("abcd")},
         {"picture 40 58", "  string 3 12 'abcd' down", "line 15 20 15 120", "line 15 100 19 100", "text 22 100 '2.0'"});
-    check("x, margin of 5 at 144 dots an inch", horizontal, {margin(5), dotsAnInch(144)},
+    check("x, margin of 5 at 144 dots an inch", horizontal, {margin(5), dotsPerInch(144)},
           {"text 48 86 'ab'", "line 10 30 110 30", "line 30 30 30 38", "text 24 62 '2'"});
     check("y at the right, horizontal title", vertical, {right, horizontalTitle},
           {"text 35 70 'ab'", "line 10 20 10 120", "line 10 100 14 100", "text 17 100 '2.0'"});
@@ -76,8 +76,8 @@ TEST(AxisPainting, PlaceOfTitleLineTickAndLabel) {
            "  string 9 9 '2.0' up"});
     // At 300 dots an inch everything is cut to whole dots, of a scale of 4.1667: text 50, ticks 16.67 + 12.5; labels
     // "8.0" of 75.
-    const Ways fine{title(""), dotsAnInch(300)};
-    const Ways fineBeyond{title(""), dotsAnInch(300), top, right};
+    const Ways fine{title(""), dotsPerInch(300)};
+    const Ways fineBeyond{title(""), dotsPerInch(300), top, right};
     check("fine, bottom", horizontal, fine, {"line 10 20 110 20", "line 30 20 30 36", "text 17 85 '2'"});
     check("fine, top", horizontal, fineBeyond,
           {"line 10 149.167 110 149.167", "line 30 149 30 132", "text 17 106 '2'"});
@@ -173,7 +173,7 @@ TEST(AxisPainting, BaseLines) {
 TEST(AxisPainting, ColoursPensAndFonts) {
     for (const int type : {horizontal, vertical}) {
         GTAxis axis(type);
-        setUp(axis, {range(0, 10), dotsAnInch(144), title("ab"), verticalTitle});
+        setUp(axis, {range(0, 10), dotsPerInch(144), title("ab"), verticalTitle});
         axis.textFont = "Verdana";
         axis.textColor = 0x111111;
         axis.GridPenColor(0x222222);

@@ -57,7 +57,7 @@ List places(int type, Part part, const Ways& ways) {
     return found;
 }
 
-TEST(AxisTicks, ThePaintersStepInThreeUnlikeWays) {
+TEST(AxisTicks, HorizontalVerticalAndGridPaintersStepDifferently) {
     const auto axis = [](int type, const Ways& ways) { return places(type, Part::line, ways); };
     const auto grid = [](int type, const Ways& ways) { return places(type, Part::grid, ways); };
     EXPECT_EQ(axis(horizontal, {}), (List{0, 20, 40, 60, 80, 100, 109})) << "20 each; the last stands inside the end";
@@ -74,7 +74,7 @@ TEST(AxisTicks, ThePaintersStepInThreeUnlikeWays) {
     EXPECT_EQ(axis(horizontal, {range(0, 1), step(0.001)}).size(), 111U) << "no step is smaller than a unit";
 }
 
-TEST(AxisTicks, EveryWalkEnds) {
+TEST(AxisTicks, EveryTickLoopEnds) {
     for (const int type : {horizontal, vertical})
         for (const double increment : {0.0, -1.0, 1e-300, 1e300, infinite})
             for (const double max : {0.0, 1.0, 1e308, infinite, notANumber}) {
@@ -90,7 +90,7 @@ TEST(AxisTicks, EveryWalkEnds) {
             }
 }
 
-TEST(AxisTicks, StepsThatNoBinaryNumberHoldsEndWhereTheyShould) {
+TEST(AxisTicks, InexactBinaryStepsEndAtTheRightTick) {
     const auto labels = [](double max, double increment, int length) {
         GTAxis axis(vertical);
         axis.SetRange(0, max);
@@ -194,12 +194,12 @@ TEST(AxisTicks, RoomBesideThePlot) {
     check("x: no labels", horizontal, {noLabels}, 12 + 7);
     check("x: title, ticks, labels, margin", horizontal, {margin(5)}, 12 + 7 + 12 + 5);
     check("x: vertical labels, '8.0' to '88.0'", horizontal, {verticalLabels}, 12 + 7 + 24);
-    check("x: at 300 dots an inch, cut to whole dots", horizontal, {dotsAnInch(300)}, 50 + 29 + 50);
+    check("x: at 300 dots an inch, cut to whole dots", horizontal, {dotsPerInch(300)}, 50 + 29 + 50);
     check("x: invisible", horizontal, {invisible}, 0);
     check("y: horizontal title", vertical, {title("abc"), horizontalTitle}, 18 + 7 + 24);
     check("y: vertical labels", vertical, {verticalLabels}, 12 + 7 + 12);
     check("y: by 100, '.0'", vertical, {step(100)}, 12 + 7 + 12);
-    check("y: at 300 dots an inch, '8.0'", vertical, {dotsAnInch(300), range(0, 10)}, 50 + 29 + 75, 100);
+    check("y: at 300 dots an inch, '8.0'", vertical, {dotsPerInch(300), range(0, 10)}, 50 + 29 + 75, 100);
 }
 
 TEST(AxisTicks, RoomOnceTakenByVerticalLabelsStays) {

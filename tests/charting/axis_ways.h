@@ -28,7 +28,7 @@ inline const Way inPercent = [](GTAxis& a) { a.tickType(GTAxis::percent); };
 
 inline const auto title = [](const std::string& text) { return Way([=](GTAxis& a) { a.text(text); }); };
 inline const auto margin = [](int points) { return Way([=](GTAxis& a) { a.innerMargin(points); }); };
-inline const auto dotsAnInch = [](int dots) { return Way([=](GTAxis& a) { a.Resolution(dots); }); };
+inline const auto dotsPerInch = [](int dots) { return Way([=](GTAxis& a) { a.Resolution(dots); }); };
 inline const auto range = [](double min, double max) { return Way([=](GTAxis& a) { a.SetRange(min, max); }); };
 inline const auto step = [](double increment) { return Way([=](GTAxis& a) { a.tickIncrement(increment); }); };
 inline const auto ticks = [](int count) { return Way([=](GTAxis& a) { a.tickCount(count); }); };

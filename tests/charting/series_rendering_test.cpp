@@ -245,7 +245,7 @@ Lines pieces(int type, const Points& points, const Change& set = nullptr) {
     return dataDrawn(series);
 }
 
-TEST(PieceRendering, ColumnsAndBars) {
+TEST(ColumnBarPieRendering, ColumnsAndBars) {
     // The filled rectangles, each followed by its outline.
     const auto check = [](const char* name, int type, const Points& points, const Lines& want,
                           const Change& set = nullptr) {
@@ -292,7 +292,7 @@ TEST(PieceRendering, ColumnsAndBars) {
     check("nothing", GTSeries::totalColumn, {}, {});
 }
 
-TEST(PieceRendering, RangesOnlyWidenAndTheCategoriesAreCounted) {
+TEST(ColumnBarPieRendering, RangesOnlyWidenAndTheCategoriesAreCounted) {
     // Points at 1 and 5, with totals of 12 and 10; the range that was set before is x 2 to 90, y 3 to 8.
     const auto check = [](int type, const std::vector<double>& want, const std::pair<int, int>& ticks) {
         pieces(type, {{1, {3, 9}}, {5, {4, 6}}}, [&](GTSeries& series) {
@@ -311,7 +311,7 @@ TEST(PieceRendering, RangesOnlyWidenAndTheCategoriesAreCounted) {
     check(GTSeries::clusteredBar, {2, 90, 1, 8}, {0, 3});
 }
 
-TEST(PieceRendering, ColoursAndLabels) {
+TEST(ColumnBarPieRendering, ColoursAndLabels) {
     GTSeries series(GTSeries::totalColumn);
     series.PenColor(0x102030);
     series.dataLabelsVisible = true;
@@ -346,7 +346,7 @@ TEST(PieceRendering, ColoursAndLabels) {
     EXPECT_EQ(only("text", pieces(GTSeries::clusteredColumn, {{0, {4}}, {1, {0}}}, labelled)), Lines());
 }
 
-TEST(PieceRendering, Pies) {
+TEST(ColumnBarPieRendering, Pies) {
     // Centre 60, 45, radius 25, labels at 18.75. A slice has the colour of its point's place.
     const auto check = [](const char* name, const std::vector<double>& values, Color first, const Lines& want) {
         GTSeries series(GTSeries::pie);

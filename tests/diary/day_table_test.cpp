@@ -61,7 +61,7 @@ TEST_F(DayTableTest, BytesThatAreNotTouchedAreWrittenBackAsTheyWere) {
     }
 }
 
-TEST_F(DayTableTest, AnyBytesAsAFileLoadAndReadTheSameOnceSaved) {
+TEST_F(DayTableTest, ArbitraryBytesReadTheSameAfterASave) {
     std::mt19937 random(43);
     const std::string pieces[] = {"@#@",  "@",        "#",        "\n", "\r", "\r\n", std::string(1, '\0'),
                                   "\xFF", "\xE2\x82", "1/1/2026", "5.6"};

@@ -26,7 +26,7 @@ protected:
     }
 };
 
-TEST_F(FilesTest, LinesEndWithCrLfOrBoth) {
+TEST_F(FilesTest, LinesEndWithCrOrLfOrCrLf) {
     const auto check = [](const char* name, std::string text, const Texts& want) {
         TextInputStream stream(std::move(text));
         Texts lines;

@@ -18,7 +18,7 @@ public:
     }
 };
 
-TEST(Menus, AnItemIsEnabledWhenSomethingAnswersItAndItsRuleAllows) {
+TEST(Menus, AnItemIsEnabledWhenItHasAHandlerAndItsRuleAllows) {
     MenuBar bar({{"Menu",
                   "Menu",
                   {{"Everywhere", "Everywhere"},

@@ -44,7 +44,7 @@ TEST(Text, PlacesCountCharactersAndBytesThatAreNoUtf8CountOne) {
     checkBroken("NUL", std::string("a\0b", 3), 3);
 }
 
-TEST(Text, EndsOutsideOfTheTextAreTakenAsItsEnds) {
+TEST(Text, PlacesOutsideTheTextAreClamped) {
     EXPECT_EQ(Left("abc", 9), "abc");
     EXPECT_EQ(Left("abc", -1), "");
     EXPECT_EQ(Right("abc", 9), "abc");
@@ -73,7 +73,7 @@ TEST(Text, CharactersAndTrimming) {
     EXPECT_EQ(Trim(" \n"), "");
 }
 
-TEST(Text, MarksOfTheByteOrder) {
+TEST(Text, ByteOrderMarks) {
     const auto check = [](const char* name, const std::string& file, const char* want) {
         EXPECT_EQ(withoutByteOrderMark(file), want) << name;
     };

@@ -84,7 +84,7 @@ TEST_F(CellEditorTest, NoKeyReachesTheListWhileACellIsOpen) {
     EXPECT_EQ(list().openRow(), 3);
 }
 
-TEST_F(CellEditorTest, NobodyTypesIntoADayWhileOthersAreMarked) {
+TEST_F(CellEditorTest, AnOpenCellIsClosedWhenOtherDaysAreSelected) {
     click(3, 1);
     QTest::keyClicks(editor(), "7");
     list().AddRows({{"2/1/2026", "5"}, {"2/2/2026", "6"}}); // as an import does
@@ -148,7 +148,7 @@ TEST_F(CellEditorTest, TheOpenCellStaysWithItsRowWhileTheListScrollsUntilTheFocu
     EXPECT_EQ(list().Cell(3, 1), "8");
 }
 
-TEST_F(CellEditorTest, BytesThatAreNoTextSurviveALook) {
+TEST_F(CellEditorTest, InvalidUtf8SurvivesOpeningTheCell) {
     list().Cell(2, 1, "\xFF\xFE");
     click(2, 1);
     EXPECT_EQ(editor()->text(), QString(2, QChar(0xFFFD)));

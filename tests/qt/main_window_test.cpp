@@ -98,7 +98,7 @@ TEST_F(MainWindowTest, ADoubleClickInTheCalendarAddsThatDay) {
     EXPECT_EQ(list().Cell(0, 0), "3/4/2026");
 }
 
-TEST_F(MainWindowTest, ItemsWithoutAnAnswerAreOff) {
+TEST_F(MainWindowTest, MenuItemsWithoutAHandlerAreDisabled) {
     start();
     std::set<std::string> enabled;
     for (const QAction* menu : frame_->menuBar()->actions()) {
@@ -235,14 +235,14 @@ TEST_F(MainWindowTest, AWindowFromAScreenThatIsGoneComesBackIntoSight) {
     EXPECT_TRUE(QGuiApplication::primaryScreen()->geometry().contains(frame_->geometry().center()));
 }
 
-TEST_F(MainWindowTest, AWindowThatCanStillBeGotHoldOfStaysWhereItWas) {
+TEST_F(MainWindowTest, AWindowWithItsTitleBarInReachStaysWhereItWas) {
     const int left = QGuiApplication::primaryScreen()->geometry().right() - 60;
     write(applicationFile("QVXWindowData"), std::to_string(left) + "\n100\n746\n518\n");
     start();
     EXPECT_EQ(frame_->x(), left);
 }
 
-TEST_F(MainWindowTest, TheGraphGrowsWithItsWindowAndAnswersThePrintItem) {
+TEST_F(MainWindowTest, TheGraphGrowsWithItsWindowAndHandlesThePrintItem) {
     startOn("1/1/2026@#@5\n1/2/2026@#@7\n");
     list().select({true, true});
     app_->windows().main->showGraph();
@@ -264,7 +264,7 @@ TEST_F(MainWindowTest, TheGraphGrowsWithItsWindowAndAnswersThePrintItem) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return print->isEnabled(); }));
 }
 
-TEST_F(MainWindowTest, ReadingsStandUnderTheirHeadingsWhereOneWritesFromTheRight) {
+TEST_F(MainWindowTest, ReadingsStandUnderTheirHeadingsInRightToLeftLayout) {
     const std::string days = "1/1/2026@#@5.6@#@7@#@@#@13.1\n";
     startOn(days);
     const QImage before = frame_->grab().toImage();

@@ -255,7 +255,7 @@ TEST(Painter, ABitmapIsClearUntilItIsDrawnOn) {
               (Pixels{"......", "......", "...##.", "...##."}));
 }
 
-TEST(Painter, NoPlaceIsTooFar) {
+TEST(Painter, HugeAndNonFiniteCoordinatesAreSafe) {
     const QtToolkit toolkit;
     const auto drawTo = [](Graphics& g, double near, double far) {
         g.DrawLine(near, 10, far, 20);

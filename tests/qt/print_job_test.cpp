@@ -64,7 +64,7 @@ TEST(PrintJob, APageShrinksForWhatIsHigher) {
     EXPECT_DOUBLE_EQ(job->Height(), 1512);
 }
 
-TEST(PrintJob, TicksOnPaperCanBeTold) {
+TEST(PrintJob, PaperResolutionLeavesRoomForTickLabels) {
     const QtPaper paper;
     EXPECT_GE(paper.resolution(), 72);
     EXPECT_LE(paper.resolution(), 100) << "20 dots hold a label of 12 points";

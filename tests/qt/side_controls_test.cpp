@@ -126,7 +126,7 @@ TEST_F(SideControlsTest, DropsAreCopies) {
     EXPECT_FALSE(table_->acceptDrops() && app_->windows().main->ListBox1.DropObject) << "the table of days takes none";
 }
 
-TEST_F(SideControlsTest, WhatIsTooLongEndsInDotsAndShowsWholeInATip) {
+TEST_F(SideControlsTest, TextThatIsTooLongIsElidedAndShownInAToolTip) {
     const QString longName = "After the second breakfast";
     Texts headings(13, fromQt(longName));
     std::string file;
@@ -151,7 +151,7 @@ TEST_F(SideControlsTest, WhatIsTooLongEndsInDotsAndShowsWholeInATip) {
     EXPECT_EQ(heading(0, Qt::ToolTipRole), "");
 }
 
-TEST_F(SideControlsTest, ATipOfWhatIsCutLastsAsLongAsTheCut) {
+TEST_F(SideControlsTest, TheToolTipOfElidedTextStaysUntilTheTextFits) {
     StaticText label;
     CheckBox box;
     label.size(60, 20);

@@ -126,7 +126,7 @@ TEST_F(VersionCheckTest, AnotherHostIsNotAsked) {
     EXPECT_FALSE(server.requests.empty());
 }
 
-TEST_F(VersionCheckTest, NobodyThere) {
+TEST_F(VersionCheckTest, AnUnreachableServerIsIgnored) {
     const std::string address = Server({}, Server::End::waits).address();
     Socket socket;
     VersionCheck::doVersionCheck(socket, address);

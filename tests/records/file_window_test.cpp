@@ -149,7 +149,7 @@ TEST_F(FileWindowTest, WhatCannotBeKeptOrOpenedIsTold) {
     EXPECT_EQ(files_.ListBox1.Cell(0, 0), "a##b") << "it would split the entry";
 }
 
-TEST_F(FileWindowTest, AFileThatCannotBeWrittenCostsNothingOnShow) {
+TEST_F(FileWindowTest, AFailedSaveLeavesTheShownEntriesAlone) {
     openWith("a@@@www.b\n");
     std::filesystem::remove(list());
     std::filesystem::create_directory(list()); // no plain file any more

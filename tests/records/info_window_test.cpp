@@ -47,7 +47,7 @@ TEST_F(InfoWindowTest, WhatWasReadIsWrittenAgain) {
     EXPECT_EQ(read(applicationFile("QVXMedications")), medications);
 }
 
-TEST_F(InfoWindowTest, WhatNoFolderTookIsThereAgain) {
+TEST_F(InfoWindowTest, UnsavedListsAreShownWhenTheWindowOpensAgain) {
     const auto typedThenOpenedAgain = [](const std::string& name) {
         {
             InfoWindow first;
@@ -71,7 +71,7 @@ TEST_F(InfoWindowTest, WhatNoFolderTookIsThereAgain) {
     EXPECT_EQ(typedThenOpenedAgain("Dr B"), "Dr B") << "a desktop without a folder for it";
 }
 
-TEST_F(InfoWindowTest, AFailureOfOneFileDoesNotCostTheOther) {
+TEST_F(InfoWindowTest, AFailedSaveDoesNotPreventTheOther) {
     openWith("Doctor\n", "Aspirin\n");
     info_.EditField2.userChanged("Dr A\r\nof Town", 0, 0); // pasted
     info_.ListBox2.Cell(0, 1, "100");

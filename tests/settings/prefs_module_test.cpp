@@ -14,11 +14,11 @@ protected:
     void SetUp() override {
         TestDesk::SetUp();
         makeApplicationFolder();
-        PrefsModule::bringUpMainWindow = [this] { ++windowsBroughtUp_; };
+        PrefsModule::createMainWindow = [this] { ++windowsCreated_; };
     }
     void TearDown() override {
-        EXPECT_EQ(windowsBroughtUp_, reads_) << "the main window comes on every path";
-        PrefsModule::bringUpMainWindow = nullptr;
+        EXPECT_EQ(windowsCreated_, reads_) << "the main window comes on every path";
+        PrefsModule::createMainWindow = nullptr;
         TestDesk::TearDown();
     }
 
@@ -33,7 +33,7 @@ protected:
     static std::string dataFolder() { return StartupGlobals::gDataFolder->AbsolutePath(); }
 
     int reads_ = 0;
-    int windowsBroughtUp_ = 0;
+    int windowsCreated_ = 0;
 };
 
 TEST_F(PrefsTest, WithoutAFileTheDefaultsStand) {
@@ -55,7 +55,7 @@ TEST_F(PrefsTest, WithoutAFileTheDefaultsStand) {
 TEST_F(PrefsTest, WhatTheDiskDidNotTakeIsReadBeforeWhatItHolds) {
     write(applicationFile("Brindlemarks Preferences"), "true\n13\n");
     const auto place = GetFolderItem(applicationFile("Brindlemarks Preferences").string());
-    UnsavedFiles::wait({"The preferences", "Brindlemarks Preferences", place}, "true\n180\n", "the disk is full");
+    UnsavedFiles::addUnsaved({"The preferences", "Brindlemarks Preferences", place}, "true\n180\n", "the disk is full");
     getPrefs();
     EXPECT_EQ(Globals::gOver, 180);
     PrefsModule::savePrefs();
@@ -103,7 +103,7 @@ TEST_F(PrefsTest, WithoutAnyPlaceNothingIsSettled) {
     EXPECT_EQ(PrefsModule::gDataLocation, "");
 }
 
-TEST_F(PrefsTest, AMissingDataFolderGivesWayToTheApplicationFolder) {
+TEST_F(PrefsTest, AMissingDataFolderIsReplacedByTheApplicationFolder) {
     write(folder_ / "file", "");
     std::filesystem::create_directory(folder_ / "days");
     const auto check = [this](const std::string& path, bool isThere) {

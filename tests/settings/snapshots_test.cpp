@@ -104,7 +104,7 @@ TEST_F(SnapshotsTest, AFullerCopyIsFoundForATableThatIsNotWhole) {
     const Date today(2026, 11, 22);
     const auto found = [&](const std::string& content) {
         write(table(), content);
-        const std::optional<Snapshots::Copy> copy = Snapshots::fullerThanTable(today);
+        const std::optional<Snapshots::Copy> copy = Snapshots::findFullerCopy(today);
         return copy ? copy->day.Day() : 0;
     };
     EXPECT_EQ(found(""), 21) << "the newest that holds more";
@@ -115,21 +115,21 @@ TEST_F(SnapshotsTest, AFullerCopyIsFoundForATableThatIsNotWhole) {
     EXPECT_EQ(found("1/1/2026@#@5\n"), 0) << "days were taken out, and the table is whole";
     EXPECT_EQ(found("1/1/2026@#@5\r"), 0) << "line ends of another system";
     std::filesystem::remove(table());
-    EXPECT_EQ(Snapshots::fullerThanTable(today)->days, 1);
+    EXPECT_EQ(Snapshots::findFullerCopy(today)->days, 1);
 
     StartupGlobals::gMissingDataFolder = "/no/such/folder";
-    EXPECT_FALSE(Snapshots::fullerThanTable(today)) << "the table is somewhere else";
+    EXPECT_FALSE(Snapshots::findFullerCopy(today)) << "the table is somewhere else";
     StartupGlobals::gMissingDataFolder.clear();
     StartupGlobals::gDataFolder = GetFolderItem(folder_.string());
-    EXPECT_FALSE(Snapshots::fullerThanTable(today)) << "the copies are of a table in another folder";
+    EXPECT_FALSE(Snapshots::findFullerCopy(today)) << "the copies are of a table in another folder";
     StartupGlobals::gDataFolder = DataFiles::applicationFolder();
     std::filesystem::create_directory(table());
-    EXPECT_FALSE(Snapshots::fullerThanTable(today)) << "what stands there is not ours";
+    EXPECT_FALSE(Snapshots::findFullerCopy(today)) << "what stands there is not ours";
 }
 
 TEST_F(SnapshotsTest, ACopyThatCannotBeReadLeavesTheTableAlone) {
     write(table(), "1/1/2026@#@5\n1/2/20");
-    EXPECT_THROW(Snapshots::bringBack({Date(2026, 11, 20), 3, 1, copyOf("2026-11-20", "7VXData")}), IOException);
+    EXPECT_THROW(Snapshots::restore({Date(2026, 11, 20), 3, 1, copyOf("2026-11-20", "7VXData")}), IOException);
     EXPECT_EQ(read(table()), "1/1/2026@#@5\n1/2/20");
 }
 

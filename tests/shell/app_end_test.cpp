@@ -71,7 +71,7 @@ TEST_F(AppEndTest, AFullDiskIsTriedAgainAndTheWindowsPlaceNeverStopsTheEnd) {
     EXPECT_EQ(read(applicationFile("QVXLogData")), "@#@@#@felt well@#@\n");
 }
 
-TEST_F(AppEndTest, WhatWaitsIsReadWhenItsWindowOpensAgain) {
+TEST_F(AppEndTest, UnsavedTextIsShownWhenItsWindowOpensAgain) {
     app_->windows().main->showLogs();
     std::filesystem::create_directory(applicationFile("Tallyvane"));
     std::filesystem::create_directory(applicationFile("Tallyvane") / "QVXLogData");

@@ -174,7 +174,7 @@ TEST_F(AppTest, AnyBytesInAnyFileStartAndEnd) {
     EXPECT_EQ(toolkit_.quits, std::vector<int>(40, 0));
 }
 
-TEST_F(AppTest, AFolderThatTakesNoFilesIsBorneInSilence) {
+TEST_F(AppTest, AnUnwritableFolderIsReportedOnlyAtTheEnd) {
     preferFolder("/proc/self/task");
     app_.Event_Open();
     EXPECT_EQ(StartupGlobals::gDataFolder->AbsolutePath(), "/proc/self/task");
@@ -222,7 +222,7 @@ TEST(CommandLine, OptionsAndAFile) {
     EXPECT_FALSE(CommandLine::beforeToolkit({"--version", "--bogus"}).error.empty());
 }
 
-TEST_F(AppTest, MenuItemsAnswerOrAreOff) {
+TEST_F(AppTest, MenuItemsWithoutAHandlerAreDisabled) {
     app_.Event_Open();
     EXPECT_EQ(enabledItems(nullptr), (Texts{"FileQuit", "FileExportData", "FileAboutBrindlemarks", "FilePreferences",
                                             "HelpUsersGuide", "HelpSupportForum"}));
@@ -307,7 +307,7 @@ TEST_F(AppTest, WhatIsOpenIsSavedWhenTheDisplayGoes) {
     EXPECT_EQ(read(applicationFile("Tallyvane") / "QVXLogData"), "@#@bread@#@@#@\n");
 }
 
-TEST_F(AppTest, AFileThatCannotBeSavedDoesNotCostTheOthers) {
+TEST_F(AppTest, AFailedSaveDoesNotPreventTheOthers) {
     app_.Event_Open();
     press("HeadingsBtn");
     press("LogsBtn");

@@ -45,7 +45,7 @@ TEST_F(NewVersionTest, TheOfferWaitsForTheMainWindow) {
     EXPECT_FALSE(fileIsThere());
 }
 
-TEST_F(NewVersionTest, LaterIsLater) {
+TEST_F(NewVersionTest, DownloadLaterOpensNoPage) {
     app_.windows().splash->Timer1.fire();
     answer("Tallyvane\n1.1.8\n");
     app_.windows().newVersion->PushButton2.Action();
@@ -60,7 +60,7 @@ TEST_F(NewVersionTest, AFileThatNamesNoProgramIsLeftAlone) {
     EXPECT_TRUE(fileIsThere());
 }
 
-TEST_F(NewVersionTest, AnAnswerAfterTheEndOfTheProgramIsNobodysBusiness) {
+TEST_F(NewVersionTest, AnAnswerAfterTheMainWindowHasClosedMakesNoOffer) {
     app_.windows().splash->Timer1.fire();
     app_.windows().main->Close();
     answer("Tallyvane\n2.0\n");

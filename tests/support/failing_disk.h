@@ -4,8 +4,7 @@
 
 namespace tallyvane {
 
-/// Makes the disk fail under the program, as long as it lives. The calls to the kernel are taken in place of the C
-/// library's own.
+/// Makes the disk fail as long as this object lives, by replacing the C library's functions for these system calls.
 class FailingDisk {
 public:
     enum class Call { reserve, write, cut, flush };

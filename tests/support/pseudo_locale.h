@@ -6,7 +6,7 @@
 
 namespace tallyvane {
 
-/// A language for tests, in which every text stands in brackets. In force while the object lives.
+/// A language for tests, in which every text stands in brackets. Active while the object lives.
 class PseudoLocale {
 public:
     PseudoLocale() {

@@ -30,7 +30,7 @@ class RecordedPages : public GraphicsRecorder {
 public:
     RecordedPages(std::vector<Call>& printed, RecordingToolkit::PageSize& size, double width, double height,
                   int resolution)
-        : GraphicsRecorder(width * resolution / pointsAnInch, height * resolution / pointsAnInch), printed_(printed),
+        : GraphicsRecorder(width * resolution / pointsPerInch, height * resolution / pointsPerInch), printed_(printed),
           size_(size) {}
     ~RecordedPages() override {
         printed_ = calls();

@@ -1,11 +1,11 @@
-#include "diary/cell_words.h"
+#include "diary/cell_help.h"
 
 #include "diary/day_table.h"
 #include "diary/indicators.h"
 #include "platform/base/number.h"
 #include "platform/base/translation.h"
 
-namespace tallyvane::CellWords {
+namespace tallyvane::CellHelp {
 
 namespace {
 
@@ -28,7 +28,7 @@ bool isWord(std::string_view text) {
     return start == std::string_view::npos || text[start] < '0' || text[start] > '9';
 }
 
-/// Of a reading that is a word the light shows the range of 0, which the meter need not have meant.
+/// A word counts as 0, so its light shows the range of 0, although a meter's "HI" means the opposite.
 std::string wordHelp(const Listbox& table, int row, int column) {
     const std::optional<Ranges::Range> light = Indicators::rangeOf(table, row, column);
     return light ? tr("no number: does not count, and its light shows \u201c%1\u201d whatever it means",
@@ -54,12 +54,12 @@ std::string helpTag(const Listbox& table, int row, int column) {
     return isWord(text) ? wordHelp(table, row, column) : tr("read as 0: does not count");
 }
 
-std::string wayToWeight(const Listbox& table) {
+std::string weightHint(const Listbox& table) {
     return tr("%1: click in its column, or press Return, Right, Right, Return",
               {table.Heading(DayTable::weightColumn)});
 }
 
-std::string spoken(const Listbox& table, int row, int column, const std::string& columnName) {
+std::string accessibleText(const Listbox& table, int row, int column, const std::string& columnName) {
     std::string words = columnName;
     const auto say = [&words](const std::string& word) { words += word.empty() ? "" : ", " + word; };
     say(table.Cell(row, DayTable::dateColumn));
@@ -72,4 +72,4 @@ std::string spoken(const Listbox& table, int row, int column, const std::string&
     return words;
 }
 
-} // namespace tallyvane::CellWords
+} // namespace tallyvane::CellHelp

@@ -1,4 +1,4 @@
-#include "diary/cell_words.h"
+#include "diary/cell_help.h"
 
 #include "diary/day_table.h"
 #include "settings/globals.h"
@@ -8,9 +8,9 @@ namespace tallyvane {
 
 namespace {
 
-class CellWordsTest : public DiaryDesk {};
+class CellHelpTest : public DiaryDesk {};
 
-TEST_F(CellWordsTest, ACellSaysWhatItIsAndWhereItStands) {
+TEST_F(CellHelpTest, ACellSaysWhatItIsAndWhereItStands) {
     const auto check = [this](int column, const char* text, const std::string& spoken,
                               const std::string& helpTag = "") {
         table_.Cell(0, column, text);
