@@ -36,7 +36,7 @@ const std::filesystem::path& scratch() {
     return folder.path;
 }
 
-std::string withDigit(std::string text) { return text.ends_with('.') ? text + '0' : text; }
+std::string withDigit(const std::string& text) { return text.ends_with('.') ? text + '0' : text; }
 
 } // namespace
 

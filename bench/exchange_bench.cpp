@@ -7,6 +7,7 @@
 
 #include <QPrinter>
 
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
 
@@ -25,7 +26,7 @@ namespace {
 using namespace tallyvane;
 
 constexpr int lines = 100'000;
-constexpr int reportDays = 10'000;
+constexpr std::int64_t reportDays = 10'000;
 
 std::string pathOf(const char* name) { return SpecialFolder::ApplicationData->AbsolutePath() + "/" + name; }
 

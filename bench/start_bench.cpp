@@ -5,6 +5,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
 #include <chrono>
 #include <cstdlib>
 #include <cstring>
@@ -39,8 +40,8 @@ void start_to_hidden_window(benchmark::State& state) {
     ::setenv("XDG_DATA_HOME", SpecialFolder::ApplicationData->AbsolutePath().c_str(), 1);
     ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
     for (auto _ : state) {
-        int ends[2] = {};
-        if (::pipe(ends) != 0)
+        std::array<int, 2> ends{};
+        if (::pipe(ends.data()) != 0)
             return state.SkipWithError("no pipe");
         const auto start = std::chrono::steady_clock::now();
         const pid_t child = ::fork();

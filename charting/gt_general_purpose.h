@@ -3,10 +3,8 @@
 #include <string>
 #include <vector>
 
-namespace tallyvane {
-
 /// What the whole chart engine shares.
-namespace GTGeneralPurpose {
+namespace tallyvane::GTGeneralPurpose {
 
 /// Names of days and months for those who format dates themselves; the engine only empties them.
 inline std::vector<std::string> GTDayNames;
@@ -16,6 +14,4 @@ void GTResetDateNames();
 /// Units of a surface to a point of 1/72 inch, for a resolution in dots per inch.
 double GTResolutionScaleFactor(int resolution);
 
-} // namespace GTGeneralPurpose
-
-} // namespace tallyvane
+} // namespace tallyvane::GTGeneralPurpose

@@ -200,6 +200,7 @@ void Window1::addDay() {
 }
 
 void Window1::BevelButton1_Action() {
+    MidnightTimer_Action(); // the computer may just have woken up
     addDay();
     doColWidth();
 }
@@ -229,6 +230,15 @@ void Window1::Timer1_Action() {
     for (Canvas* light : stripLights())
         light->Visible(Globals::gShowIndicators);
     Refresh();
+}
+
+void Window1::MidnightTimer_Action() {
+    const Date now;
+    if (now.isoDate() == today_.isoDate())
+        return;
+    if (CalendarControl1.SelectedDate().isoDate() == today_.isoDate())
+        CalendarControl1.SelectedDate(now);
+    today_ = now;
 }
 
 // Menus and toolbar

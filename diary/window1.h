@@ -40,6 +40,7 @@ public:
     Toolbar& Toolbar11;
     Timer Timer1; // applies the indicator switch
     Timer AutosaveTimer; // raises `autosave`
+    Timer MidnightTimer; // lets the calendar follow the day
 
     /// Details of one day, as getDetails left them.
     std::string theMeds;
@@ -111,6 +112,8 @@ public:
     void SaveJournalToDisk(const TextArea& field, const std::string& prompt);
     void Toolbar11_Action(const ToolItem& item);
     void Timer1_Action();
+    /// A calendar that stands on what was today goes to the new day.
+    void MidnightTimer_Action();
 
 private:
     void build();
@@ -129,6 +132,7 @@ private:
 
     Averages averages_{ListBox1};
     std::unique_ptr<DateWindow> dateWindow_;
+    Date today_; // as the calendar last knew it
 };
 
 } // namespace tallyvane

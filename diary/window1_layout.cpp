@@ -92,6 +92,7 @@ void Window1::layOut() {
         {&AutoButton15, {692, 432, 32, 32}, lockLeft | lockTop, &TabPanel1, 0},
         {&Timer1},
         {&AutosaveTimer},
+        {&MidnightTimer},
     });
 }
 
@@ -139,9 +140,12 @@ void Window1::build() {
         button->AccessibleName(button->HelpTag());
     JournalFld.SpellChecking(true);
     Timer1.Period(50);
+    constexpr int halfAMinute = 30 * 1000;
     constexpr int fiveMinutes = 5 * 60 * 1000;
     AutosaveTimer.Period(fiveMinutes);
     AutosaveTimer.Mode(Timer::ModeMultiple);
+    MidnightTimer.Period(halfAMinute);
+    MidnightTimer.Mode(Timer::ModeMultiple);
 }
 
 void Window1::wire() {
@@ -177,6 +181,7 @@ void Window1::wire() {
     JournalFld.TextChange = [this] { JournalFld_TextChange(); };
     Toolbar11.Action = [this](const ToolItem& item) { Toolbar11_Action(item); };
     Timer1.Action = [this] { Timer1_Action(); };
+    MidnightTimer.Action = [this] { MidnightTimer_Action(); };
     AutosaveTimer.Action = [this] {
         if (autosave)
             autosave();

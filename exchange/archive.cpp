@@ -27,7 +27,7 @@ std::string archiveSelected(const Listbox& days) {
     std::string text;
     for (int row = 0; row < days.ListCount(); ++row)
         if (days.Selected(row))
-            text += lineOf(days, row) + EndOfLine + EndOfLine;
+            text.append(lineOf(days, row)).append(EndOfLine).append(EndOfLine);
     return text;
 }
 

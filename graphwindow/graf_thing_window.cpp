@@ -1,5 +1,7 @@
 #include "graphwindow/graf_thing_window.h"
 
+#include <algorithm>
+
 #include "platform/base/scoped_flag.h"
 #include "platform/base/translation.h"
 #include "platform/printing/printing.h"
@@ -58,8 +60,7 @@ void GrafThingWindow::CheckBox_Action() {
 
 void GrafThingWindow::Canvas3_Action() {
     const auto all = boxes();
-    for (auto box = all.rbegin(); box != all.rend(); ++box)
-        (*box)->Value(false);
+    std::for_each(all.rbegin(), all.rend(), [](CheckBox* box) { box->Value(false); });
     graphWeight = true;
     setLineDefault();
 }

@@ -43,9 +43,7 @@ void reportSeparator(const std::string& name, std::string_view separator) {
 }
 
 /// Adds a blank after a final "@", which would otherwise merge with the "@@@" that follows the name in the file.
-std::string storableName(const std::string& name) {
-    return name.ends_with('@') ? name + ' ' : name;
-}
+std::string storableName(const std::string& name) { return name.ends_with('@') ? name + ' ' : name; }
 
 /// Removes "#" at the end: it points nowhere, and would merge with the "###" that follows the link in the file.
 std::string withoutEmptyFragment(std::string_view link) {

@@ -5,10 +5,8 @@
 
 #include "platform/controls/listbox.h"
 
-namespace tallyvane {
-
 /// A list in a file of the application's folder: a line for each row, its columns joined.
-namespace RowFile {
+namespace tallyvane::RowFile {
 
 /// Appends a row for each line; an empty file has one, which is empty. False, and no change, when there is no file.
 /// With `replace` the list loses the rows that it had.
@@ -19,6 +17,4 @@ void save(const Listbox& list, const std::string& what, std::string_view name);
 /// Sets the list, as it was just read, as the baseline.
 void setBaseline(const Listbox& list, const std::string& what, std::string_view name);
 
-} // namespace RowFile
-
-} // namespace tallyvane
+} // namespace tallyvane::RowFile

@@ -94,7 +94,7 @@ void keep() {
                    SystemFiles::read(before.keptAt) == unsaved.text;
         });
     };
-    const std::vector<UnsavedFiles::Unsaved> files = UnsavedFiles::all();
+    const std::vector files(UnsavedFiles::all()); // forget changes the list
     for (const UnsavedFiles::Unsaved& unsaved : files)
         if (isKept(unsaved))
             UnsavedFiles::forget(unsaved.file);

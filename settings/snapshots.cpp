@@ -127,7 +127,7 @@ std::optional<Copy> findFullerCopy(const Date& today) {
 }
 
 std::string keepDamagedTable(const Date& today) {
-    const std::string name = std::string(DataFiles::dayTable) + " damaged " + today.isoDate();
+    std::string name = std::string(DataFiles::dayTable) + " damaged " + today.isoDate();
     copyIfThere(tablePath(), fileIn(StartupGlobals::gDataFolder->AbsolutePath(), name));
     return name;
 }

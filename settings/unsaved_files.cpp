@@ -158,7 +158,7 @@ void tryAgain() {
 }
 
 std::optional<FolderItem> saveInto(const FolderItem& folder, const std::string& name) {
-    const std::optional<FolderItem> target = DataFiles::freePlace(folder, name);
+    std::optional<FolderItem> target = DataFiles::freePlace(folder, name);
     if (!target || !target->CreateAsFolder())
         return std::nullopt;
     const std::vector<Unsaved> files = state().waiting;

@@ -10,6 +10,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <csignal>
 #include <filesystem>
 #include <system_error>
@@ -181,8 +182,8 @@ std::optional<int> answerOf(int pipe) {
 /// Does the same in a process of its own session, which ends its work when this one is killed in the middle. Where no
 /// process can be had, the work is done here.
 int overwriteInWriter(int file, const std::string& before, const std::string& after) {
-    int ends[2];
-    if (::pipe2(ends, O_CLOEXEC) != 0)
+    std::array<int, 2> ends{};
+    if (::pipe2(ends.data(), O_CLOEXEC) != 0)
         return overwriteOrRestore(file, before, after);
     const pid_t writer = ::fork();
     if (writer == 0)

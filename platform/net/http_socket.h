@@ -23,8 +23,9 @@ class Downloads : public Service<Downloads> {
 public:
     /// Starts to fetch the page of an "http" address into a file. `done` is called once with the server's status when
     /// the page has come whole, in time and in bounds, and never otherwise.
-    virtual std::unique_ptr<Download> start(const std::string& /*address*/, const std::string& /*path*/,
-                                            std::function<void(int status)> /*done*/) {
+    virtual std::unique_ptr<Download>
+    start(const std::string& /*address*/, const std::string& /*path*/,
+          std::function<void(int status)> /*done*/) { // NOLINT(performance-*): others keep it
         return nullptr;
     }
 };

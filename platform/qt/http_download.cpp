@@ -14,7 +14,7 @@ namespace tallyvane {
 
 namespace {
 
-constexpr qsizetype mostBytes = 64 * 1024;
+constexpr qsizetype mostBytes = 65'536;
 
 QNetworkRequest requestFor(const std::string& address) {
     constexpr int mostRedirects = 5;

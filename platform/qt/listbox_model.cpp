@@ -11,6 +11,7 @@ namespace {
 std::vector<int> widthsOf(const Listbox& list) {
     std::vector<int> widths;
     const int shown = std::min(CountFields(list.ColumnWidths(), ","), list.ColumnCount());
+    widths.reserve(static_cast<std::size_t>(shown));
     for (int column = 0; column < shown; ++column)
         widths.push_back(list.WidthActual(column));
     return widths;

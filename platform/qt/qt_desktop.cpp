@@ -28,6 +28,7 @@ std::optional<std::size_t> QtDesktop::ask(const std::string& question, const std
     QMessageBox box(QMessageBox::NoIcon, QStringLiteral("Tallyvane"), toQt(question));
     box.setTextFormat(Qt::PlainText);
     std::vector<QAbstractButton*> buttons;
+    buttons.reserve(answers.size());
     for (const std::string& answer : answers) // of one role they keep their order on every desktop
         buttons.push_back(box.addButton(toQt(answer), QMessageBox::ActionRole));
     box.setDefaultButton(static_cast<QPushButton*>(buttons.front()));

@@ -54,7 +54,7 @@ std::string QtFileDialogs::askWhereToSave(const SaveAsDialog& dialog) {
     chooser.setOption(QFileDialog::DontConfirmOverwrite); // it would ask about the name without its ending
     chooser.selectFile(toQt(dialog.SuggestedFileName));
     for (;;) {
-        const std::string path = withEnding(chosenPath(chooser), dialog.Suffix);
+        std::string path = withEnding(chosenPath(chooser), dialog.Suffix);
         if (path.empty() || mayReplace(path))
             return path;
     }

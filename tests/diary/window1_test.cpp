@@ -49,6 +49,28 @@ TEST_F(Window1Test, HeadingsGoToTheirLabelsAndColumns) {
         EXPECT_EQ(table_.Heading(column), "c" + std::to_string(column));
 }
 
+TEST_F(Window1Test, TheCalendarFollowsMidnightWhileItStandsOnToday) {
+    const auto nowIs = [](int day) { DateSource::now = [day] { return Date(2026, 11, day, 600); }; };
+    const auto marked = [this] { return window1_.CalendarControl1.SelectedDate().isoDate(); };
+    open();
+    window1_.CalendarControl1.SelectedDate(Date());
+    window1_.MidnightTimer.fire();
+    nowIs(23);
+    window1_.MidnightTimer.fire();
+    EXPECT_EQ(marked(), "2026-11-23");
+    nowIs(25); // after days of sleep
+    window1_.BevelButton1_Action();
+    EXPECT_EQ(table_.Cell(table_.LastIndex(), 0), "11/25/2026");
+
+    window1_.CalendarControl1.SelectedDate(Date(2026, 11, 24));
+    nowIs(26);
+    window1_.MidnightTimer.fire();
+    EXPECT_EQ(marked(), "2026-11-24") << "a day that the user has chosen";
+    nowIs(27);
+    window1_.CalendarControl1_DayDoubleClicked();
+    EXPECT_EQ(table_.Cell(table_.LastIndex(), 0), "11/24/2026") << "the day that was clicked";
+}
+
 TEST_F(Window1Test, TheLastColumnIsNarrowerWhenTheRowsNeedAScrollBar) {
     open();
     const std::string wide = "82,72,72,72,72,72,72,72,72,87";
