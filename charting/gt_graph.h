@@ -42,7 +42,7 @@ public:
     void titleBottomMargin(int points) { myBottomTitleMargin = points; }
 
     /// Whether what is drawn goes on a page that is printed with a legend, so that the plot's height is that of a
-    /// fixed part of the page. Whoever prints such pages sets it; without it no page is one.
+    /// fixed part of the page. Whoever makes a graph for such pages sets it; without it no page is one.
     std::function<bool()> isPrintingOn;
 
     FontName textFont;

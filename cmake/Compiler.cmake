@@ -7,7 +7,7 @@ if(TALLYVANE_WARNINGS_AS_ERRORS)
   add_compile_options(-Werror)
 endif()
 
-# What is released is hardened as the distribution hardens its own programs.
+# What is released is hardened: against writes past the end of a buffer, of the stack, and of return addresses.
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 include(CheckPIESupported)
 check_pie_supported()

@@ -4,6 +4,7 @@
 #include "diary/indicators.h"
 #include "diary/window1.h"
 #include "platform/base/translation.h"
+#include "settings/list_colors.h"
 
 namespace tallyvane {
 
@@ -105,6 +106,7 @@ void Window1::build() {
         label->Bold(true);
     }
     ListBox1.DefaultRowHeight(DayTable::rowHeight);
+    ListBox1.Colors(listColors);
     ListBox1.SelectionType(Listbox::SelectionTypes::multiple);
     ListBox1.AccessibleName(tr("Days"));
     ListBox1.Heading(DayTable::dateColumn, tr("Date"));

@@ -9,6 +9,7 @@
 #include "platform/windows/dialogs.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
+#include "settings/list_colors.h"
 #include "settings/unsaved_files.h"
 
 namespace tallyvane {
@@ -69,6 +70,7 @@ fileWindow::fileWindow() {
     StaticText1.Text(tr("Resource Links:"));
     ListBox1.ColumnWidths("100%");
     ListBox1.HasHeading(false);
+    ListBox1.Colors(listColors);
     ListBox1.Border(true);
     ListBox1.AcceptFileDrop("all");
     ListBox1.AcceptTextDrop();

@@ -1,6 +1,7 @@
 #include "records/info_window.h"
 
 #include "platform/base/translation.h"
+#include "settings/list_colors.h"
 
 #include <array>
 
@@ -47,6 +48,8 @@ void InfoWindow::layOut() {
 
 void InfoWindow::build() {
     TabPanel1.Captions({tr("Support Team Contacts"), tr("Medication Schedule")});
+    for (Listbox* list : {&ListBox1, &ListBox2})
+        list->Colors(listColors);
     ListBox1.ColumnWidths("100%");
     ListBox1.Heading(0, tr("Role"));
     ListBox1.ColumnType(0, Listbox::TypeEditable);

@@ -33,17 +33,17 @@ public:
     virtual void bringIntoView(int row) = 0;
 };
 
-/// The colours of a list, the same on every theme: its cells are painted on grounds of the window's own.
+/// The colours of a list, the same on every theme: its cells are painted on backgrounds of the window's own.
 struct ListColors {
-    Color ground = RGB(255, 255, 255);
-    Color text = RGB(16, 20, 26);
-    Color headingGround = RGB(232, 236, 242);
-    Color columnLine = RGB(186, 200, 220);
-    Color selection = RGB(92, 152, 236);
+    Color background = RGB(255, 255, 255);
+    Color text = RGB(0, 0, 0);
+    Color headingBackground = RGB(224, 224, 224);
+    Color columnLine = RGB(192, 192, 192);
+    Color selection = RGB(128, 128, 128);
     /// Below a selected row, around the cell with the focus and around the open one.
-    Color selectionLine = RGB(38, 92, 170);
-    /// Below a text that has a line to show.
-    Color helpDots = RGB(178, 24, 24);
+    Color selectionLine = RGB(0, 0, 0);
+    /// Below a text that has a help tag.
+    Color helpDots = RGB(0, 0, 0);
 };
 
 /// What the user drops: a file, a text, or neither of them.

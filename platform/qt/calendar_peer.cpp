@@ -51,7 +51,7 @@ void CalendarPeer::choose() {
 /// Qt's own signal for this also comes of a single click, on desktops that open files so.
 bool CalendarPeer::eventFilter(QObject* watched, QEvent* event) {
     bool chosen = false;
-    if (days_ == nullptr) // the widget is being made
+    if (days_ == nullptr) // while the widget is being made, and in a Qt of other parts
         return QCalendarWidget::eventFilter(watched, event);
     if (watched == days_->viewport() && event->type() == QEvent::MouseButtonDblClick) {
         // A first click on a day of another month brings that month; the second is on the marked day or means nothing.

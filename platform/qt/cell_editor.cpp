@@ -23,7 +23,7 @@ QString styleOf(const ListColors& list) {
     const auto name = [](Color color) { return toQt(color).name(); };
     return QStringLiteral("border: 1px solid %1; background: %2; color: %3; padding: 0 3px;"
                           "selection-background-color: %1; selection-color: %2;")
-        .arg(name(list.selectionLine), name(list.ground), name(list.text));
+        .arg(name(list.selectionLine), name(list.background), name(list.text));
 }
 
 } // namespace

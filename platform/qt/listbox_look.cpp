@@ -20,8 +20,8 @@ constexpr int textMargin = 6;
 constexpr int pictureWidth = 16;
 
 QPalette paletteOf(const ListColors& list) {
-    QPalette colors(toQt(list.headingGround), toQt(list.headingGround));
-    colors.setColor(QPalette::Base, toQt(list.ground));
+    QPalette colors(toQt(list.headingBackground), toQt(list.headingBackground));
+    colors.setColor(QPalette::Base, toQt(list.background));
     for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
         colors.setColor(role, toQt(list.text));
     colors.setColor(QPalette::Highlight, toQt(list.selection));

@@ -49,7 +49,7 @@ old=0 new=0 mixed=0 lost=0 worst=0
 for ((round = 0; round < rounds; ++round)); do
     start_and_end
     delay=$((RANDOM * length / 32768))
-    sleep "$(printf '0.%03d' "$delay")"
+    sleep "$(printf '%d.%03d' $((delay / 1000)) $((delay % 1000)))"
     kill -KILL "$pid" 2>/dev/null || true
     wait "$pid" 2>/dev/null || true
     flock "$folder" true # until nobody holds it any more

@@ -134,6 +134,14 @@ TEST_F(CellEditorTest, PastedLinesBecomeOneLine) {
     click(1, 1);
     editor()->paste();
     EXPECT_EQ(list().Cell(1, 1), "5 6 7");
+    QGuiApplication::clipboard()->setText("12.5\r\n"); // as a spreadsheet leaves it
+    click(2, 1);
+    editor()->selectAll();
+    editor()->paste();
+    EXPECT_EQ(list().Cell(2, 1), "12.5");
+    EXPECT_EQ(editor()->text(), "12.5");
+    EXPECT_EQ(editor()->cursorPosition(), 4);
+    EXPECT_EQ(list().ActiveCell().SelStart(), 4);
 }
 
 TEST_F(CellEditorTest, TheOpenCellStaysWithItsRowWhileTheListScrollsUntilTheFocusIsElsewhere) {

@@ -6,7 +6,7 @@ namespace tallyvane {
 
 namespace {
 
-TEST(LetterScaleTest, WindowsGrowWithLargeLettersAsFarAsTheScreenGoes) {
+TEST(FontScaleTest, WindowsGrowWithLargeLettersAsFarAsTheScreenGoes) {
     const auto scale = [](double points, QSize room) { return FontScale::of(points, {800, 600}, room); };
     EXPECT_DOUBLE_EQ(scale(9, {1920, 1040}), 1) << "small letters";
     EXPECT_DOUBLE_EQ(scale(18, {1920, 1040}), 1.5) << "half as large again as the largest that fit";
