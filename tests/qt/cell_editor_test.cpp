@@ -82,6 +82,14 @@ TEST_F(CellEditorTest, NoKeyReachesTheListWhileACellIsOpen) {
     EXPECT_EQ(editor()->selectedText(), "5");
     QTest::keyClick(editor(), Qt::Key_PageUp);
     EXPECT_EQ(list().openRow(), 3);
+    QTest::keyClick(editor(), Qt::Key_PageUp);
+    QTest::keyClick(editor(), Qt::Key_PageDown);
+    EXPECT_EQ(list().openRow(), table_->viewport()->height() / 15) << "from the first row";
+    QTest::keyClick(editor(), Qt::Key_PageUp);
+    QTest::keyClicks(editor(), "12");
+    QTest::keyClick(editor(), Qt::Key_PageUp);
+    EXPECT_EQ(list().openRow(), 0);
+    EXPECT_EQ(editor()->selectedText(), "12") << "taken in, and marked as after every move";
 }
 
 TEST_F(CellEditorTest, AnOpenCellIsClosedWhenOtherDaysAreSelected) {

@@ -1,6 +1,4 @@
 /// What the start does with the daily copies.
-#include <fstream>
-
 #include "shell/app.h"
 #include "support/test_desk.h"
 
