@@ -2,6 +2,7 @@
 
 #include "diary/day_table.h"
 #include "platform/base/translation.h"
+#include "platform/windows/wiring.h"
 
 namespace tallyvane {
 
@@ -22,9 +23,11 @@ DateWindow::DateWindow(Window& owner, Listbox& days) : days_(days) {
     PushButton2.Caption(tr("Cancel"));
     PushButton2.Cancel(true);
 
-    CalendarControl1.Open = [this] { CalendarControl1_Open(); };
-    PushButton1.Action = [this] { PushButton1_Action(); };
-    PushButton2.Action = [this] { PushButton2_Action(); };
+    Wiring(*this).connect({
+        {CalendarControl1.Open, &DateWindow::CalendarControl1_Open},
+        {PushButton1.Action, &DateWindow::PushButton1_Action},
+        {PushButton2.Action, &DateWindow::PushButton2_Action},
+    });
 }
 
 void DateWindow::CalendarControl1_Open() {

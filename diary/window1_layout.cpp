@@ -4,6 +4,7 @@
 #include "diary/indicators.h"
 #include "diary/window1.h"
 #include "platform/base/translation.h"
+#include "platform/windows/wiring.h"
 #include "settings/list_colors.h"
 
 namespace tallyvane {
@@ -151,8 +152,6 @@ void Window1::build() {
 }
 
 void Window1::wire() {
-    ListBox1.Open = [this] { ListBox1_Open(); };
-    ListBox1.Change = [this] { ListBox1_Change(); };
     ListBox1.CellClick = [this](int row, int column, int x, int y) { return ListBox1_CellClick(row, column, x, y); };
     ListBox1.CellKeyDown = [this](int row, int column, const std::string& key) {
         return ListBox1_CellKeyDown(row, column, key);
@@ -174,16 +173,20 @@ void Window1::wire() {
         g.FillRect(0, 0, g.Width(), 1);
         g.FillRect(0, g.Height() - 1, g.Width(), 1);
     };
-    BevelButton1.Action = [this] { BevelButton1_Action(); };
-    BevelButton2.Action = [this] { BevelButton2_Action(); };
-    CalendarControl1.DayDoubleClicked = [this] { CalendarControl1_DayDoubleClicked(); };
-    AutoButton13.Action = [this] { AutoButton13_Action(); };
-    AutoButton14.Action = [this] { AutoButton14_Action(); };
-    AutoButton15.Action = [this] { AutoButton15_Action(); };
-    JournalFld.TextChange = [this] { JournalFld_TextChange(); };
     Toolbar11.Action = [this](const ToolItem& item) { Toolbar11_Action(item); };
-    Timer1.Action = [this] { Timer1_Action(); };
-    MidnightTimer.Action = [this] { MidnightTimer_Action(); };
+    Wiring(*this).connect({
+        {ListBox1.Open, &Window1::ListBox1_Open},
+        {ListBox1.Change, &Window1::ListBox1_Change},
+        {BevelButton1.Action, &Window1::BevelButton1_Action},
+        {BevelButton2.Action, &Window1::BevelButton2_Action},
+        {CalendarControl1.DayDoubleClicked, &Window1::CalendarControl1_DayDoubleClicked},
+        {AutoButton13.Action, &Window1::AutoButton13_Action},
+        {AutoButton14.Action, &Window1::AutoButton14_Action},
+        {AutoButton15.Action, &Window1::AutoButton15_Action},
+        {JournalFld.TextChange, &Window1::JournalFld_TextChange},
+        {Timer1.Action, &Window1::Timer1_Action},
+        {MidnightTimer.Action, &Window1::MidnightTimer_Action},
+    });
     AutosaveTimer.Action = [this] {
         if (autosave)
             autosave();

@@ -4,6 +4,7 @@
 #include "platform/base/translation.h"
 #include "platform/printing/print_and_save.h"
 #include "platform/windows/dialogs.h"
+#include "platform/windows/wiring.h"
 
 namespace tallyvane {
 
@@ -20,8 +21,10 @@ archiveWindow::archiveWindow() {
     PushButton1.Caption(tr("Print"));
     PushButton2.Caption(tr("OK"));
     PushButton2.Cancel(true); // Escape closes a window that can only be read
-    PushButton1.Action = [this] { PushButton1_Action(); };
-    PushButton2.Action = [this] { Close(); };
+    Wiring(*this).connect({
+        {PushButton1.Action, &archiveWindow::PushButton1_Action},
+        {PushButton2.Action, &archiveWindow::Close},
+    });
 }
 
 void archiveWindow::PushButton1_Action() { printText(EditField1.Text(), Title()); }

@@ -4,6 +4,7 @@
 #include "platform/base/text.h"
 #include "platform/base/translation.h"
 #include "platform/windows/dialogs.h"
+#include "platform/windows/wiring.h"
 
 namespace tallyvane {
 
@@ -26,8 +27,10 @@ exportWindow::exportWindow(const Listbox& days) : days_(days) {
     PushButton1.Default(true);
     PushButton2.Caption(tr("Cancel"));
     PushButton2.Cancel(true);
-    PushButton1.Action = [this] { PushButton1_Action(); };
-    PushButton2.Action = [this] { Close(); };
+    Wiring(*this).connect({
+        {PushButton1.Action, &exportWindow::PushButton1_Action},
+        {PushButton2.Action, &exportWindow::Close},
+    });
 }
 
 void exportWindow::PushButton1_Action() {

@@ -6,6 +6,7 @@
 #include "platform/base/text.h"
 #include "platform/base/translation.h"
 #include "platform/windows/dialogs.h"
+#include "platform/windows/wiring.h"
 
 namespace tallyvane {
 
@@ -34,11 +35,13 @@ importWindow::importWindow(Listbox& days) : days_(days) {
     PushButton2.Caption(tr("Cancel"));
     PushButton2.Cancel(true);
     Timer1.Period(1);
-    RadioButton1.Action = [this] { RadioButton1_Action(); };
-    RadioButton2.Action = [this] { RadioButton2_Action(); };
-    PushButton1.Action = [this] { PushButton1_Action(); };
-    PushButton2.Action = [this] { Close(); };
-    Timer1.Action = [this] { Timer1_Action(); };
+    Wiring(*this).connect({
+        {RadioButton1.Action, &importWindow::RadioButton1_Action},
+        {RadioButton2.Action, &importWindow::RadioButton2_Action},
+        {PushButton1.Action, &importWindow::PushButton1_Action},
+        {PushButton2.Action, &importWindow::Close},
+        {Timer1.Action, &importWindow::Timer1_Action},
+    });
 }
 
 void importWindow::offer(const FolderItem& file) {

@@ -1,6 +1,7 @@
 #include "graphwindow/graf_thing_window.h"
 
 #include "platform/base/translation.h"
+#include "platform/windows/wiring.h"
 
 namespace tallyvane {
 
@@ -77,8 +78,10 @@ void GrafThingWindow::wire() {
     Canvas1.Paint = [this](Graphics& g) { Canvas1_Paint(g); };
     for (CheckBox* box : boxes())
         box->Action = [this] { CheckBox_Action(); };
-    Canvas3.Action = [this] { Canvas3_Action(); };
-    Canvas2.Action = [this] { Canvas2_Action(); };
+    Wiring(*this).connect({
+        {Canvas3.Action, &GrafThingWindow::Canvas3_Action},
+        {Canvas2.Action, &GrafThingWindow::Canvas2_Action},
+    });
     menuHandlers["FilePrint"] = [this] { filePrint_Action(); };
 }
 

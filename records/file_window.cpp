@@ -7,6 +7,7 @@
 #include "platform/desktop/desktop.h"
 #include "platform/files/text_output_stream.h"
 #include "platform/windows/dialogs.h"
+#include "platform/windows/wiring.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
 #include "settings/list_colors.h"
@@ -92,15 +93,17 @@ fileWindow::fileWindow() {
     ListBox1.CellBackgroundPaint = [this](Graphics& g, int row, int column) {
         return ListBox1_CellBackgroundPaint(g, row, column);
     };
-    ListBox1.Change = [this] { ListBox1_Change(); };
-    ListBox1.DoubleClick = [this] { ListBox1_DoubleClick(); };
     ListBox1.CellCommandClick = [this](int row, int column) { ListBox1_CellCommandClick(row, column); };
     ListBox1.CellTextChange = [this](int row, int column) { ListBox1_CellTextChange(row, column); };
     ListBox1.DropObject = [this](const DragItem& item) { ListBox1_DropObject(item); };
-    BevelButton1.Action = [this] { BevelButton1_Action(); };
-    BevelButton2.Action = [this] { BevelButton2_Action(); };
-    UtilityButton1.Action = [this] { BevelButton1_Action(); };
-    PushButton1.Action = [this] { PushButton1_Action(); };
+    Wiring(*this).connect({
+        {ListBox1.Change, &fileWindow::ListBox1_Change},
+        {ListBox1.DoubleClick, &fileWindow::ListBox1_DoubleClick},
+        {BevelButton1.Action, &fileWindow::BevelButton1_Action},
+        {BevelButton2.Action, &fileWindow::BevelButton2_Action},
+        {UtilityButton1.Action, &fileWindow::BevelButton1_Action},
+        {PushButton1.Action, &fileWindow::PushButton1_Action},
+    });
 }
 
 // Opening and closing

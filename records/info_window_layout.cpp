@@ -1,6 +1,7 @@
 #include "records/info_window.h"
 
 #include "platform/base/translation.h"
+#include "platform/windows/wiring.h"
 #include "settings/list_colors.h"
 
 #include <array>
@@ -103,8 +104,6 @@ void InfoWindow::build() {
 }
 
 void InfoWindow::wire() {
-    ListBox1.Change = [this] { ListBox1_Change(); };
-    ListBox2.Change = [this] { ListBox2_Change(); };
     ListBox2.CellKeyDown = [this](int row, int column, const std::string& key) {
         return ListBox2_CellKeyDown(row, column, key);
     };
@@ -112,13 +111,17 @@ void InfoWindow::wire() {
     EditField3.TextChange = [this] { storeDetail(2, EditField3.Text()); };
     EditField4.TextChange = [this] { storeDetail(3, EditField4.Text()); };
     EditField5.TextChange = [this] { storeDetail(4, EditField5.Text()); };
-    BevelButton1.Action = [this] { BevelButton1_Action(); };
-    BevelButton2.Action = [this] { BevelButton2_Action(); };
-    Canvas2.Action = [this] { Canvas2_Action(); };
-    AutoButton3.Action = [this] { AutoButton3_Action(); };
-    AutoButton4.Action = [this] { AutoButton4_Action(); };
-    Canvas1.Action = [this] { Canvas1_Action(); };
-    PushButton1.Action = [this] { PushButton1_Action(); };
+    Wiring(*this).connect({
+        {ListBox1.Change, &InfoWindow::ListBox1_Change},
+        {ListBox2.Change, &InfoWindow::ListBox2_Change},
+        {BevelButton1.Action, &InfoWindow::BevelButton1_Action},
+        {BevelButton2.Action, &InfoWindow::BevelButton2_Action},
+        {Canvas2.Action, &InfoWindow::Canvas2_Action},
+        {AutoButton3.Action, &InfoWindow::AutoButton3_Action},
+        {AutoButton4.Action, &InfoWindow::AutoButton4_Action},
+        {Canvas1.Action, &InfoWindow::Canvas1_Action},
+        {PushButton1.Action, &InfoWindow::PushButton1_Action},
+    });
 }
 
 } // namespace tallyvane

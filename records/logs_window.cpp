@@ -2,6 +2,7 @@
 
 #include "platform/base/translation.h"
 #include "platform/printing/print_and_save.h"
+#include "platform/windows/wiring.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
 #include "settings/log_record.h"
@@ -48,10 +49,12 @@ logsWindow::logsWindow() {
     PushButton1.Caption(tr("OK"));
     focusFirst(FoodFld);
 
-    AutoButton1.Action = [this] { AutoButton1_Action(); };
-    AutoButton2.Action = [this] { AutoButton2_Action(); };
-    AutoButton3.Action = [this] { AutoButton3_Action(); };
-    PushButton1.Action = [this] { PushButton1_Action(); };
+    Wiring(*this).connect({
+        {AutoButton1.Action, &logsWindow::AutoButton1_Action},
+        {AutoButton2.Action, &logsWindow::AutoButton2_Action},
+        {AutoButton3.Action, &logsWindow::AutoButton3_Action},
+        {PushButton1.Action, &logsWindow::PushButton1_Action},
+    });
 }
 
 std::array<logsWindow::Page, 3> logsWindow::pages() {

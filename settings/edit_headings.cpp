@@ -1,6 +1,7 @@
 #include "settings/edit_headings.h"
 
 #include "platform/base/translation.h"
+#include "platform/windows/wiring.h"
 
 namespace tallyvane {
 
@@ -70,9 +71,11 @@ EditHeadings::EditHeadings() {
     PushButton2.Caption(tr("Cancel"));
     PushButton2.Cancel(true);
     PushButton3.Caption(tr("Restore Default Headings"));
-    PushButton1.Action = [this] { PushButton1_Action(); };
-    PushButton2.Action = [this] { PushButton2_Action(); };
-    PushButton3.Action = [this] { PushButton3_Action(); };
+    Wiring(*this).connect({
+        {PushButton1.Action, &EditHeadings::PushButton1_Action},
+        {PushButton2.Action, &EditHeadings::PushButton2_Action},
+        {PushButton3.Action, &EditHeadings::PushButton3_Action},
+    });
 }
 
 std::array<TextField*, 13> EditHeadings::fields() {

@@ -5,6 +5,7 @@
 #include "platform/base/translation.h"
 #include "platform/controls/keys.h"
 #include "platform/desktop/desktop.h"
+#include "platform/windows/wiring.h"
 #include "settings/globals.h"
 #include "settings/prefs_module.h"
 #include "settings/ranges.h"
@@ -89,10 +90,12 @@ void PrefsWindow::wire() {
         fields()[i]->KeyDown = [this](const std::string& key) { return EditField_KeyDown(key); };
         fields()[i]->TextChange = [this, i] { EditField_TextChange(i); };
     }
-    CheckBox1.Open = [this] { CheckBox1_Open(); };
-    CheckBox1.Action = [this] { CheckBox1_Action(); };
-    PushButton1.Action = [this] { PushButton1_Action(); };
-    Timer1.Action = [this] { Timer1_Action(); };
+    Wiring(*this).connect({
+        {CheckBox1.Open, &PrefsWindow::CheckBox1_Open},
+        {CheckBox1.Action, &PrefsWindow::CheckBox1_Action},
+        {PushButton1.Action, &PrefsWindow::PushButton1_Action},
+        {Timer1.Action, &PrefsWindow::Timer1_Action},
+    });
 }
 
 void PrefsWindow::Event_Close() { PrefsModule::savePrefs(); }

@@ -2,6 +2,7 @@
 
 #include "platform/base/translation.h"
 #include "platform/desktop/desktop.h"
+#include "platform/windows/wiring.h"
 
 namespace tallyvane {
 
@@ -20,8 +21,10 @@ newVersionWindow::newVersionWindow(Window& owner, const std::string& appName) {
     PushButton1.Caption(tr("Download Now"));
     PushButton2.Caption(tr("Download Later"));
     PushButton2.Cancel(true);
-    PushButton1.Action = [this] { PushButton1_Action(); };
-    PushButton2.Action = [this] { Close(); };
+    Wiring(*this).connect({
+        {PushButton1.Action, &newVersionWindow::PushButton1_Action},
+        {PushButton2.Action, &newVersionWindow::Close},
+    });
 }
 
 void newVersionWindow::Event_Close() {
