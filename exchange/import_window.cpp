@@ -98,12 +98,13 @@ void importWindow::continueReading(ImportReader::Milliseconds time) {
 /// Appends the rows and selects them, which raises Change and so updates the averages.
 void importWindow::appendRows(std::vector<ImportReader::Row> rows) {
     const int first = days_.ListCount();
+    days_.beginStep(rows.size() == 1 ? tr("Import of 1 Day") : tr("Import of %1 Days", {std::to_string(rows.size())}));
     days_.AddRows(std::move(rows));
     SortKeys::rebuild(days_);
     std::vector<bool> isNew(static_cast<std::size_t>(days_.ListCount()));
     std::fill(isNew.begin() + first, isNew.end(), true);
     days_.select(isNew);
-    days_.bringIntoView(first);
+    days_.ScrollPosition(first);
 }
 
 void importWindow::showProgress() {

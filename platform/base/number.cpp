@@ -121,4 +121,16 @@ std::string Format(double number, std::string_view mask) {
     return result + decimals;
 }
 
+std::string NumberSource::groupSeparator = ",";
+
+std::string Grouped(int number) {
+    std::string text = std::to_string(number);
+    const std::size_t sign = number < 0 ? 1 : 0;
+    for (std::size_t end = text.size(); end > sign + 3;) {
+        end -= 3;
+        text.insert(end, NumberSource::groupSeparator);
+    }
+    return text;
+}
+
 } // namespace tallyvane

@@ -22,4 +22,12 @@ std::string Str(double number);
 /// part prints all its digits. Format(5.0, "##.#") is "5.".
 std::string Format(double number, std::string_view mask);
 
+/// A whole number for people to read, its thousands set apart as the user's locale has it: "2,000".
+std::string Grouped(int number);
+
+namespace NumberSource {
+/// What stands between thousands; "," until it is set, once at start.
+extern std::string groupSeparator;
+} // namespace NumberSource
+
 } // namespace tallyvane

@@ -234,11 +234,28 @@ public:
     const Date& SelectedDate() const { return selectedDate_; }
     void SelectedDate(const Date& value) { set(selectedDate_, value, Property::value); }
 
+    /// Days that are set off in bold letters.
+    const std::vector<Date>& BoldDays() const { return boldDays_; }
+    void BoldDays(std::vector<Date> value) { set(boldDays_, std::move(value), Property::appearance); }
+    /// A day of the month that is shown.
+    const Date& ShownMonth() const { return shownMonth_; }
+    /// The user has gone to another month.
+    void userShowed(const Date& month) {
+        shownMonth_ = month;
+        if (MonthChange)
+            MonthChange();
+    }
+
     std::function<void()> Open;
+    /// A click on a day, which is the selected one then.
+    std::function<void()> DayClicked;
     std::function<void()> DayDoubleClicked;
+    std::function<void()> MonthChange;
 
 private:
     Date selectedDate_;
+    Date shownMonth_;
+    std::vector<Date> boldDays_;
 };
 
 /// A small wheel that turns while something is going on.

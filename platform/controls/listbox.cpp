@@ -1,6 +1,8 @@
 #include "platform/controls/listbox.h"
 
 #include <algorithm>
+#include <numeric>
+#include <utility>
 
 #include "platform/base/number.h"
 #include "platform/base/text.h"
@@ -17,7 +19,11 @@ const std::string& Listbox::Cell(int row, int column) const {
 
 void Listbox::write(int row, int column, std::string_view text) {
     Row& owner = rows_[index(row)];
-    owner.cells[index(column)] = text;
+    std::string before = std::exchange(owner.cells[index(column)], std::string(text));
+    if (recorder_ != nullptr && before != text)
+        recorder_->cellWritten(row, column, std::move(before));
+    if (column == sortArrow_)
+        SortArrow(-1);
     owner.revision = ++lastRevision_;
     if (list_ != nullptr)
         list_->cellChanged(row, column);
@@ -36,6 +42,7 @@ void Listbox::AddRow(std::string_view text) {
     row.cells.front() = text;
     rows_.push_back(std::move(row));
     lastIndex_ = ListCount() - 1;
+    noteAdded(lastIndex_);
     if (list_ != nullptr)
         list_->rowAdded(lastIndex_);
 }
@@ -43,14 +50,23 @@ void Listbox::AddRow(std::string_view text) {
 void Listbox::AddRows(std::vector<std::vector<std::string>> rows) {
     if (rows.empty())
         return;
+    const int first = ListCount();
     rows_.reserve(rows_.size() + rows.size());
     for (std::vector<std::string>& cells : rows) {
         cells.resize(columns_.size());
         rows_.push_back({std::move(cells), ++lastRevision_, false, nullptr});
     }
     lastIndex_ = ListCount() - 1;
+    noteAdded(first);
     if (list_ != nullptr)
         list_->rowsReplaced();
+}
+
+void Listbox::noteAdded(int first) {
+    if (sortArrow_ >= 0)
+        SortArrow(-1);
+    if (recorder_ != nullptr)
+        recorder_->rowsAdded(first);
 }
 
 std::string Listbox::selectedText(int columns) const {
@@ -68,46 +84,97 @@ std::string Listbox::selectedText(int columns) const {
     return text;
 }
 
-void Listbox::RemoveRow(int row) {
-    if (!contains(row, 0))
-        return;
+Listbox::TakenRows Listbox::takeRows(std::vector<int> places) {
     closeCell();
-    const bool wasSelected = rows_[index(row)].selected;
-    rows_.erase(rows_.begin() + row);
-    if (lastIndex_ == row)
-        lastIndex_ = -1;
-    else if (lastIndex_ > row)
-        --lastIndex_;
-    if (list_ != nullptr)
-        list_->rowRemoved(row);
-    if (wasSelected) {
-        --selectedCount_;
-        raiseChange();
+    markRow(-1);
+    TakenRows taken{std::move(places), {}};
+    taken.rows.reserve(taken.places.size());
+    auto next = taken.places.begin();
+    std::size_t kept = 0;
+    for (std::size_t row = 0; row < rows_.size(); ++row) {
+        if (next == taken.places.end() || index(*next) != row) {
+            if (kept != row)
+                rows_[kept] = std::move(rows_[row]);
+            ++kept;
+            continue;
+        }
+        ++next;
+        selectedCount_ -= rows_[row].selected ? 1 : 0;
+        rows_[row].selected = false;
+        taken.rows.push_back(std::move(rows_[row]));
     }
+    rows_.resize(kept);
+    const auto place = std::lower_bound(taken.places.begin(), taken.places.end(), lastIndex_);
+    const bool lastIsTaken = place != taken.places.end() && *place == lastIndex_;
+    lastIndex_ = lastIsTaken ? -1 : lastIndex_ - static_cast<int>(place - taken.places.begin());
+    raiseRowsChanged(taken.places, &ListboxObserver::rowRemoved);
+    return taken;
+}
+
+void Listbox::putRows(TakenRows taken) {
+    closeCell();
+    markRow(-1);
+    std::size_t from = rows_.size();
+    rows_.resize(rows_.size() + taken.rows.size());
+    std::size_t left = taken.rows.size();
+    for (std::size_t row = rows_.size(); left > 0;) {
+        --row;
+        rows_[row] = index(taken.places[left - 1]) == row ? std::move(taken.rows[--left]) : std::move(rows_[--from]);
+    }
+    lastIndex_ = -1;
+    raiseRowsChanged(taken.places, &ListboxObserver::rowAdded);
+}
+
+void Listbox::reorder(const std::vector<int>& order) {
+    closeCell();
+    markRow(-1);
+    std::vector<Row> rows;
+    rows.reserve(rows_.size());
+    for (const int place : order)
+        rows.push_back(std::move(rows_[index(place)]));
+    rows_ = std::move(rows);
+    lastIndex_ = -1;
+    if (list_ != nullptr)
+        list_->rowsReplaced();
+}
+
+/// Tells the observer of the one row that came or went, or of all rows where there were several.
+void Listbox::raiseRowsChanged(const std::vector<int>& places, void (ListboxObserver::*one)(int row)) {
+    if (list_ == nullptr)
+        return;
+    if (places.size() == 1)
+        (list_->*one)(places.front());
+    else
+        list_->rowsReplaced();
+}
+
+void Listbox::removeRows(std::vector<int> places) {
+    const int selectedBefore = selectedCount_;
+    TakenRows taken = takeRows(std::move(places));
+    if (recorder_ != nullptr)
+        recorder_->rowsTaken(std::move(taken));
+    if (selectedCount_ != selectedBefore)
+        raiseChange();
+}
+
+void Listbox::RemoveRow(int row) {
+    if (contains(row, 0))
+        removeRows({row});
 }
 
 void Listbox::RemoveSelectedRows() {
-    if (selectedCount_ == 0)
-        return;
-    closeCell();
-    std::erase_if(rows_, [](const Row& row) { return row.selected; });
-    lastIndex_ = -1;
-    selectedCount_ = 0;
-    if (list_ != nullptr)
-        list_->rowsReplaced();
-    raiseChange();
+    std::vector<int> places;
+    for (int row = 0; row < ListCount(); ++row)
+        if (Selected(row))
+            places.push_back(row);
+    if (!places.empty())
+        removeRows(std::move(places));
 }
 
 void Listbox::DeleteAllRows() {
-    closeCell();
-    rows_.clear();
-    lastIndex_ = -1;
-    const bool wasSelected = selectedCount_ > 0;
-    selectedCount_ = 0;
-    if (list_ != nullptr)
-        list_->rowsReplaced();
-    if (wasSelected)
-        raiseChange();
+    std::vector<int> places(rows_.size());
+    std::iota(places.begin(), places.end(), 0);
+    removeRows(std::move(places));
 }
 
 int Listbox::WidthActual(int column) const {
@@ -196,12 +263,30 @@ void Listbox::closeCellBesideSelection() {
         closeCell();
 }
 
+void Listbox::ScrollPosition(int row) {
+    if (!contains(row, 0))
+        return;
+    scrollPosition_ = row;
+    if (list_ != nullptr)
+        list_->scrolled(row);
+}
+
 void Listbox::bringIntoView(int row) {
     if (list_ != nullptr && contains(row, 0))
         list_->bringIntoView(row);
 }
 
+void Listbox::markRow(int row) {
+    const int marked = contains(row, 0) ? row : -1;
+    if (marked == markedRow_ && marked < 0)
+        return;
+    markedRow_ = marked;
+    if (list_ != nullptr)
+        list_->rowMarked();
+}
+
 void Listbox::raiseChange() {
+    markRow(-1);
     if (list_ != nullptr)
         list_->selectionChanged();
     if (Change)
@@ -214,13 +299,17 @@ void Listbox::Sort() {
     closeCell();
     const std::size_t column = index(sortedColumn_);
     const bool descending = columns_[column].sortDirection < 0;
-    std::stable_sort(rows_.begin(), rows_.end(), [&](const Row& a, const Row& b) {
-        const int order = compareTexts(a.cells[column], b.cells[column]);
-        return descending ? order > 0 : order < 0;
+    std::vector<int> order(rows_.size());
+    std::iota(order.begin(), order.end(), 0);
+    std::stable_sort(order.begin(), order.end(), [&](int a, int b) {
+        const int compared = compareTexts(rows_[index(a)].cells[column], rows_[index(b)].cells[column]);
+        return descending ? compared > 0 : compared < 0;
     });
-    lastIndex_ = -1;
-    if (list_ != nullptr)
-        list_->rowsReplaced();
+    const bool isSorted = std::is_sorted(order.begin(), order.end());
+    reorder(order);
+    bringIntoView(ListIndex());
+    if (recorder_ != nullptr && !isSorted)
+        recorder_->rowsReordered(std::move(order));
 }
 
 void Listbox::pressHeader(int column) {
@@ -229,6 +318,7 @@ void Listbox::pressHeader(int column) {
     ColumnSortDirection(column, ColumnSortDirection(column) == 1 ? -1 : 1);
     SortedColumn(column);
     Sort();
+    SortArrow(column);
 }
 
 } // namespace tallyvane

@@ -30,7 +30,11 @@ public:
     virtual void openCellChanged() = 0;
     /// A line is to show at the open cell.
     virtual void showHint(const std::string& hint) = 0;
+    /// That row is to be the first that can be seen, as far as there are rows below it.
+    virtual void scrolled(int row) = 0;
+    /// The row is to be seen, with as little scrolling as it takes.
     virtual void bringIntoView(int row) = 0;
+    virtual void rowMarked() = 0;
 };
 
 /// The colours of a list, the same on every theme: its cells are painted on backgrounds of the window's own.
@@ -42,6 +46,8 @@ struct ListColors {
     Color selection = RGB(128, 128, 128);
     /// Below a selected row, around the cell with the focus and around the open one.
     Color selectionLine = RGB(0, 0, 0);
+    /// Around a marked row.
+    Color mark = RGB(0, 70, 160);
     /// Below a text that has a help tag.
     Color helpDots = RGB(0, 0, 0);
 };
@@ -58,7 +64,32 @@ struct DragItem {
 /// Every row bears a revision: a number that belongs to its present cells alone. Each write gives the row another
 /// one, and no number is given twice, so whoever remembers something of a row can tell whether it still holds.
 class Listbox : public Control {
+private:
+    struct Row;
+
 public:
+    /// Rows outside of the list, with the places that they had in it, in ascending order.
+    struct TakenRows {
+        std::vector<int> places;
+        std::vector<Row> rows;
+    };
+
+    /// Hears of every change, with what it takes to undo it.
+    class Recorder {
+    public:
+        virtual ~Recorder() = default;
+        /// The changes that follow are one step of the user's; the name says what it does, as "Removal of 10 Days".
+        virtual void beginStep(std::string name) = 0;
+        /// The same for what the user types into a row from here on.
+        virtual void beginTyping(int row) = 0;
+        virtual void cellWritten(int row, int column, std::string before) = 0;
+        /// The rows from this one to the last are new.
+        virtual void rowsAdded(int first) = 0;
+        virtual void rowsTaken(TakenRows rows) = 0;
+        /// Row i stood at order[i] before.
+        virtual void rowsReordered(std::vector<int> order) = 0;
+    };
+
     enum ColumnTypes { TypeDefault = 0, TypeEditable = 3 };
     enum ColumnAlignments { AlignDefault = 0, AlignLeft = 1, AlignCenter = 2, AlignRight = 3 };
     enum class SelectionTypes { single, multiple };
@@ -98,6 +129,9 @@ public:
     /// "System" is the desktop's own font.
     FontName TextFont() const { return textFont_; }
     void TextFont(FontName name) { set(textFont_, name, Property::appearance); }
+    /// What the list says in place of rows while it has none.
+    const std::string& EmptyText() const { return emptyText_; }
+    void EmptyText(std::string text) { set(emptyText_, std::move(text), Property::appearance); }
     /// Fixed once it is shown.
     const ListColors& Colors() const { return colors_; }
     void Colors(const ListColors& value) { colors_ = value; }
@@ -133,6 +167,12 @@ public:
     void RowPicture(int row, Picture picture);
     /// Removes all selected rows at one go, and raises Change once if there were any.
     void RemoveSelectedRows();
+    /// Takes rows out of the list; places in ascending order. The selection loses them without an event.
+    [[nodiscard]] TakenRows takeRows(std::vector<int> places);
+    /// Puts rows back to the places that they were taken from, unselected.
+    void putRows(TakenRows taken);
+    /// Gives row i the place of row order[i]; each row stands once in the order.
+    void reorder(const std::vector<int>& order);
     std::uint64_t revision(int row) const { return rows_[index(row)].revision; }
 
     // Selection
@@ -150,8 +190,32 @@ public:
     /// Selects these rows and no other. Raises Change once when the selection differs. An open cell is closed unless
     /// its row alone is selected: nobody types into a row while another is marked.
     void select(const std::vector<bool>& rows);
-    /// Scrolls so that the row and as many as possible of those after it can be seen.
+    /// The first row that can be seen. Set: as far as there are rows below it.
+    int ScrollPosition() const { return scrollPosition_; }
+    void ScrollPosition(int row);
+    /// The user has scrolled so that this row is the first that can be seen.
+    void userScrolled(int row) { scrollPosition_ = row; }
+    /// Scrolls as little as it takes to see the row.
     void bringIntoView(int row);
+    /// A row with a frame around it, which is where the keys start from; -1 for none. It is no selection, and goes with
+    /// the next one, and when rows come, go or move.
+    int MarkedRow() const { return markedRow_; }
+    /// Brings the row into view, too. One that does not exist takes the mark away.
+    void markRow(int row);
+
+    // Changes as steps that can be undone
+
+    /// The one recorder; null for none. The list does not own it.
+    void record(Recorder* recorder) { recorder_ = recorder; }
+    // Tell the recorder what the changes that follow do together
+    void beginStep(std::string name) {
+        if (recorder_ != nullptr)
+            recorder_->beginStep(std::move(name));
+    }
+    void beginTyping(int row) {
+        if (recorder_ != nullptr)
+            recorder_->beginTyping(row);
+    }
 
     // What may be dropped on the list
 
@@ -183,6 +247,10 @@ public:
     void revertCell();
     /// Moves the editing by so many rows, down if positive, as far as there are rows, and selects the whole text.
     void moveCell(int rows);
+    /// The user has typed a text while no cell was open: opens an editable cell with it, in place of what it holds.
+    void typeInto(int row, int column, std::string_view text);
+    /// Empties an editable cell, then CellTextChange. False when there was nothing to empty.
+    bool clearCell(int row, int column);
     /// Shows a line at the open cell, for a few seconds or until another cell is opened.
     void showHint(const std::string& hint);
 
@@ -193,6 +261,13 @@ public:
     void ColumnSortDirection(int column, int direction) { columns_[index(column)].sortDirection = direction; }
     int SortedColumn() const { return sortedColumn_; }
     void SortedColumn(int column) { sortedColumn_ = column; }
+    /// The column whose heading shows the direction of the sorted column by an arrow; -1 for none. The arrow goes when
+    /// a row is added or a text in that column changes, and the order need not hold any more.
+    int SortArrow() const { return sortArrow_; }
+    void SortArrow(int column) {
+        sortArrow_ = column;
+        changed(Property::columns);
+    }
     /// Sorts by the texts of the sorted column in its direction. Rows with equal texts keep their order, and the
     /// selection stays with its rows. An open cell is closed.
     void Sort();
@@ -257,6 +332,9 @@ private:
     void setStyle(int row, int column, bool TextStyle::*part, bool on);
     void raiseChange();
     void closeCellBesideSelection();
+    void noteAdded(int first);
+    void removeRows(std::vector<int> places);
+    void raiseRowsChanged(const std::vector<int>& places, void (ListboxObserver::*one)(int row));
     void write(int row, int column, std::string_view text);
     void raiseTextChange(int row, int column);
 
@@ -269,6 +347,7 @@ private:
     int rowHeight_ = 15;
     int textSize_ = 12;
     FontName textFont_;
+    std::string emptyText_;
     ListColors colors_;
     SelectionTypes selectionType_ = SelectionTypes::single;
     std::vector<Row> rows_;
@@ -276,11 +355,15 @@ private:
     int lastIndex_ = -1;
     int selectedCount_ = 0;
     int sortedColumn_ = -1;
+    int sortArrow_ = -1;
+    int scrollPosition_ = 0;
+    int markedRow_ = -1;
     TextField activeCell_;
     int openRow_ = -1;
     int openColumn_ = -1;
     std::vector<std::string> cellsBeforeTyping_; // of the open cell's row; empty while there is nothing to revert
     ListboxObserver* list_ = nullptr;
+    Recorder* recorder_ = nullptr;
 };
 
 } // namespace tallyvane

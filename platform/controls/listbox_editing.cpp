@@ -36,8 +36,10 @@ void Listbox::userTyped(std::string_view text, int selStart, int selLength) {
         return;
     const int row = openRow_;
     const int column = openColumn_;
-    if (cellsBeforeTyping_.empty())
+    if (cellsBeforeTyping_.empty()) {
         cellsBeforeTyping_ = rows_[index(row)].cells;
+        beginTyping(row);
+    }
     const std::string line = cellText(text);
     write(row, column, line);
     activeCell_.userChanged(line, selStart, selLength);
@@ -69,6 +71,26 @@ void Listbox::moveCell(int rows) {
         return;
     EditCell(std::clamp(openRow_ + rows, 0, ListCount() - 1), openColumn_);
     activeCell_.SelectAll();
+}
+
+void Listbox::typeInto(int row, int column, std::string_view text) {
+    if (!contains(row, column) || ColumnType(column) != TypeEditable)
+        return;
+    EditCell(row, column);
+    activeCell_.Text(text);
+    activeCell_.SelStart(Len(text));
+    activeCell_.SelLength(0);
+    userTyped(text, Len(text), 0);
+}
+
+bool Listbox::clearCell(int row, int column) {
+    if (Cell(row, column).empty() || ColumnType(column) != TypeEditable)
+        return false;
+    closeCell();
+    beginTyping(row);
+    Cell(row, column, "");
+    raiseTextChange(row, column);
+    return true;
 }
 
 void Listbox::showHint(const std::string& hint) {

@@ -22,7 +22,7 @@ public:
         if (differs && TextChange)
             TextChange();
     }
-    // The selection. Only the open cell of a list shows one that is set here.
+    // The selection. The place of the cursor alone, a selection of no length, shows only in the open cell of a list.
     int SelStart() const { return selStart_; }
     void SelStart(int value) { set(selStart_, value, Property::selection); }
     int SelLength() const { return selLength_; }

@@ -19,12 +19,35 @@ CalendarPeer::CalendarPeer(CalendarControl& calendar, QWidget* parent) : Peer(ca
     weekend.setForeground(palette().text());
     setWeekdayTextFormat(Qt::Saturday, weekend);
     setWeekdayTextFormat(Qt::Sunday, weekend);
+    QTextCharFormat header; // not the theme's colour for every second line, which may be of another theme
+    header.setBackground(palette().window());
+    header.setForeground(palette().windowText());
+    setHeaderTextFormat(header);
     reachIntoParts();
     applyAll();
     connect(this, &QCalendarWidget::selectionChanged, this, [this] {
         if (control_ != nullptr)
             control_->SelectedDate(fromQt(selectedDate()));
     });
+    connect(this, &QCalendarWidget::clicked, this, [this] {
+        if (control_ != nullptr)
+            deliver(control_->DayClicked);
+    });
+    const auto tellMonth = [this] {
+        if (control_ != nullptr)
+            deliver([this] { control_->userShowed(Date(yearShown(), monthShown(), 1)); });
+    };
+    connect(this, &QCalendarWidget::currentPageChanged, this, tellMonth);
+    tellMonth();
+}
+
+void CalendarPeer::setBoldDays() {
+    setDateTextFormat({}, {}); // none is
+    QTextCharFormat bold;
+    bold.setFontWeight(QFont::Bold);
+    bold.setFontStretch(QFont::SemiCondensed); // two figures find room in a small calendar
+    for (const Date& day : control_->BoldDays())
+        setDateTextFormat(tallyvane::toQt(day), bold);
 }
 
 /// The parts of a calendar are Qt's own business, and another Qt may build it of others: then the calendar is a little
@@ -68,6 +91,8 @@ bool CalendarPeer::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void CalendarPeer::apply(Property property) {
+    if (property == Property::appearance)
+        setBoldDays();
     if (property != Property::value)
         return;
     const QDate date = toQt(control_->SelectedDate());

@@ -21,6 +21,7 @@ protected:
 private:
     void reachIntoParts();
     void choose();
+    void setBoldDays();
 
     QTableView* days_ = nullptr; // null in a Qt that builds its calendar of other parts
 };

@@ -141,6 +141,9 @@ bool CellEditor::event(QEvent* event) {
         event->accept(); // a key that climbed on would move the list's selection away from the open cell
         return true;
     }
+    if ((key.matches(QKeySequence::Undo) && !isUndoAvailable()) ||
+        (key.matches(QKeySequence::Redo) && !isRedoAvailable()))
+        return true; // not accepted: it is for the table
     if (isShortcut(key))
         return QLineEdit::event(event);
     event->accept(); // Return and Escape are for the cell, not for the window's buttons

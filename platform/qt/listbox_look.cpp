@@ -141,10 +141,24 @@ void ListboxPeer::paintCell(QPainter& painter, const QRect& area, int row, int c
                          tallyvane::toQt(control_->Colors().selectionLine));
     if (row < control_->ListCount())
         drawText(painter, area, row, column);
+    if (row >= 0 && row == control_->MarkedRow())
+        drawMark(painter, area, column);
     if (hasFocus() && row < control_->ListCount() && currentIndex() == model_->index(row, column)) {
         painter.setPen(tallyvane::toQt(control_->Colors().selectionLine));
         painter.drawRect(area.adjusted(0, 0, -1, -1));
     }
+}
+
+/// The part of the frame around a row that runs through one of its cells.
+void ListboxPeer::drawMark(QPainter& painter, const QRect& area, int column) {
+    constexpr int line = 2;
+    const QColor color = tallyvane::toQt(control_->Colors().mark);
+    painter.fillRect(area.left(), area.top(), area.width(), line, color);
+    painter.fillRect(area.left(), area.bottom() + 1 - line, area.width(), line, color);
+    if (column == 0)
+        painter.fillRect(area.left(), area.top(), line, area.height(), color);
+    if (column == model_->columnCount() - 1)
+        painter.fillRect(area.right() + 1 - line, area.top(), line, area.height(), color);
 }
 
 void ListboxPeer::drawText(QPainter& painter, const QRect& area, int row, int column) {
@@ -188,6 +202,23 @@ void ListboxPeer::paintEvent(QPaintEvent* event) {
     for (; top < viewport()->height(); top += rowHeight, ++row)
         for (int column = 0; column < model_->columnCount(); ++column)
             paintCell(painter, {columnViewportPosition(column), top, columnWidth(column), rowHeight}, row, column);
+    if (rows == 0)
+        drawEmptyText(painter);
+}
+
+void ListboxPeer::drawEmptyText(QPainter& painter) const {
+    constexpr double largerThanCells = 1.25;
+    QFont large = font();
+    large.setPixelSize(static_cast<int>(font().pixelSize() * largerThanCells));
+    painter.setFont(large);
+    painter.setPen(tallyvane::toQt(control_->Colors().text));
+    const QRect middle = viewport()->rect().adjusted(viewport()->width() / 6, 0, -viewport()->width() / 6, 0);
+    painter.drawText(middle, Qt::AlignCenter | Qt::TextWordWrap, tallyvane::toQt(control_->EmptyText()));
+}
+
+/// The text of an empty list is read aloud, too.
+void ListboxPeer::describeEmptyList() {
+    setAccessibleDescription(control_->ListCount() == 0 ? tallyvane::toQt(control_->EmptyText()) : QString());
 }
 
 } // namespace tallyvane

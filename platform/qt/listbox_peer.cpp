@@ -42,6 +42,9 @@ ListboxPeer::ListboxPeer(Listbox& list, QWidget* parent)
     connect(horizontalHeader(), &QHeaderView::sectionDoubleClicked, this, press); // the second of two quick clicks
     applyAll();
     selectionChanged();
+    const int row = control_->ScrollPosition(); // where the keys start, too
+    selectionModel()->setCurrentIndex(model_->index(row, 0), QItemSelectionModel::NoUpdate);
+    scrolled(row);
 }
 
 void ListboxPeer::detach() {
@@ -68,6 +71,7 @@ void ListboxPeer::applyAppearance() {
     verticalHeader()->setDefaultSectionSize(control_->DefaultRowHeight());
     setListFont();
     setFrameShape(control_->Border() ? StyledPanel : NoFrame);
+    describeEmptyList();
 }
 
 void ListboxPeer::applyColumns() {
@@ -76,6 +80,16 @@ void ListboxPeer::applyColumns() {
     const std::vector<int>& widths = model_->widths();
     for (std::size_t column = 0; column < widths.size(); ++column)
         horizontalHeader()->resizeSection(static_cast<int>(column), widths[column]);
+    applySortArrow();
+}
+
+void ListboxPeer::applySortArrow() {
+    const int column = control_->SortArrow();
+    horizontalHeader()->setSortIndicatorShown(column >= 0);
+    if (column < 0)
+        return;
+    const bool descending = control_->ColumnSortDirection(control_->SortedColumn()) < 0;
+    horizontalHeader()->setSortIndicator(column, descending ? Qt::DescendingOrder : Qt::AscendingOrder);
 }
 
 // Notifications from the list
@@ -83,11 +97,13 @@ void ListboxPeer::applyColumns() {
 void ListboxPeer::rowAdded(int row) {
     const QScopedValueRollback applying(applyingSelection_, true);
     model_->notifyRowAdded(row);
+    describeEmptyList();
 }
 
 void ListboxPeer::rowRemoved(int row) {
     const QScopedValueRollback applying(applyingSelection_, true);
     model_->notifyRowRemoved(row);
+    describeEmptyList();
 }
 
 void ListboxPeer::rowsReplaced() {
@@ -102,6 +118,7 @@ void ListboxPeer::rowsReplaced() {
         selectionModel()->setCurrentIndex(model_->index(nearest, column), QItemSelectionModel::NoUpdate);
         verticalScrollBar()->setValue(scrolled);
     }
+    describeEmptyList();
     applySelection();
 }
 
@@ -143,7 +160,18 @@ void ListboxPeer::showHint(const std::string& hint) {
     QToolTip::showText(editor_->mapToGlobal(editor_->rect().bottomLeft()), tallyvane::toQt(hint), viewport());
 }
 
-void ListboxPeer::bringIntoView(int row) { scrollTo(model_->index(row, 0), PositionAtTop); }
+void ListboxPeer::scrolled(int row) { scrollTo(model_->index(row, 0), PositionAtTop); }
+
+void ListboxPeer::bringIntoView(int row) { scrollTo(model_->index(row, std::max(0, currentIndex().column()))); }
+
+void ListboxPeer::rowMarked() {
+    if (const int row = control_->MarkedRow(); row >= 0) {
+        const QModelIndex cell = model_->index(row, std::max(0, currentIndex().column()));
+        selectionModel()->setCurrentIndex(cell, QItemSelectionModel::NoUpdate);
+        scrollTo(cell);
+    }
+    viewport()->update();
+}
 
 void ListboxPeer::openCellChanged() {
     if (!editor_->accessibleDescription().isEmpty()) {
@@ -318,10 +346,31 @@ void ListboxPeer::keyPressEvent(QKeyEvent* event) {
     const QModelIndex cell = currentIndex();
     const bool isOurs = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_F2 ||
                         event->key() == Qt::Key_F3;
-    if (isOurs && control_ != nullptr && cell.isValid())
+    if (event->key() == Qt::Key_Escape && control_ != nullptr && selectionMode() == ExtendedSelection &&
+        control_->SelectedCount() > 0) {
+        deliver([this] { control_->select({}); });
+        return;
+    }
+    const bool isCell = control_ != nullptr && cell.isValid();
+    if (isOurs && isCell)
         pressKey(event->key(), cell);
-    else
+    else if (!isCell || !writeByKey(*event, cell))
         QTableView::keyPressEvent(event);
+}
+
+/// Writes into the cell with the focus, without opening it first. False for a key that writes nothing.
+bool ListboxPeer::writeByKey(const QKeyEvent& key, const QModelIndex& cell) {
+    if (key.key() == Qt::Key_Delete) {
+        bool isCleared = false;
+        deliver([&] { isCleared = control_->clearCell(cell.row(), cell.column()); });
+        return isCleared;
+    }
+    const QString text = key.text();
+    const bool isDigit = text.size() == 1 && text.front().isDigit();
+    if (!isDigit || control_->ColumnType(cell.column()) != Listbox::TypeEditable)
+        return false;
+    deliver([&] { control_->typeInto(cell.row(), cell.column(), fromQt(text)); });
+    return true;
 }
 
 /// Return stands for a click or a double click, F2 for a click with Ctrl, F3 for one on the heading.
@@ -354,8 +403,10 @@ void ListboxPeer::resizeEvent(QResizeEvent* event) {
 
 void ListboxPeer::scrollContentsBy(int dx, int dy) {
     QTableView::scrollContentsBy(dx, dy);
-    if (control_ != nullptr)
-        placeEditor();
+    if (control_ == nullptr)
+        return;
+    control_->userScrolled(rowAt(0));
+    placeEditor();
 }
 
 } // namespace tallyvane

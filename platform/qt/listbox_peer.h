@@ -24,7 +24,9 @@ public:
     void selectionChanged() override;
     void openCellChanged() override;
     void showHint(const std::string& hint) override;
+    void scrolled(int row) override;
     void bringIntoView(int row) override;
+    void rowMarked() override;
     void repaintControl() override { viewport()->update(); }
 
     /// Copies the selected rows with their visible columns to the clipboard; nothing without a selection.
@@ -61,7 +63,9 @@ private:
     void setUpLook();
     void applyAppearance();
     void applyColumns();
+    void applySortArrow();
     void setListFont();
+    void describeEmptyList();
     void fitLastColumn();
     QString shownHeading(int column, const QString& heading) const;
     bool isCellCut(int row, int column) const;
@@ -75,8 +79,11 @@ private:
     void drop(const QMimeData& content);
     void drop(const DragItem& item);
     void pressKey(int key, const QModelIndex& cell);
+    bool writeByKey(const QKeyEvent& key, const QModelIndex& cell);
     void nameEditor();
     void placeEditor();
+    void drawEmptyText(QPainter& painter) const;
+    void drawMark(QPainter& painter, const QRect& area, int column);
     void drawText(QPainter& painter, const QRect& area, int row, int column);
 
     ListboxModel* model_;

@@ -27,6 +27,8 @@ void editField(Field& field, MenuRole role) {
     switch (role) {
     case MenuRole::undo:
         return field.undo();
+    case MenuRole::redo:
+        return field.redo();
     case MenuRole::cut:
         return field.cut();
     case MenuRole::copy:
@@ -69,6 +71,11 @@ bool canEdit(const QWidget* focus, MenuRole role) {
     return qobject_cast<const QLineEdit*>(focus) != nullptr || qobject_cast<const QPlainTextEdit*>(focus) != nullptr;
 }
 
+/// A cell where nothing has been typed yet leaves undo and redo to its table.
+bool undoes(const CellEditor& cell, MenuRole role) {
+    return role == MenuRole::undo ? cell.isUndoAvailable() : cell.isRedoAvailable();
+}
+
 bool isMenu(const QWidget* widget) {
     return qobject_cast<const QMenu*>(widget) != nullptr || qobject_cast<const QMenuBar*>(widget) != nullptr;
 }
@@ -86,8 +93,8 @@ QAction::MenuRole actionRole(MenuRole role) {
     }
 }
 
-QKeySequence shortcutOf(const MenuItem& item) {
-    return QKeySequence(toQt(ReplaceAll(item.KeyboardShortcut, "Cmd", "Ctrl")));
+QList<QKeySequence> shortcutsOf(const MenuItem& item) {
+    return QKeySequence::listFromString(toQt(ReplaceAll(item.KeyboardShortcut, "Cmd", "Ctrl")));
 }
 
 } // namespace
@@ -107,8 +114,14 @@ MenuPeer::MenuPeer(MenuBar& bar, std::function<MenuTarget*()> front, QWidget* pa
         focus_ = now;
         refresh();
     });
-    connect(qApp, &QGuiApplication::focusWindowChanged, this, &MenuPeer::refresh); // their shortcuts work unseen
+    qApp->installEventFilter(this);
     refresh();
+}
+
+bool MenuPeer::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride)
+        refresh();
+    return QMenuBar::eventFilter(watched, event);
 }
 
 void MenuPeer::add(QMenu& menu, const MenuItem& item) {
@@ -118,7 +131,7 @@ void MenuPeer::add(QMenu& menu, const MenuItem& item) {
     }
     QAction* action = menu.addAction(toQt(item.Text));
     action->setObjectName(toQt(item.Name));
-    action->setShortcut(shortcutOf(item));
+    action->setShortcuts(shortcutsOf(item));
     action->setShortcutContext(Qt::ApplicationShortcut);
     action->setMenuRole(actionRole(item.role));
     connect(action, &QAction::triggered, this, [this, &item] { choose(item); });
@@ -132,12 +145,23 @@ QWidget* MenuPeer::editTarget() const {
 void MenuPeer::refresh() {
     deliver([this] { bar_.enableItems(front_()); });
     const QWidget* target = editTarget();
-    for (const Entry& entry : entries_)
-        entry.action->setEnabled(isEditing(entry.item->role) ? canEdit(target, entry.item->role) : entry.item->Enabled);
+    for (const auto& [action, item] : entries_) {
+        const bool forFocus = isForFocus(*item);
+        action->setEnabled(forFocus ? canEdit(target, item->role) : item->Enabled);
+        action->setText(toQt(forFocus || item->textNow.empty() ? item->Text : item->textNow));
+    }
+}
+
+bool MenuPeer::isForFocus(const MenuItem& item) const {
+    if (item.role != MenuRole::undo && item.role != MenuRole::redo)
+        return isEditing(item.role);
+    if (const auto* cell = dynamic_cast<const CellEditor*>(editTarget()))
+        return undoes(*cell, item.role);
+    return canEdit(editTarget(), item.role);
 }
 
 void MenuPeer::choose(const MenuItem& item) {
-    if (isEditing(item.role))
+    if (isForFocus(item))
         edit(editTarget(), item.role);
     else
         deliver([&] { bar_.choose(item.Name, front_()); });

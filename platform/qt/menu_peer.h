@@ -16,6 +16,10 @@ public:
     /// `front` gives the window of ours that is in front, or null.
     MenuPeer(MenuBar& bar, std::function<MenuTarget*()> front, QWidget* parent);
 
+protected:
+    /// Refreshes the items before a key may choose one of them.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     struct Entry {
         QAction* action;
@@ -24,6 +28,8 @@ private:
 
     /// What the editing items act on: the last control that had the focus, if its window is in front.
     QWidget* editTarget() const;
+    /// Whether the item is for the control with the focus, and not for the window.
+    bool isForFocus(const MenuItem& item) const;
     /// Enables and disables the items by what the window in front answers.
     void refresh();
     void add(QMenu& menu, const MenuItem& item);

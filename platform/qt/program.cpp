@@ -10,6 +10,7 @@
 #include <cstdlib>
 #include <utility>
 
+#include "platform/base/number.h"
 #include "platform/files/folder_item.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/event_guard.h"
@@ -40,6 +41,7 @@ void setUpFolders() {
 
 void setUpDateFormats() {
     const QLocale locale = QLocale::system();
+    NumberSource::groupSeparator = fromQt(locale.groupSeparator());
     DateSource::setShortPattern(fromQt(locale.dateFormat(QLocale::ShortFormat)));
     // The long form of a time names its zone, which a moment on the wall clock does not have.
     const QRegularExpression timeZone(QStringLiteral(R"([,\s(\[]*t+[)\]]*)"));

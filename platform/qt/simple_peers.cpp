@@ -1,5 +1,6 @@
 #include "platform/qt/simple_peers.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QButtonGroup>
 #include <QKeyEvent>
@@ -83,6 +84,40 @@ QString StaticTextPeer::helpTag() const {
 
 QString StaticTextPeer::screenReaderName() const {
     return isCut() && control_->AccessibleName().empty() ? wholeText() : Peer::screenReaderName();
+}
+
+// LinkLine
+
+LinkLinePeer::LinkLinePeer(LinkLine& line, QWidget* parent) : Peer(line, parent) {
+    setTextFormat(Qt::RichText);
+    connect(this, &QLabel::linkActivated, this, [this](const QString& number) {
+        if (control_ != nullptr)
+            deliver([&] { control_->userPressed(number.toUInt()); });
+    });
+    applyAll();
+}
+
+void LinkLinePeer::apply(Property property) {
+    if (property != Property::text)
+        return;
+    const std::vector<LinkLine::Link>& links = control_->links();
+    const QString color = palette().windowText().color().name(); // a theme's colour of links is not always legible
+    QString line = tallyvane::toQt(control_->Text()).toHtmlEscaped();
+    QString before = QStringLiteral("&nbsp; ");
+    for (std::size_t i = 0; i < links.size(); ++i) {
+        line += before + QStringLiteral("<a href=\"%1\" style=\"color: %2\">%3</a>")
+                             .arg(QString::number(i), color, tallyvane::toQt(links[i].Caption).toHtmlEscaped());
+        before = QStringLiteral(" \u00b7 ");
+    }
+    setText(line);
+    setAccessibleName(screenReaderName());
+    setTextInteractionFlags(links.empty() ? Qt::NoTextInteraction
+                                          : Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    setFocusPolicy(links.empty() ? Qt::NoFocus : Qt::TabFocus);
+    if (links.empty())
+        return;
+    QAccessibleEvent announcement(this, QAccessible::Alert); // read aloud without the focus
+    QAccessible::updateAccessibility(&announcement);
 }
 
 // Canvas

@@ -12,6 +12,7 @@
 #include <QToolButton>
 
 #include "platform/controls/controls.h"
+#include "platform/controls/link_line.h"
 #include "platform/qt/peer.h"
 
 namespace tallyvane {
@@ -30,6 +31,15 @@ private:
     void showText();
     QString wholeText() const;
     bool isCut() const { return text() != wholeText(); }
+};
+
+class LinkLinePeer : public Peer<QLabel, LinkLine> {
+public:
+    LinkLinePeer(LinkLine& line, QWidget* parent);
+
+protected:
+    void apply(Property property) override;
+    QString screenReaderName() const override { return tallyvane::toQt(control_->Text()); }
 };
 
 class CanvasPeer : public Peer<QWidget, Canvas> {

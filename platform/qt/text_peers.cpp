@@ -48,6 +48,10 @@ TextFieldPeer::TextFieldPeer(TextField& field, QWidget* parent) : Peer(field, pa
 }
 
 void TextFieldPeer::apply(Property property) {
+    if (property == Property::selection && control_->SelLength() > 0) {
+        const int start = unitsOf(text(), control_->SelStart());
+        setSelection(start, unitsOf(text(), control_->SelStart() + control_->SelLength()) - start);
+    }
     if (property != Property::text)
         return;
     const QString shown = tallyvane::toQt(control_->Text());

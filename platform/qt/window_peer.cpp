@@ -36,6 +36,7 @@ struct MakePeer {
     WidgetPeer* operator()(TabPanel* panel) const { return new TabPanelPeer(*panel, parent); }
     WidgetPeer* operator()(CalendarControl* calendar) const { return new CalendarPeer(*calendar, parent); }
     WidgetPeer* operator()(ProgressWheel* wheel) const { return new ProgressWheelPeer(*wheel, parent); }
+    WidgetPeer* operator()(LinkLine* line) const { return new LinkLinePeer(*line, parent); }
     WidgetPeer* operator()(Listbox* list) const { return new ListboxPeer(*list, parent); }
     WidgetPeer* operator()(Timer*) const { return nullptr; } // no widget
 };

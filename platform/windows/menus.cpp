@@ -17,16 +17,21 @@ const std::function<void()>* handlerOf(const MenuBar& bar, MenuTarget* front, st
 
 } // namespace
 
-void MenuBar::enable(std::string_view name) {
+void MenuBar::enable(std::string_view name, const std::string& textNow) {
     for (Menu& menu : menus_)
         for (MenuItem& item : menu.items)
-            item.Enabled = item.Enabled || item.Name == name;
+            if (item.Name == name) {
+                item.Enabled = true;
+                item.textNow = textNow;
+            }
 }
 
 void MenuBar::enableItems(MenuTarget* front) {
     for (Menu& menu : menus_)
-        for (MenuItem& item : menu.items)
+        for (MenuItem& item : menu.items) {
             item.Enabled = item.AutoEnable;
+            item.textNow.clear();
+        }
     if (front != nullptr)
         front->Event_EnableMenuItems(*this);
     for (Menu& menu : menus_)

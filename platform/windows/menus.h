@@ -16,6 +16,7 @@ namespace tallyvane {
 enum class MenuRole {
     none,
     undo, // the standard editing actions, on the control with the focus
+    redo, // in a field that has nothing of that kind to do, these two are the window's
     cut,
     copy,
     paste,
@@ -30,12 +31,14 @@ struct MenuItem {
     std::string Name;
     /// "&" before the access key. Empty: a separator.
     std::string Text;
-    /// Such as "Cmd+Shift+P", where "Cmd" is the platform's key for shortcuts; "" for none.
+    /// Such as "Cmd+Shift+P", where "Cmd" is the platform's key for shortcuts; "" for none, several with "; " between.
     std::string KeyboardShortcut = {};
     MenuRole role = MenuRole::none;
     /// False: stays disabled until the window in front enables it.
     bool AutoEnable = true;
     bool Enabled = false;
+    /// What it says at present; "" for Text.
+    std::string textNow = {};
 
     bool isSeparator() const { return Text.empty(); }
 };
@@ -71,8 +74,8 @@ public:
     explicit MenuBar(std::vector<Menu> menus) : menus_(std::move(menus)) {}
 
     const std::vector<Menu>& menus() const { return menus_; }
-    /// Enables an item, if there is one of that name.
-    void enable(std::string_view name);
+    /// Enables an item, if there is one of that name; with a text it says that until items are enabled anew.
+    void enable(std::string_view name, const std::string& textNow = "");
 
     /// Handlers by item name, for whatever window is in front.
     MenuHandlers handlers;

@@ -8,6 +8,7 @@
 
 #include "platform/base/service.h"
 #include "platform/controls/controls.h"
+#include "platform/controls/link_line.h"
 #include "platform/controls/listbox.h"
 #include "platform/controls/text_controls.h"
 #include "platform/drawing/geometry.h"
@@ -51,7 +52,7 @@ enum Lock : unsigned {
 struct Placement {
     using AnyControl = std::variant<StaticText*, Canvas*, Rectangle*, GroupBox*, PushButton*, BevelButton*, CheckBox*,
                                     RadioButton*, ProgressBar*, TextField*, TextArea*, TabPanel*, CalendarControl*,
-                                    ProgressWheel*, Listbox*, Timer*>;
+                                    ProgressWheel*, LinkLine*, Listbox*, Timer*>;
 
     AnyControl control;
     /// In the window as it is created. Timers have none.

@@ -5,6 +5,7 @@
 #include "exchange/export_data.h"
 #include "exchange/export_window.h"
 #include "exchange/import_window.h"
+#include "platform/controls/list_history.h"
 #include "support/drawn.h"
 #include "support/test_desk.h"
 
@@ -123,6 +124,20 @@ TEST_F(ExchangeTest, LinesBecomeRows) {
     check("UTF-16", utf16, {{"d", "\u00e4"}});
     check("bytes of any kind", std::string("\xff\x00,\xc3\n", 5), {{std::string("\xff\0", 2), "\xc3"}});
     EXPECT_EQ(toolkit_.dialogs.back(), "Select glucose readings data file|txt,csv");
+}
+
+TEST_F(ExchangeTest, AnImportIsUndoneAsOneStep) {
+    table_.AddRow("1/1/2026");
+    ListHistory history(table_);
+    write(path(), "1/2/2026,5\n1/3/2026,6\n");
+    import();
+    EXPECT_EQ(history.undoName(), "Import of 2 Days");
+    history.undo();
+    EXPECT_EQ(columnOf(table_, 0), Texts{"1/1/2026"});
+    EXPECT_FALSE(history.canUndo());
+    history.redo();
+    EXPECT_EQ(columnOf(table_, 1), (Texts{"", "5", "6"}));
+    EXPECT_EQ(table_.SelectedCount(), 2);
 }
 
 TEST_F(ExchangeTest, WhatCannotBeReadChangesNothing) {

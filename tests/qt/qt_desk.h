@@ -101,6 +101,7 @@ protected:
         QApplication::sendEvent(widget, &event);
     }
     void click(int row, int column, Qt::KeyboardModifiers modifiers = {}) {
+        table_->scrollTo(table_->model()->index(row, column));
         const QRect cell = table_->visualRect(table_->model()->index(row, column));
         QTest::mouseClick(table_->viewport(), Qt::LeftButton, modifiers, cell.center());
     }
