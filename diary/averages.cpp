@@ -3,6 +3,9 @@
 #include "diary/day_table.h"
 #include "platform/base/number.h"
 
+#include <algorithm>
+#include <unordered_map>
+
 namespace tallyvane {
 
 namespace {
@@ -42,8 +45,38 @@ void Averages::updateRow(int row, RowNumbers& numbers) {
     numbers.revision = table_.revision(row);
 }
 
+/// Brings what is remembered to the places where its rows stand now. Mostly all rows but one stay, or all below one
+/// move by a few places; only those between are looked for.
+void Averages::moveWithRows() {
+    const std::size_t before = rows_.size();
+    const auto now = static_cast<std::size_t>(table_.ListCount());
+    const auto isAt = [this](std::size_t place, std::size_t row) {
+        return rows_[place].revision == table_.revision(static_cast<int>(row));
+    };
+    const std::size_t most = std::min(before, now);
+    std::size_t head = 0;
+    while (head < most && isAt(head, head))
+        ++head;
+    std::size_t tail = 0;
+    while (head + tail < most && isAt(before - 1 - tail, now - 1 - tail))
+        ++tail;
+
+    std::unordered_map<std::uint64_t, RowNumbers> between;
+    for (std::size_t place = head; place < before - tail; ++place)
+        between.emplace(rows_[place].revision, rows_[place]);
+    if (now > before)
+        rows_.insert(rows_.begin() + static_cast<std::ptrdiff_t>(head), now - before, {});
+    else
+        rows_.erase(rows_.begin() + static_cast<std::ptrdiff_t>(head),
+                    rows_.begin() + static_cast<std::ptrdiff_t>(head + before - now));
+    for (std::size_t row = head; row < now - tail; ++row) {
+        const auto found = between.find(table_.revision(static_cast<int>(row)));
+        rows_[row] = found == between.end() ? RowNumbers() : found->second;
+    }
+}
+
 void Averages::updateRows() {
-    rows_.resize(static_cast<std::size_t>(table_.ListCount()));
+    moveWithRows();
     for (int row = 0; row < table_.ListCount(); ++row) {
         RowNumbers& numbers = rows_[static_cast<std::size_t>(row)];
         if (numbers.revision != table_.revision(row))

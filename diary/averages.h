@@ -13,8 +13,8 @@ namespace tallyvane {
 ///
 /// All cells are read as numbers once and remembered, so that a keystroke in a table of many years costs one row and
 /// a walk over plain doubles. What is remembered of a row holds as long as the row at that place bears the revision
-/// under which it was read; any write, sort, removal or insertion shows in it. The sums are taken in the order of the
-/// rows each time, so that they are the same to the last bit as if nothing were remembered.
+/// under which it was read; any write shows in it, and a row that has moved is found again by it. The sums are taken in
+/// the order of the rows each time, so that they are the same to the last bit as if nothing were remembered.
 class Averages {
 public:
     static constexpr int columns = 9;
@@ -46,6 +46,7 @@ private:
         std::array<double, columns> values{};
     };
 
+    void moveWithRows();
     void updateRow(int row, RowNumbers& numbers);
     template <class Takes>
     Sums sums(Takes takes) const;

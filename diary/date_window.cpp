@@ -36,7 +36,9 @@ void DateWindow::CalendarControl1_Open() {
 }
 
 void DateWindow::PushButton1_Action() {
-    days_.Cell(days_.ListIndex(), DayTable::dateColumn, CalendarControl1.SelectedDate().ShortDate());
+    const std::string date = CalendarControl1.SelectedDate().ShortDate();
+    days_.beginStep(tr("Change of Date to %1", {date}));
+    days_.Cell(days_.ListIndex(), DayTable::dateColumn, date);
     if (dateChanged)
         dateChanged();
     Close();

@@ -50,6 +50,7 @@ bool sortBy(Listbox& table, int column) {
     table.ColumnSortDirection(key, table.ColumnSortDirection(key) == 1 ? -1 : 1);
     table.SortedColumn(key);
     table.Sort();
+    table.SortArrow(column);
     return true;
 }
 

@@ -5,9 +5,11 @@
 #include "diary/date_window.h"
 #include "diary/day_details.h"
 #include "diary/day_table.h"
+#include "diary/go_to_day_window.h"
 #include "diary/indicators.h"
 #include "diary/running_logs.h"
 #include "diary/sort_keys.h"
+#include "diary/strip_words.h"
 #include "diary/window_data.h"
 #include "platform/base/number.h"
 #include "platform/base/translation.h"
@@ -16,6 +18,7 @@
 #include "platform/files/system_files.h"
 #include "platform/printing/print_and_save.h"
 #include "platform/windows/quit.h"
+#include "platform/windows/undo_items.h"
 #include "settings/globals.h"
 
 namespace tallyvane {
@@ -35,6 +38,9 @@ void Window1::Event_Open() {
         Top(50);
     if (Left() < 0)
         Left(0);
+    showBoldDays();
+    if (const std::optional<int> newest = Finding::newestRow(ListBox1))
+        ListBox1.ScrollPosition(*newest);
     DayTable::setBaseline(ListBox1);
 }
 
@@ -113,6 +119,7 @@ void Window1::doAverages() {
         doSelectedAverages();
     else
         fillStrip(averages_.sumsOfAll());
+    showStripWords();
 }
 
 void Window1::doRowAverages() { averages_.updateRows(); }
@@ -127,6 +134,9 @@ void Window1::fillStrip(const Averages::Sums& sums) {
     for (std::size_t i = 0; i < labels.size(); ++i) {
         const std::string text = Averages::stripText(static_cast<int>(i) + 1, sums[i]);
         labels[i]->Text(text);
+        const std::string count = StripWords::ofColumn(static_cast<int>(i) + 1, sums[i]);
+        labels[i]->HelpTag(count);
+        labels[i]->AccessibleName(tr("%1, %2", {text, count}));
         if (i < lights.size())
             lights[i]->Backdrop(sums[i].count > 0 ? getLight(Val(text)) : std::nullopt);
     }
@@ -142,13 +152,22 @@ void Window1::doColWidth() { ListBox1.ColumnWidths(DayTable::columnWidths(ListBo
 
 void Window1::ListBox1_Open() { DayTable::setUp(ListBox1); }
 
-void Window1::ListBox1_Change() { doAverages(); }
+void Window1::ListBox1_Change() {
+    twins_.reset();
+    doAverages();
+    if (ListBox1.ListCount() != daysShownBold_)
+        showBoldDays();
+}
 
 bool Window1::ListBox1_CellClick(int row, int column, int /*x*/, int /*y*/) {
     if (column != DayTable::dateColumn)
         return false;
     dateWindow_ = std::make_unique<DateWindow>(*this, ListBox1);
-    dateWindow_->dateChanged = [this] { doSortColumns(); };
+    dateWindow_->dateChanged = [this] {
+        doSortColumns();
+        showBoldDays();
+        showStripWords();
+    };
     dateWindow_->Open();
     if (const std::optional<Date> date = ParseDate(ListBox1.Cell(row, column)))
         dateWindow_->CalendarControl1.SelectedDate(*date);
@@ -167,7 +186,10 @@ void Window1::ListBox1_CellTextChange(int /*row*/, int column) {
         doAverages();
 }
 
-bool Window1::ListBox1_HeaderPressed(int column) { return SortKeys::sortBy(ListBox1, column); }
+bool Window1::ListBox1_HeaderPressed(int column) {
+    ListBox1.beginStep(tr("Sort by %1", {columnName(column)}));
+    return SortKeys::sortBy(ListBox1, column);
+}
 
 bool Window1::ListBox1_CellBackgroundPaint(Graphics& g, int row, int column) {
     Indicators::paintCell(g, ListBox1, row, column);
@@ -195,8 +217,11 @@ std::string Window1::columnName(int column) const {
 // Days
 
 void Window1::addDay() {
+    ListBox1.beginStep(tr("New Day %1", {CalendarControl1.SelectedDate().ShortDate()}));
     DayTable::addDay(ListBox1, CalendarControl1.SelectedDate());
     doSortColumns();
+    showBoldDays();
+    noteTwins(CalendarControl1.SelectedDate());
 }
 
 void Window1::BevelButton1_Action() {
@@ -206,8 +231,19 @@ void Window1::BevelButton1_Action() {
 }
 
 void Window1::BevelButton2_Action() {
+    const int days = ListBox1.SelectedCount();
+    ListBox1.beginStep(days == 1 ? tr("Removal of %1", {ListBox1.Cell(ListBox1.ListIndex(), DayTable::dateColumn)})
+                                 : tr("Removal of %1 Days", {std::to_string(days)}));
     ListBox1.RemoveSelectedRows();
     doColWidth();
+}
+
+/// After a change that came past the controls.
+void Window1::showDaysAnew() {
+    twins_.reset();
+    doAverages();
+    doColWidth();
+    showBoldDays();
 }
 
 void Window1::CalendarControl1_DayDoubleClicked() { addDay(); }
@@ -248,6 +284,7 @@ void Window1::Event_EnableMenuItems(MenuBar& menuBar) {
         menuBar.enable("FilePrintSelected");
         menuBar.enable("FileArchiveSelectedDays");
     }
+    enableUndoItems(menuBar, history_);
     for (const char* item : {"FileSaveAsPDF", "FileOpenArchivedDays", "FileImportData"})
         menuBar.enable(item);
 }

@@ -3,15 +3,19 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "auto_button/auto_button.h"
 #include "diary/averages.h"
+#include "diary/finding.h"
+#include "platform/controls/list_history.h"
 #include "platform/windows/window.h"
 #include "settings/headings.h"
 
 namespace tallyvane {
 
 class DateWindow;
+class GoToDayWindow;
 
 /// The main window: the day table with its headings, the summary strip, a calendar, the journal and the toolbar.
 /// It passes what happens in its controls on to the functions of the diary, and their results back.
@@ -32,6 +36,7 @@ public:
     StaticText StaticText23, StaticText22, StaticText16; // before bed, average, weight
     Canvas Canvas4, Canvas5, Canvas6, Canvas7, Canvas8, Canvas9, Canvas10, Canvas11; // lights of columns 1 to 8
     BevelButton BevelButton1, BevelButton2; // "+", "-"
+    LinkLine StripLine; // says of which days the strip shows averages, and what became of the last step
 
     CalendarControl CalendarControl1;
     TabPanel TabPanel1;
@@ -105,6 +110,9 @@ public:
     void BevelButton2_Action();
     void CalendarControl1_DayDoubleClicked();
     void JournalFld_TextChange();
+    void CalendarControl1_DayClicked();
+    void DaysGoTo_Action();
+    void DaysToday_Action();
     void AutoButton13_Action();
     void AutoButton14_Action();
     void AutoButton15_Action();
@@ -122,6 +130,17 @@ private:
     void addDay();
     void toggleResources();
     void graphSelectedDays();
+    void showDaysAnew();
+
+    // The menu "Days", the calendar, and the line of the strip
+    MenuHandlers daysMenu();
+    bool goToDay(const Date& day);
+    void selectPeriod(const Finding::Period& period);
+    void showBoldDays();
+    void showStripWords();
+    void noteTwins(const Date& day);
+    void showTwins(bool justAdded);
+
     void fillStrip(const Averages::Sums& sums);
 
     std::string columnName(int column) const;
@@ -131,7 +150,11 @@ private:
     std::array<Canvas*, 8> stripLights();
 
     Averages averages_{ListBox1};
+    ListHistory history_{ListBox1};
     std::unique_ptr<DateWindow> dateWindow_;
+    std::unique_ptr<GoToDayWindow> goToDayWindow_;
+    std::optional<Date> twins_; // the day that the line tells to be in the table more than once
+    int daysShownBold_ = 0; // how many rows there were when the calendar was told of its bold days
     Date today_; // as the calendar last knew it
 };
 

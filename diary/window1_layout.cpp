@@ -1,9 +1,11 @@
 #include "diary/cell_help.h"
 #include "diary/date_window.h"
 #include "diary/day_table.h"
+#include "diary/go_to_day_window.h"
 #include "diary/indicators.h"
 #include "diary/window1.h"
 #include "platform/base/translation.h"
+#include "platform/windows/undo_items.h"
 #include "platform/windows/wiring.h"
 #include "settings/list_colors.h"
 
@@ -92,6 +94,7 @@ void Window1::layOut() {
         {&AutoButton13, {692, 352, 32, 32}, lockLeft | lockTop, &TabPanel1, 0},
         {&AutoButton14, {692, 392, 32, 32}, lockLeft | lockTop, &TabPanel1, 0},
         {&AutoButton15, {692, 432, 32, 32}, lockLeft | lockTop, &TabPanel1, 0},
+        {&StripLine, {240, 318, 490, 26}},
         {&Timer1},
         {&AutosaveTimer},
         {&MidnightTimer},
@@ -110,6 +113,9 @@ void Window1::build() {
     ListBox1.Colors(listColors);
     ListBox1.SelectionType(Listbox::SelectionTypes::multiple);
     ListBox1.AccessibleName(tr("Days"));
+    ListBox1.EmptyText(
+        tr("No days yet. Press \u201c+\u201d below to add today. Readings that you have in a file come in by "
+           "\u201cImport Data...\u201d in the menu File."));
     ListBox1.Heading(DayTable::dateColumn, tr("Date"));
     showHeadings(defaultHeadings());
     doColWidth();
@@ -152,6 +158,9 @@ void Window1::build() {
 }
 
 void Window1::wire() {
+    menuHandlers = daysMenu();
+    handleUndoItems(
+        *this, [this]() -> ListHistory& { return history_; }, [this] { showDaysAnew(); });
     ListBox1.CellClick = [this](int row, int column, int x, int y) { return ListBox1_CellClick(row, column, x, y); };
     ListBox1.CellKeyDown = [this](int row, int column, const std::string& key) {
         return ListBox1_CellKeyDown(row, column, key);
@@ -179,6 +188,8 @@ void Window1::wire() {
         {ListBox1.Change, &Window1::ListBox1_Change},
         {BevelButton1.Action, &Window1::BevelButton1_Action},
         {BevelButton2.Action, &Window1::BevelButton2_Action},
+        {CalendarControl1.DayClicked, &Window1::CalendarControl1_DayClicked},
+        {CalendarControl1.MonthChange, &Window1::showBoldDays},
         {CalendarControl1.DayDoubleClicked, &Window1::CalendarControl1_DayDoubleClicked},
         {AutoButton13.Action, &Window1::AutoButton13_Action},
         {AutoButton14.Action, &Window1::AutoButton14_Action},

@@ -96,6 +96,8 @@ fileWindow::fileWindow() {
     ListBox1.CellCommandClick = [this](int row, int column) { ListBox1_CellCommandClick(row, column); };
     ListBox1.CellTextChange = [this](int row, int column) { ListBox1_CellTextChange(row, column); };
     ListBox1.DropObject = [this](const DragItem& item) { ListBox1_DropObject(item); };
+    handleUndoItems(
+        *this, [this]() -> ListHistory& { return history_; }, [this] { showListAnew(); });
     Wiring(*this).connect({
         {ListBox1.Change, &fileWindow::ListBox1_Change},
         {ListBox1.DoubleClick, &fileWindow::ListBox1_DoubleClick},
@@ -172,6 +174,7 @@ void fileWindow::addFile(const FolderItem& file) {
         reportSeparator(name, separator);
         return;
     }
+    ListBox1.beginStep(tr("Addition of %1", {name}));
     ListBox1.AddRow(name);
     ListBox1.Cell(ListBox1.LastIndex(), targetColumn, file.GetSaveInfo());
     saveFileList();
@@ -182,6 +185,7 @@ void fileWindow::addLink(const std::string& link) {
         reportSeparator(link, separator);
         return;
     }
+    ListBox1.beginStep(tr("Addition of %1", {link}));
     ListBox1.AddRow(link);
     ListBox1.Cell(ListBox1.LastIndex(), targetColumn, link);
     if (saveFileList()) {
@@ -210,9 +214,22 @@ void fileWindow::ListBox1_DropObject(const DragItem& item) {
 }
 
 void fileWindow::BevelButton2_Action() {
+    ListBox1.beginStep(tr("Removal of %1", {ListBox1.Cell(ListBox1.ListIndex(), nameColumn)}));
     ListBox1.RemoveRow(ListBox1.ListIndex());
+    deleteEmptyList();
+}
+
+/// An empty list leaves no file, once there was one.
+void fileWindow::deleteEmptyList() {
     if (ListBox1.ListCount() == 0 && listFile)
         listFile->Delete();
+}
+
+/// After a step was undone or redone.
+void fileWindow::showListAnew() {
+    ListBox1_Change();
+    deleteEmptyList();
+    saveFileList();
 }
 
 // The list

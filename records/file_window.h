@@ -3,6 +3,8 @@
 #include <optional>
 
 #include "auto_button/auto_button.h"
+#include "platform/controls/list_history.h"
+#include "platform/windows/undo_items.h"
 #include "platform/windows/window.h"
 
 namespace tallyvane {
@@ -24,6 +26,7 @@ public:
 
     void Event_Open() override;
     void Event_Close() override;
+    void Event_EnableMenuItems(MenuBar& menuBar) override { enableUndoItems(menuBar, history_); }
 
     /// Adds the entries of the file to the list.
     void getFileList();
@@ -45,6 +48,10 @@ private:
     void addFile(const FolderItem& file);
     void addLink(const std::string& link);
     std::string textOfList() const;
+    void showListAnew();
+    void deleteEmptyList();
+
+    ListHistory history_{ListBox1};
 };
 
 } // namespace tallyvane

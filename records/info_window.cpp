@@ -1,12 +1,14 @@
 #include "records/info_window.h"
 
 #include <optional>
+#include <utility>
 
 #include "platform/base/text.h"
 #include "platform/base/translation.h"
 #include "platform/controls/keys.h"
 #include "platform/desktop/desktop.h"
 #include "platform/files/save_each.h"
+#include "platform/windows/undo_items.h"
 #include "records/row_file.h"
 #include "reports/listbox_print_all.h"
 #include "settings/data_files.h"
@@ -100,6 +102,7 @@ void InfoWindow::clearDetails() {
 }
 
 void InfoWindow::ListBox1_Change() {
+    detailColumn_ = 0;
     const int row = ListBox1.ListIndex();
     enableDetails(row >= 0);
     if (row < 0) {
@@ -113,11 +116,17 @@ void InfoWindow::ListBox1_Change() {
 }
 
 void InfoWindow::storeDetail(int column, const std::string& text) {
-    if (!ignoreIt)
-        ListBox1.Cell(ListBox1.ListIndex(), column, ReplaceAll(text, EndOfLine, DataFiles::lineEndMark));
+    const int row = ListBox1.ListIndex();
+    const std::string stored = ReplaceAll(text, EndOfLine, DataFiles::lineEndMark);
+    if (ignoreIt || stored == ListBox1.Cell(row, column))
+        return;
+    if (std::exchange(detailColumn_, column) != column)
+        ListBox1.beginTyping(row);
+    ListBox1.Cell(row, column, stored);
 }
 
 void InfoWindow::BevelButton1_Action() {
+    ListBox1.beginStep(tr("New Contact"));
     ListBox1.AddRow(tr("new contact"));
     ListBox1.ListIndex(ListBox1.LastIndex());
     clearDetails();
@@ -125,6 +134,7 @@ void InfoWindow::BevelButton1_Action() {
 }
 
 void InfoWindow::BevelButton2_Action() {
+    ListBox1.beginStep(tr("Removal of %1", {ListBox1.Cell(ListBox1.ListIndex(), 0)}));
     ListBox1.RemoveRow(ListBox1.ListIndex());
     clearDetails();
 }
@@ -156,11 +166,26 @@ bool InfoWindow::ListBox2_CellKeyDown(int row, int column, const std::string& ke
 }
 
 void InfoWindow::AutoButton3_Action() {
+    ListBox2.beginStep(tr("New Medication"));
     ListBox2.AddRow(tr("medication"));
     editCellWithAllSelected(ListBox2, {ListBox2.LastIndex(), 0});
 }
 
-void InfoWindow::AutoButton4_Action() { ListBox2.RemoveRow(ListBox2.ListIndex()); }
+void InfoWindow::AutoButton4_Action() {
+    ListBox2.beginStep(tr("Removal of %1", {ListBox2.Cell(ListBox2.ListIndex(), 0)}));
+    ListBox2.RemoveRow(ListBox2.ListIndex());
+}
+
+// Undo
+
+void InfoWindow::Event_EnableMenuItems(MenuBar& menuBar) { enableUndoItems(menuBar, historyInFront()); }
+
+ListHistory& InfoWindow::historyInFront() { return TabPanel1.Value() == 0 ? contactHistory_ : medicationHistory_; }
+
+void InfoWindow::showListsAnew() {
+    ListBox1_Change();
+    ListBox2_Change();
+}
 
 void InfoWindow::Canvas1_Action() { ListboxPrintAll().print(ListBox2, true); }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "auto_button/auto_button.h"
+#include "platform/controls/list_history.h"
 #include "platform/windows/window.h"
 
 namespace tallyvane {
@@ -28,6 +29,7 @@ public:
 
     void Event_Open() override;
     void Event_Close() override;
+    void Event_EnableMenuItems(MenuBar& menuBar) override;
 
     void getContacts();
     void getMeds();
@@ -53,6 +55,12 @@ private:
     void clearDetails();
     void storeDetail(int column, const std::string& text);
     void enableDetails(bool on);
+    ListHistory& historyInFront();
+    void showListsAnew();
+
+    ListHistory contactHistory_{ListBox1};
+    ListHistory medicationHistory_{ListBox2};
+    int detailColumn_ = 0; // that the user is writing, in one step; 0 for none
 };
 
 } // namespace tallyvane

@@ -1,6 +1,7 @@
 #include "records/info_window.h"
 
 #include "platform/base/translation.h"
+#include "platform/windows/undo_items.h"
 #include "platform/windows/wiring.h"
 #include "settings/list_colors.h"
 
@@ -104,6 +105,8 @@ void InfoWindow::build() {
 }
 
 void InfoWindow::wire() {
+    handleUndoItems(
+        *this, [this]() -> ListHistory& { return historyInFront(); }, [this] { showListsAnew(); });
     ListBox2.CellKeyDown = [this](int row, int column, const std::string& key) {
         return ListBox2_CellKeyDown(row, column, key);
     };

@@ -176,7 +176,7 @@ void App::wireWindows(Window1& window) {
 /// The items that hold only while the main window is in front.
 void App::wireMenus(Window1& window) {
     const Listbox& days = window.ListBox1;
-    window.menuHandlers = {
+    window.menuHandlers.insert({
         {"FileImportData", [this] { FileImportData_Action(); }},
         {"FileArchiveSelectedDays", [&days] { FileArchiveSelectedDays_Action(days); }},
         {"FileOpenArchivedDays", [this] { FileOpenArchivedDays_Action(windows_.archive); }},
@@ -184,7 +184,7 @@ void App::wireMenus(Window1& window) {
         {"FilePrintSetup", [] { FilePrintSetup_Action(); }},
         {"FilePrint", [&window] { DiaryReport(window).FilePrint_Action(); }},
         {"FilePrintSelected", [&window] { static_cast<void>(DiaryReport(window).FilePrintSelected_Action()); }},
-    };
+    });
 }
 
 void App::showHeadingsEditor() {

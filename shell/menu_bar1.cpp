@@ -13,7 +13,8 @@ Menu editMenu() {
     return {"EditMenu",
             tr("&Edit"),
             {
-                {"EditUndo", tr("&Undo"), "Cmd+Z", MenuRole::undo},
+                {"EditUndo", tr("&Undo"), "Cmd+Z", MenuRole::undo, manual},
+                {"EditRedo", tr("&Redo"), "Cmd+Shift+Z; Cmd+Y", MenuRole::redo, manual},
                 {"UntitledMenu1", ""},
                 {"EditCut", tr("Cu&t"), "Cmd+X", MenuRole::cut},
                 {"EditCopy", tr("&Copy"), "Cmd+C", MenuRole::copy},
@@ -45,6 +46,25 @@ Menu fileMenu() {
             }};
 }
 
+Menu daysMenu() {
+    return {"DaysMenu",
+            tr("&Days"),
+            {
+                {"DaysGoTo", tr("&Go to Day..."), "Cmd+G"},
+                {"DaysToday", tr("&Today"), "Cmd+T"},
+                {"DaysSeparator1", ""},
+                {"DaysSelectLast7", tr("Select Last &7 Days")},
+                {"DaysSelectLast14", tr("Select Last &14 Days")},
+                {"DaysSelectLast30", tr("Select Last &30 Days")},
+                {"DaysSelectLast90", tr("Select Last &90 Days")},
+                {"DaysSelectThisMonth", tr("Select This &Month")},
+                {"DaysSelectLastMonth", tr("Select &Last Month")},
+                {"DaysSeparator2", ""},
+                {"DaysSelectAll", tr("Select &All Days")},
+                {"DaysSelectNone", tr("Select &None")},
+            }};
+}
+
 Menu helpMenu() {
     return {"HelpMenu",
             tr("Help"),
@@ -56,6 +76,6 @@ Menu helpMenu() {
 
 } // namespace
 
-MenuBar MenuBar1() { return MenuBar({editMenu(), fileMenu(), helpMenu()}); }
+MenuBar MenuBar1() { return MenuBar({editMenu(), fileMenu(), daysMenu(), helpMenu()}); }
 
 } // namespace tallyvane

@@ -12,6 +12,10 @@ row() { sed -n "$1p" "$days"; }
 start
 in_front
 
+# The table opens at its newest day; from there to its top.
+click_from_bottom 620 441
+xdotool key ctrl+Home
+
 # In the third row: keys that no cell uses leave the day alone; Page Down leads the editing on by sixteen rows.
 click_from_bottom 118 441
 xdotool key ctrl+Home ctrl+End ctrl+space

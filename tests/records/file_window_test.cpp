@@ -173,6 +173,28 @@ TEST_F(FileWindowTest, ARenamedEntryIsSavedOnceTheDiskTakesIt) {
     EXPECT_EQ(read(list()), "a longer name than before@@@www.b\n");
 }
 
+TEST_F(FileWindowTest, WhatIsRemovedComesBackAlsoToTheDisk) {
+    const std::string content = "Guide@@@www.example.org\n";
+    openWith(content);
+    MenuBar bar({});
+    files_.ListBox1.ListIndex(0);
+    files_.BevelButton2.Action();
+    EXPECT_FALSE(std::filesystem::exists(list()));
+    bar.choose("EditUndo", &files_);
+    EXPECT_EQ(read(list()), content);
+    EXPECT_TRUE(files_.ListBox1.RowPicture(0).has_value());
+    EXPECT_TRUE(files_.BevelButton2.Enabled());
+    bar.choose("EditRedo", &files_);
+    EXPECT_FALSE(std::filesystem::exists(list()));
+    EXPECT_FALSE(files_.BevelButton2.Enabled());
+
+    bar.choose("EditUndo", &files_);
+    files_.ListBox1.DropObject({std::nullopt, "www.other.org"}); // the list is read again from the disk
+    EXPECT_EQ(files_.ListBox1.ListCount(), 2);
+    bar.choose("EditUndo", &files_);
+    EXPECT_EQ(read(list()), content);
+}
+
 } // namespace
 
 } // namespace tallyvane

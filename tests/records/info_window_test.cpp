@@ -178,6 +178,38 @@ TEST_F(InfoWindowTest, MedicationsComeAndGo) {
                             [](const auto& call) { return call.text == "Schedule"; }));
 }
 
+TEST_F(InfoWindowTest, WhatIsRemovedOrEditedComesBackWithItsDetails) {
+    openWith("Doctor@#@Dr A@#@1@#@a@b.c@#@Street\nNurse@#@B@#@@#@@#@\n", "Metformin@#@500@#@with meals\n");
+    MenuBar bar({});
+    const auto undo = [&] { bar.choose("EditUndo", &info_); };
+    info_.EditField2.userChanged("Dr C", 0, 0);
+    info_.EditField2.userChanged("Dr Ca", 0, 0); // one step with the letter before
+    info_.EditField3.userChanged("2", 0, 0);
+    info_.BevelButton2.Action();
+    EXPECT_EQ(info_.ListBox1.ListCount(), 1);
+    undo();
+    EXPECT_EQ(info_.EditField2.Text(), "Dr Ca");
+    EXPECT_EQ(info_.EditField5.Text(), "Street");
+    undo();
+    EXPECT_EQ(info_.EditField3.Text(), "1");
+    undo();
+    EXPECT_EQ(info_.EditField2.Text(), "Dr A");
+    undo(); // nothing is left
+    bar.choose("EditRedo", &info_);
+    EXPECT_EQ(info_.EditField2.Text(), "Dr Ca");
+
+    info_.TabPanel1.Value(1);
+    info_.ListBox2.EditCell(0, 1);
+    info_.ListBox2.userTyped("850", 3, 0);
+    info_.AutoButton4.Action();
+    undo();
+    EXPECT_EQ(info_.ListBox2.Cell(0, 1), "850");
+    EXPECT_TRUE(info_.AutoButton4.Enabled());
+    undo();
+    EXPECT_EQ(info_.ListBox2.Cell(0, 1), "500");
+    EXPECT_EQ(info_.EditField2.Text(), "Dr Ca"); // a list of its own
+}
+
 } // namespace
 
 } // namespace tallyvane

@@ -228,7 +228,7 @@ TEST_F(AppTest, MenuItemsWithoutAHandlerAreDisabled) {
                                             "HelpUsersGuide", "HelpSupportForum"}));
     const std::size_t withoutDays = enabledItems(app_.windows().main.get()).size();
     app_.windows().main->BevelButton1_Action(); // selects the day that it adds
-    EXPECT_EQ(enabledItems(app_.windows().main.get()).size(), withoutDays + 2) << "those for selected days";
+    EXPECT_EQ(enabledItems(app_.windows().main.get()).size(), withoutDays + 3) << "undo, and those for selected days";
 }
 
 TEST_F(AppTest, MenuItemsReachTheirWindows) {

@@ -1,0 +1,109 @@
+#include "diary/finding.h"
+
+#include <algorithm>
+#include <set>
+#include <string>
+
+#include "diary/day_table.h"
+#include "diary/sort_keys.h"
+#include "platform/base/number.h"
+
+namespace tallyvane::Finding {
+
+namespace {
+
+constexpr double secondsOfDay = 24 * 60 * 60;
+
+const std::string& keyOf(const Listbox& table, int row) { return table.Cell(row, DayTable::firstKey); }
+
+/// The first and the last key of a period. Keys are texts of one length, which compare as the days do.
+struct Keys {
+    std::string first;
+    std::string last;
+
+    explicit Keys(const Period& period)
+        : first(SortKeys::dateKey(startOf(period.first))), last(SortKeys::dateKey(startOf(period.second))) {}
+    bool hold(const std::string& key) const { return key >= first && key <= last; }
+    static Date startOf(const Date& day) { return {day.Year(), day.Month(), day.Day()}; }
+};
+
+Date daysLater(const Date& day, int days) {
+    return Date::ofTotalSeconds(Keys::startOf(day).TotalSeconds() + days * secondsOfDay);
+}
+
+} // namespace
+
+std::optional<int> newestRow(const Listbox& table) {
+    std::optional<int> newest;
+    for (int row = 0; row < table.ListCount(); ++row)
+        if (!newest || keyOf(table, row) >= keyOf(table, *newest))
+            newest = row;
+    return newest;
+}
+
+std::vector<int> rowsOf(const Listbox& table, const Date& day) {
+    const Keys keys({day, day});
+    std::vector<int> rows;
+    for (int row = 0; row < table.ListCount(); ++row)
+        if (keys.hold(keyOf(table, row)))
+            rows.push_back(row);
+    return rows;
+}
+
+std::optional<int> nextRowOf(const Listbox& table, const Date& day, int after) {
+    const std::vector<int> rows = rowsOf(table, day);
+    if (rows.empty())
+        return std::nullopt;
+    const auto next = std::upper_bound(rows.begin(), rows.end(), after);
+    return next == rows.end() ? rows.front() : *next;
+}
+
+std::vector<bool> rowsIn(const Listbox& table, const Period& period) {
+    const Keys keys(period);
+    std::vector<bool> rows(static_cast<std::size_t>(table.ListCount()));
+    for (int row = 0; row < table.ListCount(); ++row)
+        rows[static_cast<std::size_t>(row)] = keys.hold(keyOf(table, row));
+    return rows;
+}
+
+std::optional<Period> periodOfSelected(const Listbox& table) {
+    std::optional<int> first;
+    std::optional<int> last;
+    for (int row = 0; row < table.ListCount(); ++row) {
+        if (!table.Selected(row) || keyOf(table, row).empty())
+            continue;
+        if (!first || keyOf(table, row) < keyOf(table, *first))
+            first = row;
+        if (!last || keyOf(table, row) > keyOf(table, *last))
+            last = row;
+    }
+    if (!first)
+        return std::nullopt;
+    const std::optional<Date> firstDay = ParseDate(table.Cell(*first, DayTable::dateColumn));
+    const std::optional<Date> lastDay = ParseDate(table.Cell(*last, DayTable::dateColumn));
+    return firstDay && lastDay ? std::optional(Period(*firstDay, *lastDay)) : std::nullopt;
+}
+
+std::vector<Date> daysIn(const Listbox& table, const Period& period) {
+    const Keys keys(period);
+    std::set<std::string> found;
+    for (int row = 0; row < table.ListCount(); ++row)
+        if (keys.hold(keyOf(table, row)))
+            found.insert(keyOf(table, row));
+    std::vector<Date> days;
+    for (const std::string& key : found)
+        days.push_back(Date::ofTotalSeconds(Val(key)));
+    return days;
+}
+
+Period lastDays(int days, const Date& today) { return {daysLater(today, 1 - days), Keys::startOf(today)}; }
+
+Period monthOf(const Date& day) {
+    const Date first(day.Year(), day.Month(), 1);
+    const Date inNext = daysLater(first, 31);
+    return {first, daysLater(Date(inNext.Year(), inNext.Month(), 1), -1)};
+}
+
+Period monthBefore(const Date& day) { return monthOf(daysLater(Date(day.Year(), day.Month(), 1), -1)); }
+
+} // namespace tallyvane::Finding

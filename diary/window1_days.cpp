@@ -1,0 +1,131 @@
+/// How the main window finds days: the menu "Days", the calendar, and the line beside the journal's tab.
+#include "diary/finding.h"
+#include "diary/go_to_day_window.h"
+#include "diary/strip_words.h"
+#include "diary/window1.h"
+#include "platform/base/translation.h"
+#include "platform/desktop/desktop.h"
+
+#include <algorithm>
+
+namespace tallyvane {
+
+/// Marks a row of that day: the one after the marked or selected one, so that rows of one date follow each other.
+bool Window1::goToDay(const Date& day) {
+    const int present = ListBox1.MarkedRow() >= 0 ? ListBox1.MarkedRow() : ListBox1.ListIndex();
+    const std::optional<int> row = Finding::nextRowOf(ListBox1, day, present);
+    if (row) {
+        ListBox1.closeCell();
+        ListBox1.markRow(*row);
+    }
+    return row.has_value();
+}
+
+void Window1::DaysGoTo_Action() {
+    goToDayWindow_ = std::make_unique<GoToDayWindow>(*this, CalendarControl1.SelectedDate());
+    goToDayWindow_->goTo = [this](const Date& day) {
+        const bool found = goToDay(day);
+        if (found)
+            ListBox1.SetFocus();
+        return found;
+    };
+    goToDayWindow_->Show();
+}
+
+void Window1::DaysToday_Action() {
+    const Date today;
+    MidnightTimer_Action();
+    if (goToDay(today)) {
+        ListBox1.SetFocus();
+        return;
+    }
+    const Answer answer = Ask(tr("Today, %1, is not in the table yet. Do you want to add it?", {today.ShortDate()}),
+                              tr("Add"), tr("Cancel"));
+    if (answer != Answer::yes)
+        return;
+    CalendarControl1.SelectedDate(today);
+    BevelButton1_Action();
+}
+
+void Window1::selectPeriod(const Finding::Period& period) {
+    const std::vector<bool> rows = Finding::rowsIn(ListBox1, period);
+    if (std::find(rows.begin(), rows.end(), true) == rows.end()) {
+        ListBox1.select({});
+        StripLine.show(tr("There are no days from %1 to %2.", {period.first.ShortDate(), period.second.ShortDate()}));
+        return;
+    }
+    ListBox1.select(rows);
+    ListBox1.bringIntoView(ListBox1.ListIndex());
+    ListBox1.SetFocus();
+}
+
+MenuHandlers Window1::daysMenu() {
+    const auto last = [this](int days) { return [this, days] { selectPeriod(Finding::lastDays(days, Date())); }; };
+    return {
+        {"DaysGoTo", [this] { DaysGoTo_Action(); }},
+        {"DaysToday", [this] { DaysToday_Action(); }},
+        {"DaysSelectLast7", last(7)},
+        {"DaysSelectLast14", last(14)},
+        {"DaysSelectLast30", last(30)},
+        {"DaysSelectLast90", last(90)},
+        {"DaysSelectThisMonth", [this] { selectPeriod(Finding::monthOf(Date())); }},
+        {"DaysSelectLastMonth", [this] { selectPeriod(Finding::monthBefore(Date())); }},
+        {"DaysSelectAll",
+         [this] { ListBox1.select(std::vector<bool>(static_cast<std::size_t>(ListBox1.ListCount()), true)); }},
+        {"DaysSelectNone", [this] { ListBox1.select({}); }},
+    };
+}
+
+// The calendar
+
+void Window1::CalendarControl1_DayClicked() {
+    const Date& day = CalendarControl1.SelectedDate();
+    if (goToDay(day))
+        return;
+    ListBox1.markRow(-1);
+    StripLine.show(tr("%1 is not in the table. A double click adds it.", {day.ShortDate()}));
+}
+
+void Window1::showBoldDays() {
+    const Date& month = CalendarControl1.ShownMonth();
+    const Finding::Period before = Finding::monthBefore(month);
+    const Finding::Period shown = Finding::monthOf(month);
+    // Days of the months before and after it are seen, too.
+    constexpr int daysInSixWeeks = 42;
+    const Date last = Date::ofTotalSeconds(shown.first.TotalSeconds() + daysInSixWeeks * 24.0 * 60 * 60);
+    CalendarControl1.BoldDays(Finding::daysIn(ListBox1, {before.first, last}));
+    daysShownBold_ = ListBox1.ListCount();
+}
+
+// The line
+
+void Window1::showStripWords() {
+    if (twins_)
+        showTwins(false);
+    else
+        StripLine.show(StripWords::ofTable(ListBox1));
+}
+
+/// Tells that the day which was just added is in the table already.
+void Window1::noteTwins(const Date& day) {
+    const bool isTwin = Finding::rowsOf(ListBox1, day).size() > 1;
+    twins_ = isTwin ? std::optional(day) : std::nullopt;
+    if (isTwin)
+        showTwins(true);
+    else
+        showStripWords();
+}
+
+/// With a link that undoes the adding, as long as that is the last that was done.
+void Window1::showTwins(bool justAdded) {
+    const std::string date = twins_->ShortDate();
+    const auto rows = Finding::rowsOf(ListBox1, *twins_).size();
+    std::vector<LinkLine::Link> links{{tr("Go to the other row"), [this, day = *twins_] { goToDay(day); }}};
+    if (justAdded)
+        links.push_back({tr("Undo"), menuHandlers["EditUndo"]});
+    StripLine.show(rows == 2 ? tr("%1 is in the table twice.", {date})
+                             : tr("%1 is in the table %2 times.", {date, std::to_string(rows)}),
+                   std::move(links));
+}
+
+} // namespace tallyvane
