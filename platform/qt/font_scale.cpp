@@ -12,7 +12,7 @@ namespace tallyvane {
 
 namespace {
 
-constexpr double largestPoints = 12; // of the letters that all windows have room for
+constexpr double normalPoints = 10; // of the letters that the windows are laid out for
 
 constexpr const char* scaleName = "QT_SCALE_FACTOR";
 /// What the scale was before the process started anew; also the sign that it did.
@@ -20,7 +20,7 @@ constexpr const char* scaleBeforeName = "TALLYVANE_SCALE_BEFORE";
 
 void limitFontSize() {
     QFont font = QApplication::font();
-    font.setPointSizeF(largestPoints);
+    font.setPointSizeF(normalPoints);
     QApplication::setFont(font);
 }
 
@@ -37,7 +37,7 @@ void restoreEnvironment() {
 } // namespace
 
 double FontScale::of(double points, QSize largestWindow, QSize room) {
-    const double wanted = points / largestPoints;
+    const double wanted = points / normalPoints;
     const double fitting = std::min(static_cast<double>(room.width()) / largestWindow.width(),
                                     static_cast<double>(room.height()) / largestWindow.height());
     return std::max(1.0, std::min(wanted, fitting));
@@ -48,7 +48,7 @@ void FontScale::apply() {
     if (isStartedAnew)
         restoreEnvironment();
     const double points = QFontInfo(QApplication::font()).pointSizeF();
-    if (points <= largestPoints)
+    if (points <= normalPoints)
         return;
     const double scale = of(points, largestWindow_, QGuiApplication::primaryScreen()->availableSize());
     if (!isStartedAnew && scale > 1)

@@ -7,7 +7,8 @@
 
 namespace tallyvane {
 
-/// Scales all windows up when the desktop's font is larger than the layout allows for, so that nothing is clipped.
+/// Scales all windows up when the desktop's font is larger than the one they are laid out for, so that tables, pictures
+/// and letters grow alike and nothing is clipped.
 ///
 /// Qt reads the scale factor of a process only from the environment, before the desktop's font is known. So a process
 /// that finds a large font sets QT_SCALE_FACTOR and executes itself again with execv.

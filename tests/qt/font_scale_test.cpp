@@ -9,7 +9,8 @@ namespace {
 TEST(FontScaleTest, WindowsGrowWithLargeLettersAsFarAsTheScreenGoes) {
     const auto scale = [](double points, QSize room) { return FontScale::of(points, {800, 600}, room); };
     EXPECT_DOUBLE_EQ(scale(9, {1920, 1040}), 1) << "small letters";
-    EXPECT_DOUBLE_EQ(scale(18, {1920, 1040}), 1.5) << "half as large again as the largest that fit";
+    EXPECT_DOUBLE_EQ(scale(11, {1920, 1040}), 1.1) << "from the first step on";
+    EXPECT_DOUBLE_EQ(scale(15, {1920, 1040}), 1.5);
     EXPECT_DOUBLE_EQ(scale(24, {1200, 2000}), 1.5) << "a screen that is too narrow";
     EXPECT_DOUBLE_EQ(scale(24, {1920, 750}), 1.25) << "a screen that is too low";
     EXPECT_DOUBLE_EQ(scale(24, {640, 480}), 1) << "a screen smaller than the largest window";
