@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "diary/strip_words.h"
 #include "platform/base/text.h"
 #include "platform/base/translation.h"
 #include "platform/desktop/desktop.h"
@@ -93,6 +94,10 @@ void DiaryReport::print(Graphics& g, const std::string& title, double height, Da
     }
     page.skipLine();
     page.drawAverages(averages());
+    if (diary_.ListBox1.SelectedCount() == 0)
+        return;
+    page.skipLine(); // the strip's averages are those of the selected days, also in a report of all
+    page.drawNote(StripWords::ofTable(diary_.ListBox1));
 }
 
 void DiaryReport::printDetails(ReportPage& page, const Graphics& g) {

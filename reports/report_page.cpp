@@ -88,4 +88,9 @@ void ReportPage::drawAverages(const Cells& cells) {
     g_.ForeColor(black);
 }
 
+void ReportPage::drawNote(const std::string& text) {
+    g_.Bold(false);
+    g_.DrawString(text, left, baseline());
+}
+
 } // namespace tallyvane

@@ -28,6 +28,8 @@ public:
     /// too long for a page runs on past its bottom.
     void drawDetail(const std::string& label, const std::string& text, int lines);
     void drawAverages(const Cells& cells);
+    /// A line of plain text.
+    void drawNote(const std::string& text);
 
     void skipLine() { ++line_; }
     /// Starts a new page if `lines` more do not fit on this one.

@@ -199,7 +199,8 @@ TEST_F(DiaryReportTest, TheSelectedDaysAndThePaper) {
     table_.select({true, false, true});
     EXPECT_FALSE(report_.FilePrintSelected_Action());
     EXPECT_EQ(toolkit_.printed[0].text, "Marklog Report");
-    EXPECT_EQ(body(), (Texts{"104: 50 'day 0'", "128: 50 'day 2'", "164: 50 'Averages: '"}));
+    EXPECT_EQ(body(), (Texts{"104: 50 'day 0'", "128: 50 'day 2'", "164: 50 'Averages: '",
+                             "176: 50 'Averages of 2 selected days'"}));
     EXPECT_EQ(Globals::ps, nullptr) << "only a report of all days makes one";
     EXPECT_EQ(toolkit_.paper, nullptr);
 
