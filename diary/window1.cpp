@@ -153,8 +153,9 @@ void Window1::doColWidth() { ListBox1.ColumnWidths(DayTable::columnWidths(ListBo
 void Window1::ListBox1_Open() { DayTable::setUp(ListBox1); }
 
 void Window1::ListBox1_Change() {
-    twins_.reset();
+    forgetLine();
     doAverages();
+    noteUnit(Val(StaticText22.Text())); // of days that were brought in
     if (ListBox1.ListCount() != daysShownBold_)
         showBoldDays();
 }
@@ -179,11 +180,13 @@ bool Window1::ListBox1_CellKeyDown(int row, int column, const std::string& key) 
     return moveByKey(ListBox1, row, column, key);
 }
 
-void Window1::ListBox1_CellTextChange(int /*row*/, int column) {
+void Window1::ListBox1_CellTextChange(int row, int column) {
     if (column == DayTable::dateColumn)
         doSortColumns();
     else
         doAverages();
+    if (column >= DayTable::firstReading && column <= DayTable::lastReading)
+        noteUnit(Val(ListBox1.Cell(row, column)));
 }
 
 bool Window1::ListBox1_HeaderPressed(int column) {
@@ -240,7 +243,7 @@ void Window1::BevelButton2_Action() {
 
 /// After a change that came past the controls.
 void Window1::showDaysAnew() {
-    twins_.reset();
+    forgetLine();
     doAverages();
     doColWidth();
     showBoldDays();

@@ -60,6 +60,7 @@ public:
     std::function<void()> showTeamAndMedications;
     std::function<void()> showGraph;
     std::function<void()> showHeadingsEditor;
+    std::function<void()> showPreferences;
     /// Five minutes have gone without a save.
     std::function<void()> autosave;
 
@@ -132,14 +133,19 @@ private:
     void graphSelectedDays();
     void showDaysAnew();
 
-    // The menu "Days", the calendar, and the line of the strip
+    // The menu "Days" and the calendar
     MenuHandlers daysMenu();
     bool goToDay(const Date& day);
     void selectPeriod(const Finding::Period& period);
     void showBoldDays();
+
+    // The line beside the journal's tab
     void showStripWords();
+    void forgetLine();
     void noteTwins(const Date& day);
     void showTwins(bool justAdded);
+    void noteUnit(double reading);
+    void useLimitsInMg();
 
     void fillStrip(const Averages::Sums& sums);
 
@@ -154,6 +160,8 @@ private:
     std::unique_ptr<DateWindow> dateWindow_;
     std::unique_ptr<GoToDayWindow> goToDayWindow_;
     std::optional<Date> twins_; // the day that the line tells to be in the table more than once
+    bool lineStays_ = false; // until other days are selected
+    bool unitIsTold_ = false;
     int daysShownBold_ = 0; // how many rows there were when the calendar was told of its bold days
     Date today_; // as the calendar last knew it
 };

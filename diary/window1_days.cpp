@@ -1,7 +1,6 @@
-/// How the main window finds days: the menu "Days", the calendar, and the line beside the journal's tab.
+/// How the main window finds days: the menu "Days" and the calendar.
 #include "diary/finding.h"
 #include "diary/go_to_day_window.h"
-#include "diary/strip_words.h"
 #include "diary/window1.h"
 #include "platform/base/translation.h"
 #include "platform/desktop/desktop.h"
@@ -95,37 +94,6 @@ void Window1::showBoldDays() {
     const Date last = Date::ofTotalSeconds(shown.first.TotalSeconds() + daysInSixWeeks * 24.0 * 60 * 60);
     CalendarControl1.BoldDays(Finding::daysIn(ListBox1, {before.first, last}));
     daysShownBold_ = ListBox1.ListCount();
-}
-
-// The line
-
-void Window1::showStripWords() {
-    if (twins_)
-        showTwins(false);
-    else
-        StripLine.show(StripWords::ofTable(ListBox1));
-}
-
-/// Tells that the day which was just added is in the table already.
-void Window1::noteTwins(const Date& day) {
-    const bool isTwin = Finding::rowsOf(ListBox1, day).size() > 1;
-    twins_ = isTwin ? std::optional(day) : std::nullopt;
-    if (isTwin)
-        showTwins(true);
-    else
-        showStripWords();
-}
-
-/// With a link that undoes the adding, as long as that is the last that was done.
-void Window1::showTwins(bool justAdded) {
-    const std::string date = twins_->ShortDate();
-    const auto rows = Finding::rowsOf(ListBox1, *twins_).size();
-    std::vector<LinkLine::Link> links{{tr("Go to the other row"), [this, day = *twins_] { goToDay(day); }}};
-    if (justAdded)
-        links.push_back({tr("Undo"), menuHandlers["EditUndo"]});
-    StripLine.show(rows == 2 ? tr("%1 is in the table twice.", {date})
-                             : tr("%1 is in the table %2 times.", {date, std::to_string(rows)}),
-                   std::move(links));
 }
 
 } // namespace tallyvane

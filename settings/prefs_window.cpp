@@ -46,7 +46,10 @@ PrefsWindow::PrefsWindow() {
         {&EditField4, limitField(3), lockLeft | lockTop, &TabPanel1, 0},
         {&Canvas5, zoneMark(4), lockLeft | lockTop, &TabPanel1, 0},
         {&StaticText6, zoneName(4), lockLeft | lockTop, &TabPanel1, 0},
-        {&StaticText7, {28, 404, 384, 26}, lockLeft | lockTop, &TabPanel1, 0},
+        {&StaticText7, {28, 404, 384, 20}, lockLeft | lockTop, &TabPanel1, 0},
+        {&LimitsBefore, {28, 424, 384, 20}, lockLeft | lockTop, &TabPanel1, 0},
+        {&PushButton2, {12, 458, 146, 30}},
+        {&PushButton3, {164, 458, 146, 30}},
         {&PushButton1, {318, 458, 110, 30}},
         {&Timer1},
     });
@@ -80,6 +83,10 @@ void PrefsWindow::build() {
     StaticText7.Align(TextAlign::center);
     PushButton1.Caption(tr("OK"));
     PushButton1.Default(true);
+    PushButton2.Caption(tr("Usual in mmol/L"));
+    PushButton2.HelpTag(tr("The limits that doctors have agreed on: a target of 3.9 to 10.0 mmol/L"));
+    PushButton3.Caption(tr("Usual in mg/dL"));
+    PushButton3.HelpTag(tr("The limits that doctors have agreed on: a target of 70 to 180 mg/dL"));
     focusFirst(CheckBox1); // no field: each key in one takes effect at once
     Timer1.Period(100);
 }
@@ -90,6 +97,8 @@ void PrefsWindow::wire() {
         fields()[i]->KeyDown = [this](const std::string& key) { return EditField_KeyDown(key); };
         fields()[i]->TextChange = [this, i] { EditField_TextChange(i); };
     }
+    PushButton2.Action = [this] { useLimits(UsualLimits::inMmol); };
+    PushButton3.Action = [this] { useLimits(UsualLimits::inMg); };
     Wiring(*this).connect({
         {CheckBox1.Open, &PrefsWindow::CheckBox1_Open},
         {CheckBox1.Action, &PrefsWindow::CheckBox1_Action},
@@ -125,6 +134,24 @@ void PrefsWindow::CheckBox1_Action() {
 void PrefsWindow::lightsChanged() {
     if (startIndicatorTimer)
         startIndicatorTimer();
+}
+
+/// Replaces all four limits, and offers a way back to those that were there.
+void PrefsWindow::useLimits(const UsualLimits::Limits& limits) {
+    const UsualLimits::Limits before = UsualLimits::present();
+    if (before == limits)
+        return;
+    UsualLimits::use(limits);
+    showLimits();
+    LimitsBefore.show(
+        tr("Before: %1, %2, %3 and %4.", {Str(before.over), Str(before.caution), Str(before.low), Str(before.under)}),
+        {{tr("Put them back"), [this, before] { useLimits(before); }}});
+}
+
+void PrefsWindow::showLimits() {
+    for (std::size_t field = 0; field < fields().size(); ++field)
+        EditField_Open(field);
+    lightsChanged();
 }
 
 void PrefsWindow::PushButton1_Action() { Timer1.Mode(Timer::ModeSingle); }

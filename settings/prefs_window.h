@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "platform/windows/window.h"
+#include "settings/usual_limits.h"
 
 namespace tallyvane {
 
@@ -23,6 +24,8 @@ public:
     Canvas IndicatorBackground; // behind the marks of the zones, whose colours are made for it
     StaticText StaticText7; // the units
     PushButton PushButton1; // OK
+    PushButton PushButton2, PushButton3; // the usual limits in mmol/L, in mg/dL
+    LinkLine LimitsBefore; // those that a press of the last two has replaced
     Timer Timer1; // saves and closes
 
     /// Starts the main window's timer, which repaints the lights a moment later.
@@ -44,6 +47,8 @@ private:
     void build();
     void wire();
     void lightsChanged();
+    void useLimits(const UsualLimits::Limits& limits);
+    void showLimits();
 };
 
 } // namespace tallyvane

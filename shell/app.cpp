@@ -160,6 +160,7 @@ void App::createMainWindow() {
 
 void App::wireWindows(Window1& window) {
     window.showHeadingsEditor = [this] { showHeadingsEditor(); };
+    window.showPreferences = [this] { FilePreferences_Action(); };
     window.autosave = [this] { Event_Deactivate(); };
     window.showLogs = [this] { showSingle(windows_.logs); };
     window.showResources = [this] { showSingle(windows_.files); };

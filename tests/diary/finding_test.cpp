@@ -2,6 +2,7 @@
 #include "diary/finding.h"
 
 #include "diary/go_to_day_window.h"
+#include "settings/usual_limits.h"
 #include "support/diary_desk.h"
 
 namespace tallyvane {
@@ -165,6 +166,28 @@ TEST_F(FindingTest, TheStripSaysOnHowManyReadingsAFigureRests) {
     EXPECT_EQ(window1_.StaticText2.HelpTag(), "Average of 0 readings");
     EXPECT_EQ(window1_.StaticText22.HelpTag(), "Average of the averages of 2 days");
     EXPECT_EQ(window1_.StaticText16.AccessibleName(), "70.0, 1 weight");
+}
+
+TEST_F(FindingTest, AReadingOfTheOtherUnitIsToldOnce) {
+    bool isAsked = false;
+    window1_.showPreferences = [&] { isAsked = true; };
+    openOn({"11/21/2026"});
+    const auto type = [this](const char* text) {
+        table_.EditCell(0, 1);
+        table_.userTyped(text, 0, 0);
+    };
+    table_.EditCell(0, 9);
+    table_.userTyped("80", 0, 0); // a weight
+    type("33.3");
+    EXPECT_EQ(line(), "Averages of 1 selected day, 11/21/2026");
+    type("120");
+    EXPECT_EQ(line(), "120 is in mg/dL, your limits are in mmol/L.");
+    press("Use limits in mg/dL");
+    EXPECT_TRUE(isAsked);
+    EXPECT_EQ(UsualLimits::present(), UsualLimits::inMg);
+    UsualLimits::use(UsualLimits::inMmol);
+    type("130");
+    EXPECT_EQ(line(), "Averages of 1 selected day, 11/21/2026");
 }
 
 } // namespace

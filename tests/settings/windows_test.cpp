@@ -124,6 +124,24 @@ TEST_F(PrefsWindowTest, TheCloseBoxSavesToo) {
     EXPECT_EQ(firstLines(), "false\n13\n9\n5\n0\nfa");
 }
 
+TEST_F(PrefsWindowTest, TheUsualLimitsComeByOneButtonAndGoByOneLink) {
+    const auto shown = [this] {
+        return Texts{prefs_.EditField1.Text(), prefs_.EditField2.Text(), prefs_.EditField3.Text(),
+                     prefs_.EditField4.Text()};
+    };
+    prefs_.EditField2.userChanged("9.5", 3, 0);
+    prefs_.PushButton3.Action();
+    EXPECT_EQ(shown(), (Texts{"251", "181", "70", "54"}));
+    EXPECT_EQ(Globals::gUnder, 54);
+    EXPECT_GT(timerStarts_, 0);
+    EXPECT_EQ(prefs_.LimitsBefore.Text(), "Before: 13, 9.5, 5 and 3.");
+    prefs_.LimitsBefore.userPressed(0);
+    EXPECT_EQ(shown(), (Texts{"13", "9.5", "5", "3"}));
+    EXPECT_EQ(Globals::gCaution, 9.5);
+    prefs_.PushButton2.Action();
+    EXPECT_EQ(shown(), (Texts{"14", "10.1", "3.9", "3"}));
+}
+
 } // namespace
 
 } // namespace tallyvane
