@@ -5,6 +5,7 @@
 #include "diary/date_window.h"
 #include "diary/day_details.h"
 #include "diary/day_table.h"
+#include "diary/find_window.h"
 #include "diary/go_to_day_window.h"
 #include "diary/indicators.h"
 #include "diary/running_logs.h"

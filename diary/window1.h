@@ -8,6 +8,7 @@
 #include "auto_button/auto_button.h"
 #include "diary/averages.h"
 #include "diary/finding.h"
+#include "diary/search.h"
 #include "platform/controls/list_history.h"
 #include "platform/windows/window.h"
 #include "settings/headings.h"
@@ -15,6 +16,7 @@
 namespace tallyvane {
 
 class DateWindow;
+class FindWindow;
 class GoToDayWindow;
 
 /// The main window: the day table with its headings, the summary strip, a calendar, the journal and the toolbar.
@@ -61,6 +63,8 @@ public:
     std::function<void()> showGraph;
     std::function<void()> showHeadingsEditor;
     std::function<void()> showPreferences;
+    /// Shows a line of a log; false when it is not there.
+    std::function<bool(Search::Place log, const std::string& line)> showLogLine;
     /// Five minutes have gone without a save.
     std::function<void()> autosave;
 
@@ -114,6 +118,7 @@ public:
     void CalendarControl1_DayClicked();
     void DaysGoTo_Action();
     void DaysToday_Action();
+    void DaysFind_Action();
     void AutoButton13_Action();
     void AutoButton14_Action();
     void AutoButton15_Action();
@@ -136,6 +141,7 @@ private:
     // The menu "Days" and the calendar
     MenuHandlers daysMenu();
     bool goToDay(const Date& day);
+    bool goToHit(const Search::Hit& hit);
     void selectPeriod(const Finding::Period& period);
     void showBoldDays();
 
@@ -159,6 +165,7 @@ private:
     ListHistory history_{ListBox1};
     std::unique_ptr<DateWindow> dateWindow_;
     std::unique_ptr<GoToDayWindow> goToDayWindow_;
+    std::unique_ptr<FindWindow> findWindow_;
     std::optional<Date> twins_; // the day that the line tells to be in the table more than once
     bool lineStays_ = false; // until other days are selected
     bool unitIsTold_ = false;

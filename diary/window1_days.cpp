@@ -1,4 +1,5 @@
 /// How the main window finds days: the menu "Days" and the calendar.
+#include "diary/find_window.h"
 #include "diary/finding.h"
 #include "diary/go_to_day_window.h"
 #include "diary/window1.h"
@@ -46,6 +47,30 @@ void Window1::DaysToday_Action() {
     BevelButton1_Action();
 }
 
+void Window1::DaysFind_Action() {
+    if (!findWindow_ || !findWindow_->isOpen()) {
+        findWindow_ = std::make_unique<FindWindow>(ListBox1);
+        findWindow_->goTo = [this](const Search::Hit& hit) { return goToHit(hit); };
+    }
+    findWindow_->Show();
+}
+
+bool Window1::goToHit(const Search::Hit& hit) {
+    switch (hit.place) {
+    case Search::Place::table:
+    case Search::Place::details:
+        if (hit.row >= ListBox1.ListCount() || ListBox1.revision(hit.row) != hit.revision)
+            return false;
+        ListBox1.closeCell();
+        ListBox1.markRow(hit.row);
+        return true;
+    case Search::Place::journal:
+        return JournalFld.selectText(hit.line);
+    default:
+        return showLogLine && showLogLine(hit.place, hit.line);
+    }
+}
+
 void Window1::selectPeriod(const Finding::Period& period) {
     const std::vector<bool> rows = Finding::rowsIn(ListBox1, period);
     if (std::find(rows.begin(), rows.end(), true) == rows.end()) {
@@ -63,6 +88,7 @@ MenuHandlers Window1::daysMenu() {
     return {
         {"DaysGoTo", [this] { DaysGoTo_Action(); }},
         {"DaysToday", [this] { DaysToday_Action(); }},
+        {"DaysFind", [this] { DaysFind_Action(); }},
         {"DaysSelectLast7", last(7)},
         {"DaysSelectLast14", last(14)},
         {"DaysSelectLast30", last(30)},

@@ -1,6 +1,7 @@
 #include "diary/cell_help.h"
 #include "diary/date_window.h"
 #include "diary/day_table.h"
+#include "diary/find_window.h"
 #include "diary/go_to_day_window.h"
 #include "diary/indicators.h"
 #include "diary/window1.h"

@@ -96,6 +96,13 @@ void logsWindow::saveToDisk(const TextArea& field, const std::string& prompt) {
 
 void logsWindow::printLog(const TextArea& field) { printText(field.Text()); }
 
+bool logsWindow::showLine(Log log, const std::string& line) {
+    TabPanel1.Value(static_cast<int>(log));
+    TextArea& field = *page().field;
+    field.SetFocus();
+    return field.selectText(line);
+}
+
 void logsWindow::AutoButton1_Action() { page().field->SelText(Date().AbbreviatedDate()); }
 
 void logsWindow::AutoButton2_Action() { printLog(*page().field); }

@@ -29,6 +29,10 @@ public:
     void saveToDisk(const TextArea& field, const std::string& prompt);
     void printLog(const TextArea& field);
 
+    /// Brings a log to the front, and its first such line into view. False when it has none.
+    enum class Log { food, exercise, medication };
+    bool showLine(Log log, const std::string& line);
+
     void AutoButton1_Action();
     void AutoButton2_Action();
     void AutoButton3_Action();

@@ -35,6 +35,18 @@ void showSingle(
     window->Show();
 }
 
+/// The page of the logs' window that shows a log.
+logsWindow::Log pageOf(Search::Place log) {
+    switch (log) {
+    case Search::Place::food:
+        return logsWindow::Log::food;
+    case Search::Place::exercise:
+        return logsWindow::Log::exercise;
+    default:
+        return logsWindow::Log::medication;
+    }
+}
+
 } // namespace
 
 App::App() : menuBar(MenuBar1()) {
@@ -163,6 +175,10 @@ void App::wireWindows(Window1& window) {
     window.showPreferences = [this] { FilePreferences_Action(); };
     window.autosave = [this] { Event_Deactivate(); };
     window.showLogs = [this] { showSingle(windows_.logs); };
+    window.showLogLine = [this](Search::Place log, const std::string& line) {
+        showSingle(windows_.logs);
+        return windows_.logs->showLine(pageOf(log), line);
+    };
     window.showResources = [this] { showSingle(windows_.files); };
     window.closeResources = [this] {
         if (windows_.files)

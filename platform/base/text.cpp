@@ -129,4 +129,20 @@ std::string_view FieldWalk::next() {
     return field;
 }
 
+namespace {
+
+std::string foldedEnglish(std::string_view text) {
+    std::string folded(text);
+    for (char& letter : folded)
+        if (letter >= 'A' && letter <= 'Z')
+            letter = static_cast<char>(letter - 'A' + 'a');
+    return folded;
+}
+
+} // namespace
+
+std::function<std::string(std::string_view text)> TextSource::fold = foldedEnglish;
+
+std::string Folded(std::string_view text) { return TextSource::fold(text); }
+
 } // namespace tallyvane

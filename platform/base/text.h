@@ -2,6 +2,7 @@
 /// character. Places are counted in characters, from 1.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -33,6 +34,14 @@ std::string ReplaceAll(std::string_view text, std::string_view sought, std::stri
 std::string ReplaceLineEndings(std::string_view text, std::string_view lineEnd);
 /// The character of a Unicode code point, as UTF-8; "" for a number that is no code point.
 std::string Chr(int code);
+
+/// The text with small and capital letters alike, to find one in the other.
+std::string Folded(std::string_view text);
+
+namespace TextSource {
+/// How letters are made alike; those of English alone until it is set, once at start.
+extern std::function<std::string(std::string_view text)> fold;
+} // namespace TextSource
 
 /// Field `n`, counted from 1, of the text split at the separator; "" past the last field.
 std::string NthField(std::string_view text, std::string_view separator, int n);

@@ -66,6 +66,8 @@ class TextAreaObserver : public ControlObserver {
 public:
     /// Puts a text in place of the selection, as if the user had typed it.
     virtual void replaceSelection(std::string_view text) = 0;
+    /// Selects so many characters from a place on, and brings them into view.
+    virtual void select(int start, int length) = 0;
 };
 
 /// A field of many lines.
@@ -86,6 +88,13 @@ public:
             area_->replaceSelection(value);
         else
             Text(text_ + std::string(value));
+    }
+    /// Selects the first such text and brings it into view. False when the area does not hold it.
+    bool selectText(std::string_view sought) {
+        const int place = InStr(text_, sought);
+        if (place > 0 && area_ != nullptr)
+            area_->select(place - 1, Len(sought));
+        return place > 0;
     }
     /// The user can only read and copy. Fixed once it is shown.
     bool ReadOnly() const { return readOnly_; }

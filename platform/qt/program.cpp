@@ -39,7 +39,8 @@ void setUpFolders() {
     SpecialFolder::State = folderAt(isUsable ? state : QDir::home().filePath(QStringLiteral(".local/state")));
 }
 
-void setUpDateFormats() {
+void setUpFormats() {
+    TextSource::fold = [](std::string_view text) { return fromQt(toQt(text).toCaseFolded()); };
     const QLocale locale = QLocale::system();
     NumberSource::groupSeparator = fromQt(locale.groupSeparator());
     DateSource::setShortPattern(fromQt(locale.dateFormat(QLocale::ShortFormat)));
@@ -96,7 +97,7 @@ QtProgram::QtProgram(int& argc, char** argv, const Rect& largestWindow)
     QApplication::setWindowIcon(loadPicture("vaneLogo128.png").icon);
     QApplication::setQuitOnLastWindowClosed(false);
     setUpFolders();
-    setUpDateFormats();
+    setUpFormats();
     parts_->unixSignals = std::make_unique<UnixSignals>([this] { deliver(onEndRequested); });
     QObject::connect(&application, &QGuiApplication::applicationStateChanged, &application,
                      [this](Qt::ApplicationState state) {

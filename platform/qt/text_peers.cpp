@@ -124,6 +124,14 @@ void TextAreaPeer::apply(Property property) {
 
 void TextAreaPeer::replaceSelection(std::string_view text) { textCursor().insertText(tallyvane::toQt(text)); }
 
+void TextAreaPeer::select(int start, int length) {
+    QTextCursor cursor = textCursor();
+    cursor.setPosition(unitsOf(toPlainText(), start));
+    cursor.setPosition(unitsOf(toPlainText(), start + length), QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
+    ensureCursorVisible();
+}
+
 void TextAreaPeer::contextMenuEvent(QContextMenuEvent* event) {
     const std::unique_ptr<QMenu> menu(createStandardContextMenu(event->pos()));
     if (control_ != nullptr && control_->SpellChecking())
