@@ -30,6 +30,8 @@ Window1::~Window1() = default;
 
 void Window1::Event_Open() {
     getWindowData();
+    savedTableGrowth_ = WindowData::loadTableGrowth();
+    growTable(savedTableGrowth_);
     getHeadings();
     getData();
     getLogs();
@@ -54,7 +56,8 @@ void Window1::Event_Close() {
 }
 
 void Window1::saveAll() {
-    saveEach({[this] { saveData(); }, [this] { saveLogs(); }, [this] { saveWindowData(); }});
+    saveEach(
+        {[this] { saveData(); }, [this] { saveLogs(); }, [this] { saveWindowData(); }, [this] { saveTableGrowth(); }});
 }
 
 void Window1::saveChanged() {
@@ -88,6 +91,13 @@ void Window1::getDetails(int row) {
 }
 
 void Window1::saveWindowData() { WindowData::save({Left(), Top(), Width(), Height()}); }
+
+/// A table that has its first height has no file, until it had another.
+void Window1::saveTableGrowth() {
+    if (tableGrowth_ != savedTableGrowth_)
+        WindowData::saveTableGrowth(tableGrowth_);
+    savedTableGrowth_ = tableGrowth_;
+}
 
 void Window1::getWindowData() {
     const std::optional<Rect> saved = WindowData::load();
@@ -147,7 +157,7 @@ std::optional<Picture> Window1::getLight(double value) const { return Indicators
 
 void Window1::doSortColumns() { SortKeys::rebuild(ListBox1); }
 
-void Window1::doColWidth() { ListBox1.ColumnWidths(DayTable::columnWidths(ListBox1.ListCount(), listHeight)); }
+void Window1::doColWidth() { ListBox1.ColumnWidths(DayTable::columnWidths(ListBox1.ListCount(), ListBox1.Height())); }
 
 // The table
 

@@ -9,6 +9,7 @@
 #include "diary/averages.h"
 #include "diary/finding.h"
 #include "diary/search.h"
+#include "platform/controls/divider.h"
 #include "platform/controls/list_history.h"
 #include "platform/windows/window.h"
 #include "settings/headings.h"
@@ -38,6 +39,7 @@ public:
     StaticText StaticText23, StaticText22, StaticText16; // before bed, average, weight
     Canvas Canvas4, Canvas5, Canvas6, Canvas7, Canvas8, Canvas9, Canvas10, Canvas11; // lights of columns 1 to 8
     BevelButton BevelButton1, BevelButton2; // "+", "-"
+    Divider TableDivider; // below the strip
     LinkLine StripLine; // says of which days the strip shows averages, and what became of the last step
 
     CalendarControl CalendarControl1;
@@ -74,8 +76,8 @@ public:
     void Event_Open() override;
     void Event_Close() override;
     void Event_EnableMenuItems(MenuBar& menuBar) override;
-    /// Nothing: the geometry is read only at close.
-    void Event_Resized() override {}
+    /// Nothing but what keeps a table that was made higher within the window: the geometry is read only at close.
+    void Event_Resized() override { growTable(tableGrowth_); }
     void Event_Moved() override {}
 
     /// The three saves of closing: days, logs, window geometry. All are run even if one fails; the first failure of
@@ -153,6 +155,8 @@ private:
     void noteUnit(double reading);
     void useLimitsInMg();
 
+    void growTable(int points);
+    void saveTableGrowth();
     void fillStrip(const Averages::Sums& sums);
 
     std::string columnName(int column) const;
@@ -167,6 +171,8 @@ private:
     std::unique_ptr<GoToDayWindow> goToDayWindow_;
     std::unique_ptr<FindWindow> findWindow_;
     std::optional<Date> twins_; // the day that the line tells to be in the table more than once
+    int tableGrowth_ = 0; // points that the table is higher than at first
+    int savedTableGrowth_ = 0;
     bool lineStays_ = false; // until other days are selected
     bool unitIsTold_ = false;
     int daysShownBold_ = 0; // how many rows there were when the calendar was told of its bold days

@@ -10,11 +10,15 @@
 #include "platform/windows/wiring.h"
 #include "settings/list_colors.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace tallyvane {
 
 namespace {
 
 constexpr int windowWidth = 746;
+constexpr int windowHeight = 518;
 constexpr int bandHeight = 26;
 constexpr int stripTop = bandHeight + Window1::listHeight;
 
@@ -38,7 +42,7 @@ constexpr Rect labelOver(int first, int width) { return {columnLeft(first), 4, w
 } // namespace
 
 Window1::Window1(Toolbar& toolbar, MenuBar& menuBar) : ListBox1(DayTable::columnCount), Toolbar11(toolbar) {
-    shape(Kind::document, windowWidth, 518, 490, anySize);
+    shape(Kind::document, windowWidth, windowHeight, 490, anySize);
     Title("Tallyvane");
     setBars(&menuBar, &toolbar);
     layOut();
@@ -89,6 +93,7 @@ void Window1::layOut() {
         {&Canvas10, lightUnder(7)},
         {&Canvas11, lightUnder(8)},
 
+        {&TableDivider, {0, stripTop + 27, windowWidth, 6}},
         {&CalendarControl1, {10, 346, 135, 143}},
         {&TabPanel1, {155, 318, 581, 190}, lockAll},
         {&JournalFld, {167, 352, 515, 144}, lockAll, &TabPanel1, 0},
@@ -100,6 +105,30 @@ void Window1::layOut() {
         {&AutosaveTimer},
         {&MidnightTimer},
     });
+}
+
+/// Makes the table so much higher than at first, by whole rows, and moves what stands below it. Four rows stay in
+/// sight, and so does the calendar.
+void Window1::growTable(int points) {
+    constexpr int fewestRows = 4;
+    constexpr int belowCalendar = 25; // free at first
+    const int least = (fewestRows + 1) * DayTable::rowHeight - listHeight;
+    const int most = std::max(0, Height() - windowHeight + belowCalendar);
+    const int wanted = std::clamp(points, least, most) / DayTable::rowHeight * DayTable::rowHeight;
+    const int by = wanted - std::exchange(tableGrowth_, wanted);
+    if (by == 0)
+        return;
+    reframe([by](const Placement& placement) {
+        Rect frame = placement.frame;
+        if (std::holds_alternative<Listbox*>(placement.control)) {
+            frame.height += by;
+        } else if (frame.top > bandHeight) {
+            frame.top += by;
+            frame.height -= (placement.locks & lockBottom) != 0 ? by : 0;
+        }
+        return frame;
+    });
+    doColWidth();
 }
 
 void Window1::build() {
@@ -137,6 +166,9 @@ void Window1::build() {
     BevelButton2.HelpTag(tr("Remove the selected days"));
     BevelButton2.AccessibleName(tr("Remove the selected days"));
 
+    TableDivider.Step = DayTable::rowHeight;
+    TableDivider.HelpTag(tr("Drag it up or down for fewer or more days, or press the arrow keys"));
+    TableDivider.AccessibleName(tr("Height of the table"));
     CalendarControl1.AccessibleName(tr("Calendar"));
     TabPanel1.Captions({tr("Journal")});
     JournalFld.AccessibleName(tr("Journal"));
@@ -199,6 +231,7 @@ void Window1::wire() {
         {Timer1.Action, &Window1::Timer1_Action},
         {MidnightTimer.Action, &Window1::MidnightTimer_Action},
     });
+    TableDivider.Dragged = [this](int points) { growTable(tableGrowth_ + points); };
     AutosaveTimer.Action = [this] {
         if (autosave)
             autosave();

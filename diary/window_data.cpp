@@ -1,6 +1,7 @@
 #include "diary/window_data.h"
 
 #include <algorithm>
+#include <initializer_list>
 
 #include "platform/base/number.h"
 #include "platform/files/system_files.h"
@@ -16,6 +17,18 @@ int coordinate(std::string_view line) {
     return static_cast<int>(std::clamp(Val(line), -limit, limit));
 }
 
+void write(std::string_view file, std::initializer_list<int> lines) {
+    auto stream = DataFiles::createText(DataFiles::applicationFileToWrite(file));
+    if (!stream)
+        return;
+    for (const int line : lines)
+        stream->WriteLine(Str(line));
+    try {
+        stream->Close();
+    } catch (const IOException&) { // ignored: only the window's place is lost
+    }
+}
+
 } // namespace
 
 std::optional<Rect> load() {
@@ -28,16 +41,13 @@ std::optional<Rect> load() {
     return bounds;
 }
 
-void save(const Rect& bounds) {
-    auto stream = DataFiles::createText(DataFiles::applicationFileToWrite(DataFiles::windowData));
-    if (!stream)
-        return;
-    for (const int value : {bounds.left, bounds.top, bounds.width, bounds.height})
-        stream->WriteLine(Str(value));
-    try {
-        stream->Close();
-    } catch (const IOException&) { // ignored: only the window's place is lost
-    }
+void save(const Rect& bounds) { write(DataFiles::windowData, {bounds.left, bounds.top, bounds.width, bounds.height}); }
+
+int loadTableGrowth() {
+    auto stream = DataFiles::openText(DataFiles::applicationFile(DataFiles::tableHeight));
+    return stream ? coordinate(stream->ReadLine()) : 0;
 }
+
+void saveTableGrowth(int points) { write(DataFiles::tableHeight, {points}); }
 
 } // namespace tallyvane::WindowData

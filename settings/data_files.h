@@ -49,6 +49,7 @@ inline constexpr std::string_view headings = "7VXHeadings";
 inline constexpr std::string_view runningLogs = "QVXLogData"; // the logs window has one more in the inner folder
 inline constexpr std::string_view journal = "Tallyvane Journal";
 inline constexpr std::string_view windowData = "QVXWindowData";
+inline constexpr std::string_view tableHeight = "Table Height";
 inline constexpr std::string_view contacts = "QVXContacts";
 inline constexpr std::string_view medications = "QVXMedications";
 inline constexpr std::string_view resources = "QVXFileData"; // in the inner folder

@@ -60,6 +60,10 @@ public:
     bool AcceptFocus() const { return acceptFocus_; }
     void AcceptFocus(bool value) { set(acceptFocus_, value, Property::appearance); }
 
+    /// Whether the mouse shows there that something can be dragged up and down.
+    bool DragsUpAndDown() const { return dragsUpAndDown_; }
+    void DragsUpAndDown(bool value) { set(dragsUpAndDown_, value, Property::appearance); }
+
     std::function<void(Graphics& g)> Paint;
 
     virtual void Event_Open() {}
@@ -71,10 +75,13 @@ public:
     virtual bool Event_MouseDown(int /*x*/, int /*y*/) { return false; }
     virtual void Event_MouseDrag(int /*x*/, int /*y*/) {}
     virtual void Event_MouseUp(int /*x*/, int /*y*/) {}
+    /// A key while it has the focus; true when it was consumed. Keys that type no text come as `Keys` names them.
+    virtual bool Event_KeyDown(const std::string& /*key*/) { return false; }
 
 private:
     std::optional<Picture> backdrop_;
     bool acceptFocus_ = false;
+    bool dragsUpAndDown_ = false;
 };
 
 /// A filled rectangle with a black border.

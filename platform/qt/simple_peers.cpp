@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "platform/qt/event_guard.h"
+#include "platform/qt/key_names.h"
 #include "platform/qt/painter_graphics.h"
 
 namespace tallyvane {
@@ -126,6 +127,8 @@ CanvasPeer::CanvasPeer(Canvas& canvas, QWidget* parent) : Peer(canvas, parent) {
 
 void CanvasPeer::apply(Property /*property*/) {
     setFocusPolicy(control_->AcceptFocus() ? Qt::TabFocus : Qt::NoFocus);
+    if (control_->DragsUpAndDown())
+        setCursor(Qt::SplitVCursor);
     update();
 }
 
@@ -162,6 +165,11 @@ void CanvasPeer::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void CanvasPeer::keyPressEvent(QKeyEvent* event) {
+    bool isConsumed = false;
+    if (const std::string key = nameOf(*event); control_ != nullptr && !key.empty())
+        deliver([&] { isConsumed = control_->Event_KeyDown(key); });
+    if (isConsumed)
+        return;
     const bool presses =
         event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (!isButton() || !presses || event->isAutoRepeat()) {

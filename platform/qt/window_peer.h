@@ -48,6 +48,7 @@ public:
     void leave();
     /// Brings title, visibility and geometry from the window to the screen.
     void sync();
+    void layOut() { content_->layOut(); }
     Window* window() const { return window_; }
 
 protected:
@@ -74,6 +75,7 @@ public:
     ~QtWindowPeer() override { frame_->leave(); }
 
     void windowChanged() override { frame_->sync(); }
+    void controlsMoved() override { frame_->layOut(); }
     void bringToFront() override;
 
 private:

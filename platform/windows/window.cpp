@@ -60,6 +60,14 @@ void Window::sizeControls() {
     }
 }
 
+void Window::reframe(const std::function<Rect(const Placement& placement)>& frame) {
+    for (Placement& placement : placements_)
+        placement.frame = frame(placement);
+    sizeControls();
+    if (peer_)
+        peer_->controlsMoved();
+}
+
 void Window::setBars(MenuBar* menuBar, Toolbar* toolbar) {
     menuBar_ = menuBar;
     toolbar_ = toolbar;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <initializer_list>
 #include <memory>
 #include <string>
@@ -24,6 +25,8 @@ public:
     virtual ~WindowPeer() = default;
     /// Title, visibility or geometry have new values.
     virtual void windowChanged() = 0;
+    /// Controls of the table have other frames.
+    virtual void controlsMoved() = 0;
     /// Brings the window before all others and gives it the focus.
     virtual void bringToFront() = 0;
 };
@@ -150,6 +153,8 @@ protected:
     }
     void shape(Kind kind, int width, int height) { shape(kind, width, height, height, height); }
     void place(std::initializer_list<Placement> placements);
+    /// Gives each control of the table another frame, in the window as it was created.
+    void reframe(const std::function<Rect(const Placement& placement)>& frame);
     void setBars(MenuBar* menuBar, Toolbar* toolbar);
     void setOwner(Window* owner) { owner_ = owner; }
     /// The control that gets the keys when the window opens; without it the first in the table that takes keys.

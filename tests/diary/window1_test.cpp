@@ -33,6 +33,34 @@ TEST_F(Window1Test, GeometryComesFromItsFileAndIsCorrected) {
     check("no number fits", "1e9\n-99999999999999999999\n\n", {1, 50, 746, 490});
 }
 
+TEST_F(Window1Test, TheDividerGivesTheTableWholeRowsAndIsKept) {
+    const auto heights = [](const Window1& window) {
+        return std::vector{window.ListBox1.Height(), window.JournalFld.Height()};
+    };
+    write(applicationFile("QVXWindowData"), "120\n80\n746\n600\n");
+    Window1& window = open();
+    EXPECT_EQ(heights(window), (std::vector{259, 226}));
+    window.saveAll();
+    EXPECT_FALSE(std::filesystem::exists(applicationFile("Table Height")));
+    window.TableDivider.Event_MouseDown(10, 3);
+    window.TableDivider.Event_MouseDrag(10, 3 + 40);
+    EXPECT_EQ(heights(window), (std::vector{259 + 30, 226 - 30}));
+    window.TableDivider.Event_KeyDown(Keys::down);
+    window.saveAll();
+    EXPECT_EQ(read(applicationFile("Table Height")), "45\n");
+
+    Window1 next(toolbar_, menuBar_);
+    next.Open();
+    EXPECT_EQ(heights(next), (std::vector{259 + 45, 226 - 45}));
+    next.TableDivider.Dragged(1000); // the calendar stays in sight
+    EXPECT_EQ(heights(next), (std::vector{259 + 105, 226 - 105}));
+    next.TableDivider.Dragged(-1000); // so do four rows
+    EXPECT_EQ(heights(next), (std::vector{259 - 180, 226 + 180}));
+    next.TableDivider.Dragged(1000);
+    next.userChangedBounds({120, 80, 746, 518});
+    EXPECT_EQ(heights(next), (std::vector{259 + 15, 144 - 15}));
+}
+
 TEST_F(Window1Test, WithoutAFileTheWindowKeepsItsSizeAndPlaceOfCreation) {
     open();
     EXPECT_EQ((Rect{window1_.Left(), window1_.Top(), window1_.Width(), window1_.Height()}), (Rect{400, 300, 746, 518}));
