@@ -21,11 +21,19 @@ public:
     /// Shows a hit in its place; false when it is not there any more.
     std::function<bool(const Search::Hit& hit)> goTo;
 
+    /// Puts the focus where the text is typed, with what stands there selected.
+    void startAnew();
+
     void ListBox1_Change();
+    bool ListBox1_CellClick(int row);
+    void ListBox1_DoubleClick();
     void PushButton1_Action();
 
 private:
+    void goToHit(int row);
+
     const Listbox& table_;
+    std::string count_; // in words
     std::vector<Search::Hit> hits_;
 };
 

@@ -1,6 +1,5 @@
 #include "diary/search.h"
 
-#include <set>
 #include <utility>
 
 #include "diary/day_details.h"
@@ -38,16 +37,14 @@ public:
                 continue;
             const DayDetails details = DayDetails::of(*day);
             for (const std::string& text : {details.medications, details.exercise, details.food})
-                for (const std::string& line : linesWithIt(text))
-                    addDay(Place::details, row, table_.Cell(row, DayTable::dateColumn) + ": " + line);
+                for (const auto& [number, line] : linesWithIt(text))
+                    addDay(Place::details, row, table_.Cell(row, DayTable::dateColumn) + ": " + Trim(line));
         }
     }
 
     void lookInText(Place place, const std::string& text) {
-        std::set<std::string> seen;
-        for (std::string& line : linesWithIt(text))
-            if (seen.insert(line).second)
-                found.push_back({place, -1, 0, std::move(line)});
+        for (const auto& [number, line] : linesWithIt(text))
+            found.push_back({place, 0, number, std::string(line)});
     }
 
     std::vector<Hit> found;
@@ -55,22 +52,24 @@ public:
 private:
     bool isIn(std::string_view text) const { return !text.empty() && Folded(text).find(sought_) != std::string::npos; }
 
-    std::vector<std::string> linesWithIt(const std::string& text) const {
-        std::vector<std::string> lines;
-        for (FieldWalk walk(text, EndOfLine); !walk.atEnd();)
+    /// With their numbers.
+    std::vector<std::pair<int, std::string_view>> linesWithIt(const std::string& text) const {
+        std::vector<std::pair<int, std::string_view>> lines;
+        int number = 0;
+        for (FieldWalk walk(text, EndOfLine); !walk.atEnd(); ++number)
             if (const std::string_view line = walk.next(); isIn(line))
-                lines.push_back(Trim(line));
+                lines.emplace_back(number, line);
         return lines;
     }
 
     void addDay(Place place, int row, std::string line) {
-        found.push_back({place, row, table_.revision(row), std::move(line)});
+        found.push_back({place, table_.revision(row), 0, std::move(line)});
     }
 
     std::string dayLine(int row) const {
         std::string line = table_.Cell(row, DayTable::dateColumn) + ":";
         for (int column = DayTable::firstReading; column < DayTable::visibleColumns; ++column)
-            if (column != DayTable::averageColumn && !table_.Cell(row, column).empty())
+            if (!table_.Cell(row, column).empty())
                 line += "  " + table_.Cell(row, column);
         return line;
     }
@@ -92,6 +91,13 @@ std::vector<Hit> hits(const Listbox& table, std::string_view sought) {
     seeker.lookInDetails();
     seeker.lookInTable();
     return std::move(seeker.found);
+}
+
+std::optional<int> rowOf(const Listbox& table, const Hit& hit) {
+    for (int row = 0; row < table.ListCount(); ++row)
+        if (table.revision(row) == hit.revision)
+            return row;
+    return std::nullopt;
 }
 
 std::string nameOf(Place place) {

@@ -94,9 +94,9 @@ void Window1::saveWindowData() { WindowData::save({Left(), Top(), Width(), Heigh
 
 /// A table that has its first height has no file, until it had another.
 void Window1::saveTableGrowth() {
-    if (tableGrowth_ != savedTableGrowth_)
-        WindowData::saveTableGrowth(tableGrowth_);
-    savedTableGrowth_ = tableGrowth_;
+    if (wantedTableGrowth_ != savedTableGrowth_)
+        WindowData::saveTableGrowth(wantedTableGrowth_);
+    savedTableGrowth_ = wantedTableGrowth_;
 }
 
 void Window1::getWindowData() {
@@ -164,11 +164,12 @@ void Window1::doColWidth() { ListBox1.ColumnWidths(DayTable::columnWidths(ListBo
 void Window1::ListBox1_Open() { DayTable::setUp(ListBox1); }
 
 void Window1::ListBox1_Change() {
-    forgetLine();
+    twins_.reset();
     doAverages();
-    noteUnit(Val(StaticText22.Text())); // of days that were brought in
-    if (ListBox1.ListCount() != daysShownBold_)
-        showBoldDays();
+    if (ListBox1.ListCount() == daysShownBold_)
+        return;
+    showBoldDays();
+    noteUnitOfSelected();
 }
 
 bool Window1::ListBox1_CellClick(int row, int column, int /*x*/, int /*y*/) {
@@ -197,7 +198,7 @@ void Window1::ListBox1_CellTextChange(int row, int column) {
     else
         doAverages();
     if (column >= DayTable::firstReading && column <= DayTable::lastReading)
-        noteUnit(Val(ListBox1.Cell(row, column)));
+        noteUnit(row, column);
 }
 
 bool Window1::ListBox1_HeaderPressed(int column) {
@@ -254,7 +255,8 @@ void Window1::BevelButton2_Action() {
 
 /// After a change that came past the controls.
 void Window1::showDaysAnew() {
-    forgetLine();
+    twins_.reset();
+    doubtfulUnit_.reset(); // its row may be another one
     doAverages();
     doColWidth();
     showBoldDays();

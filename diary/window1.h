@@ -13,6 +13,7 @@
 #include "platform/controls/list_history.h"
 #include "platform/windows/window.h"
 #include "settings/headings.h"
+#include "settings/usual_limits.h"
 
 namespace tallyvane {
 
@@ -64,9 +65,10 @@ public:
     std::function<void()> showTeamAndMedications;
     std::function<void()> showGraph;
     std::function<void()> showHeadingsEditor;
-    std::function<void()> showPreferences;
+    /// Brings up the dialog of the limits with these in it.
+    std::function<void(const UsualLimits::Limits& limits)> offerLimits;
     /// Shows a line of a log; false when it is not there.
-    std::function<bool(Search::Place log, const std::string& line)> showLogLine;
+    std::function<bool(const Search::Hit& hit)> showLogLine;
     /// Five minutes have gone without a save.
     std::function<void()> autosave;
 
@@ -77,11 +79,11 @@ public:
     void Event_Close() override;
     void Event_EnableMenuItems(MenuBar& menuBar) override;
     /// Nothing but what keeps a table that was made higher within the window: the geometry is read only at close.
-    void Event_Resized() override { growTable(tableGrowth_); }
+    void Event_Resized() override { growTable(wantedTableGrowth_); }
     void Event_Moved() override {}
 
-    /// The three saves of closing: days, logs, window geometry. All are run even if one fails; the first failure of
-    /// days or logs is thrown at the end.
+    /// The saves of closing: days, logs, window geometry, height of the table. All are run even if one fails; the first
+    /// failure of days or logs is thrown at the end.
     void saveAll();
     /// The days, and the logs if they have changed since they were read or saved.
     void saveChanged();
@@ -149,13 +151,15 @@ private:
 
     // The line beside the journal's tab
     void showStripWords();
-    void forgetLine();
     void noteTwins(const Date& day);
     void showTwins(bool justAdded);
-    void noteUnit(double reading);
-    void useLimitsInMg();
+    void noteUnit(int row, int column);
+    void noteUnitOfSelected();
+    bool looksLikeMg(int row, int column) const;
+    void showDoubtfulUnit();
 
     void growTable(int points);
+    void dragTable(int points);
     void saveTableGrowth();
     void fillStrip(const Averages::Sums& sums);
 
@@ -172,8 +176,9 @@ private:
     std::unique_ptr<FindWindow> findWindow_;
     std::optional<Date> twins_; // the day that the line tells to be in the table more than once
     int tableGrowth_ = 0; // points that the table is higher than at first
+    int wantedTableGrowth_ = 0; // as it was dragged, also while the window has no room for it
     int savedTableGrowth_ = 0;
-    bool lineStays_ = false; // until other days are selected
+    std::optional<std::pair<int, int>> doubtfulUnit_; // row and column of a reading that the line tells of
     bool unitIsTold_ = false;
     int daysShownBold_ = 0; // how many rows there were when the calendar was told of its bold days
     Date today_; // as the calendar last knew it

@@ -53,21 +53,23 @@ void Window1::DaysFind_Action() {
         findWindow_->goTo = [this](const Search::Hit& hit) { return goToHit(hit); };
     }
     findWindow_->Show();
+    findWindow_->startAnew();
 }
 
 bool Window1::goToHit(const Search::Hit& hit) {
     switch (hit.place) {
     case Search::Place::table:
     case Search::Place::details:
-        if (hit.row >= ListBox1.ListCount() || ListBox1.revision(hit.row) != hit.revision)
-            return false;
-        ListBox1.closeCell();
-        ListBox1.markRow(hit.row);
-        return true;
+        if (const std::optional<int> row = Search::rowOf(ListBox1, hit)) {
+            ListBox1.closeCell();
+            ListBox1.markRow(*row);
+            return true;
+        }
+        return false;
     case Search::Place::journal:
-        return JournalFld.selectText(hit.line);
+        return JournalFld.showLine(hit.number, hit.line);
     default:
-        return showLogLine && showLogLine(hit.place, hit.line);
+        return showLogLine && showLogLine(hit);
     }
 }
 

@@ -11,6 +11,7 @@
 #include "settings/list_colors.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace tallyvane {
@@ -107,15 +108,16 @@ void Window1::layOut() {
     });
 }
 
-/// Makes the table so much higher than at first, by whole rows, and moves what stands below it. Four rows stay in
-/// sight, and so does the calendar.
+/// Makes the table so much higher than at first, by whole rows, as far as there is room, and moves what stands below
+/// it. Four rows stay in sight, and so does the calendar.
 void Window1::growTable(int points) {
     constexpr int fewestRows = 4;
     constexpr int belowCalendar = 25; // free at first
-    const int least = (fewestRows + 1) * DayTable::rowHeight - listHeight;
+    constexpr int least = (fewestRows + 1) * DayTable::rowHeight - listHeight; // with the headings
     const int most = std::max(0, Height() - windowHeight + belowCalendar);
-    const int wanted = std::clamp(points, least, most) / DayTable::rowHeight * DayTable::rowHeight;
-    const int by = wanted - std::exchange(tableGrowth_, wanted);
+    const int rows = std::clamp(points, least, most) / DayTable::rowHeight;
+    wantedTableGrowth_ = points;
+    const int by = rows * DayTable::rowHeight - std::exchange(tableGrowth_, rows * DayTable::rowHeight);
     if (by == 0)
         return;
     reframe([by](const Placement& placement) {
@@ -129,6 +131,15 @@ void Window1::growTable(int points) {
         return frame;
     });
     doColWidth();
+}
+
+/// The bar has been dragged by so many points: the table follows by the nearest whole rows.
+void Window1::dragTable(int points) {
+    const double rows = std::round(static_cast<double>(points) / DayTable::rowHeight);
+    if (rows == 0)
+        return;
+    growTable(tableGrowth_ + static_cast<int>(rows) * DayTable::rowHeight);
+    wantedTableGrowth_ = tableGrowth_; // no more than there was room for
 }
 
 void Window1::build() {
@@ -231,7 +242,7 @@ void Window1::wire() {
         {Timer1.Action, &Window1::Timer1_Action},
         {MidnightTimer.Action, &Window1::MidnightTimer_Action},
     });
-    TableDivider.Dragged = [this](int points) { growTable(tableGrowth_ + points); };
+    TableDivider.Dragged = [this](int points) { dragTable(points); };
     AutosaveTimer.Action = [this] {
         if (autosave)
             autosave();

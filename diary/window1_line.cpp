@@ -1,5 +1,6 @@
 /// The line beside the journal's tab: of which days the strip shows averages, or what the user should know of the last
 /// step.
+#include "diary/day_table.h"
 #include "diary/finding.h"
 #include "diary/strip_words.h"
 #include "diary/window1.h"
@@ -10,16 +11,14 @@
 namespace tallyvane {
 
 void Window1::showStripWords() {
+    if (doubtfulUnit_ && !looksLikeMg(doubtfulUnit_->first, doubtfulUnit_->second))
+        doubtfulUnit_.reset(); // the reading was corrected, or the limits were changed
     if (twins_)
         showTwins(false);
-    else if (!lineStays_)
+    else if (doubtfulUnit_)
+        showDoubtfulUnit();
+    else
         StripLine.show(StripWords::ofTable(ListBox1));
-}
-
-/// After other days were selected, or a step was undone.
-void Window1::forgetLine() {
-    twins_.reset();
-    lineStays_ = false;
 }
 
 /// Tells that the day which was just added is in the table already.
@@ -36,33 +35,58 @@ void Window1::noteTwins(const Date& day) {
 void Window1::showTwins(bool justAdded) {
     const std::string date = twins_->ShortDate();
     const auto rows = Finding::rowsOf(ListBox1, *twins_).size();
-    std::vector<LinkLine::Link> links{{tr("Go to the other row"), [this, day = *twins_] { goToDay(day); }}};
+    const auto goToOther = [this, day = *twins_] {
+        goToDay(day);
+        ListBox1.SetFocus();
+    };
+    const auto undo = [this] {
+        menuHandlers.at("EditUndo")();
+        ListBox1.SetFocus();
+    };
+    std::vector<LinkLine::Link> links{{tr("Go to the other row"), goToOther}};
     if (justAdded)
-        links.push_back({tr("Undo"), menuHandlers["EditUndo"]});
+        links.push_back({tr("Undo"), undo});
     StripLine.show(rows == 2 ? tr("%1 is in the table twice.", {date})
                              : tr("%1 is in the table %2 times.", {date, std::to_string(rows)}),
                    std::move(links));
 }
 
-/// Tells once that a reading is of the other unit than the limits, and offers those of its unit.
-void Window1::noteUnit(double reading) {
-    constexpr double mostInMmol = 35; // no meter shows more
-    if (unitIsTold_ || reading <= mostInMmol || !UsualLimits::areInMmol(UsualLimits::present()))
+/// Tells once of a reading that is of the other unit than the limits, as far as one can tell.
+void Window1::noteUnit(int row, int column) {
+    if (unitIsTold_ || !looksLikeMg(row, column))
         return;
     unitIsTold_ = true;
-    lineStays_ = true;
-    StripLine.show(tr("%1 is in mg/dL, your limits are in mmol/L.", {Str(reading)}),
-                   {{tr("Use limits in mg/dL"), [this] { useLimitsInMg(); }}});
+    doubtfulUnit_ = {row, column};
+    showStripWords();
 }
 
-/// The limits' dialog shows what they are now, and saves them when it is closed.
-void Window1::useLimitsInMg() {
-    UsualLimits::use(UsualLimits::inMg);
-    forgetLine();
-    doAverages();
-    Timer1_Action();
-    if (showPreferences)
-        showPreferences();
+/// The same for the days that were brought in, which are selected.
+void Window1::noteUnitOfSelected() {
+    for (int row = 0; row < ListBox1.ListCount() && !unitIsTold_; ++row)
+        for (int column = DayTable::firstReading; column <= DayTable::lastReading && ListBox1.Selected(row); ++column)
+            noteUnit(row, column);
+}
+
+bool Window1::looksLikeMg(int row, int column) const {
+    constexpr double mostInMmol = 35; // meters show less
+    return Val(ListBox1.Cell(row, column)) > mostInMmol && UsualLimits::areInMmol(UsualLimits::present());
+}
+
+void Window1::showDoubtfulUnit() {
+    const auto& [row, column] = *doubtfulUnit_;
+    const auto close = [this] {
+        doubtfulUnit_.reset();
+        showStripWords();
+        ListBox1.SetFocus();
+    };
+    StripLine.show(tr("%1 looks like mg/dL; your limits are in mmol/L.", {ListBox1.Cell(row, column)}),
+                   {{tr("Use limits in mg/dL"),
+                     [this, close] {
+                         close();
+                         if (offerLimits)
+                             offerLimits(UsualLimits::inMg);
+                     }},
+                    {tr("Not now"), close}});
 }
 
 } // namespace tallyvane

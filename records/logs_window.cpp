@@ -96,11 +96,9 @@ void logsWindow::saveToDisk(const TextArea& field, const std::string& prompt) {
 
 void logsWindow::printLog(const TextArea& field) { printText(field.Text()); }
 
-bool logsWindow::showLine(Log log, const std::string& line) {
+bool logsWindow::showLine(Log log, int number, const std::string& line) {
     TabPanel1.Value(static_cast<int>(log));
-    TextArea& field = *page().field;
-    field.SetFocus();
-    return field.selectText(line);
+    return page().field->showLine(number, line);
 }
 
 void logsWindow::AutoButton1_Action() { page().field->SelText(Date().AbbreviatedDate()); }

@@ -29,9 +29,9 @@ public:
     void saveToDisk(const TextArea& field, const std::string& prompt);
     void printLog(const TextArea& field);
 
-    /// Brings a log to the front, and its first such line into view. False when it has none.
+    /// Brings a log to the front, and a line of it into view, as TextArea::showLine does.
     enum class Log { food, exercise, medication };
-    bool showLine(Log log, const std::string& line);
+    bool showLine(Log log, int number, const std::string& line);
 
     void AutoButton1_Action();
     void AutoButton2_Action();

@@ -25,7 +25,7 @@ constexpr Color ground = RGB(209, 229, 255);
 } // namespace
 
 ReportPage::ReportPage(Graphics& g, int limit) : g_(g), limit_(limit) {
-    const double lowestBaseline = linesTop + g_.TextHeight() * (limit_ + 1); // that of the averages, at the worst
+    const double lowestBaseline = linesTop + g_.TextHeight() * (limit_ + 2); // of the note, at the worst
     g_.shrinkToFit(left + shadedWidth, lowestBaseline + g_.TextHeight() - g_.TextAscent());
 }
 

@@ -136,7 +136,6 @@ void PrefsWindow::lightsChanged() {
         startIndicatorTimer();
 }
 
-/// Replaces all four limits, and offers a way back to those that were there.
 void PrefsWindow::useLimits(const UsualLimits::Limits& limits) {
     const UsualLimits::Limits before = UsualLimits::present();
     if (before == limits)

@@ -8,8 +8,7 @@
 
 namespace tallyvane {
 
-/// The dialog of the four personal limits and the switch of the lights. Every change takes effect at once and stays;
-/// there is no way back but typing.
+/// The dialog of the four personal limits and the switch of the lights. Every change takes effect at once and stays.
 class PrefsWindow : public Window {
 public:
     PrefsWindow();
@@ -34,6 +33,9 @@ public:
     /// Throws IOException when the disk fails, and stays open.
     void Event_Close() override;
 
+    /// Replaces all four limits, and offers a way back to those that were there.
+    void useLimits(const UsualLimits::Limits& limits);
+
     void EditField_Open(std::size_t field);
     bool EditField_KeyDown(const std::string& key);
     void EditField_TextChange(std::size_t field);
@@ -47,7 +49,6 @@ private:
     void build();
     void wire();
     void lightsChanged();
-    void useLimits(const UsualLimits::Limits& limits);
     void showLimits();
 };
 

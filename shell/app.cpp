@@ -172,12 +172,15 @@ void App::createMainWindow() {
 
 void App::wireWindows(Window1& window) {
     window.showHeadingsEditor = [this] { showHeadingsEditor(); };
-    window.showPreferences = [this] { FilePreferences_Action(); };
+    window.offerLimits = [this](const UsualLimits::Limits& limits) {
+        FilePreferences_Action();
+        windows_.prefs->useLimits(limits);
+    };
     window.autosave = [this] { Event_Deactivate(); };
     window.showLogs = [this] { showSingle(windows_.logs); };
-    window.showLogLine = [this](Search::Place log, const std::string& line) {
+    window.showLogLine = [this](const Search::Hit& hit) {
         showSingle(windows_.logs);
-        return windows_.logs->showLine(pageOf(log), line);
+        return windows_.logs->showLine(pageOf(hit.place), hit.number, hit.line);
     };
     window.showResources = [this] { showSingle(windows_.files); };
     window.closeResources = [this] {

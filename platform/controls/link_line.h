@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <string>
 #include <utility>
@@ -20,11 +21,13 @@ public:
     const std::string& Text() const { return text_; }
     const std::vector<Link>& links() const { return links_; }
     void show(std::string text, std::vector<Link> links = {}) {
-        if (text == text_ && links.empty() && links_.empty())
-            return;
+        const auto sameCaption = [](const Link& a, const Link& b) { return a.Caption == b.Caption; };
+        const bool isShown =
+            text == text_ && std::equal(links.begin(), links.end(), links_.begin(), links_.end(), sameCaption);
         text_ = std::move(text);
         links_ = std::move(links);
-        changed(Property::text);
+        if (!isShown)
+            changed(Property::text);
     }
     /// The user has pressed a link of the line; one that is not there any more does nothing.
     void userPressed(std::size_t link) {

@@ -66,8 +66,8 @@ class TextAreaObserver : public ControlObserver {
 public:
     /// Puts a text in place of the selection, as if the user had typed it.
     virtual void replaceSelection(std::string_view text) = 0;
-    /// Selects so many characters from a place on, and brings them into view.
-    virtual void select(int start, int length) = 0;
+    /// Brings a line into view, from 0, and sets it off until the text or the cursor changes.
+    virtual void pointOutLine(int number) = 0;
 };
 
 /// A field of many lines.
@@ -89,12 +89,19 @@ public:
         else
             Text(text_ + std::string(value));
     }
-    /// Selects the first such text and brings it into view. False when the area does not hold it.
-    bool selectText(std::string_view sought) {
-        const int place = InStr(text_, sought);
-        if (place > 0 && area_ != nullptr)
-            area_->select(place - 1, Len(sought));
-        return place > 0;
+    /// Points out a line of the text: the one of that number, from 0, or, if that reads otherwise by now, the first
+    /// that reads so. False when there is none.
+    bool showLine(int number, std::string_view line) {
+        int present = 0;
+        int found = -1;
+        for (FieldWalk lines(text_, EndOfLine); !lines.atEnd(); ++present) {
+            const bool readsSo = lines.next() == line;
+            if (readsSo && (found < 0 || present == number))
+                found = present;
+        }
+        if (found >= 0 && area_ != nullptr)
+            area_->pointOutLine(found);
+        return found >= 0;
     }
     /// The user can only read and copy. Fixed once it is shown.
     bool ReadOnly() const { return readOnly_; }

@@ -9,10 +9,15 @@ namespace tallyvane {
 
 namespace {
 
+QAccessible::Role roleOf(const CanvasPeer& canvas) {
+    if (canvas.isDivider())
+        return QAccessible::Splitter;
+    return canvas.isButton() ? QAccessible::Button : QAccessible::Graphic;
+}
+
 class CanvasAccessible : public QAccessibleWidget {
 public:
-    explicit CanvasAccessible(CanvasPeer* canvas)
-        : QAccessibleWidget(canvas, canvas->isButton() ? QAccessible::Button : QAccessible::Graphic) {}
+    explicit CanvasAccessible(CanvasPeer* canvas) : QAccessibleWidget(canvas, roleOf(*canvas)) {}
 
     QStringList actionNames() const override {
         QStringList names = QAccessibleWidget::actionNames();

@@ -13,15 +13,23 @@ namespace tallyvane {
 namespace {
 
 constexpr double normalPoints = 10; // of the letters that the windows are laid out for
+constexpr double largestPoints = 12; // of those that all windows have room for
+constexpr double tolerance = 0.25; // a font of whole pixels is not of whole points
 
 constexpr const char* scaleName = "QT_SCALE_FACTOR";
 /// What the scale was before the process started anew; also the sign that it did.
 constexpr const char* scaleBeforeName = "TALLYVANE_SCALE_BEFORE";
 
-void limitFontSize() {
+void setFontSize(double points) {
     QFont font = QApplication::font();
-    font.setPointSizeF(normalPoints);
+    font.setPointSizeF(std::min(points, largestPoints));
     QApplication::setFont(font);
+}
+
+double numberOr1(const QByteArray& text) {
+    bool isNumber = false;
+    const double number = text.toDouble(&isNumber);
+    return isNumber ? number : 1;
 }
 
 /// Programs that are started from here, a browser say, get the environment as the user has set it.
@@ -45,23 +53,23 @@ double FontScale::of(double points, QSize largestWindow, QSize room) {
 
 void FontScale::apply() {
     const bool isStartedAnew = qEnvironmentVariableIsSet(scaleBeforeName);
+    const double applied = isStartedAnew ? numberOr1(qgetenv(scaleName)) / numberOr1(qgetenv(scaleBeforeName)) : 1;
     if (isStartedAnew)
         restoreEnvironment();
     const double points = QFontInfo(QApplication::font()).pointSizeF();
-    if (points <= normalPoints)
+    if (points <= normalPoints + tolerance)
         return;
-    const double scale = of(points, largestWindow_, QGuiApplication::primaryScreen()->availableSize());
-    if (!isStartedAnew && scale > 1)
-        restart(scale);
-    limitFontSize();
+    if (!isStartedAnew)
+        if (const double scale = of(points, largestWindow_, QGuiApplication::primaryScreen()->availableSize());
+            scale > 1)
+            restart(scale);
+    setFontSize(points / applied);
 }
 
 void FontScale::restart(double scale) {
     const QByteArray before = qgetenv(scaleName);
-    bool isNumber = false;
-    const double outer = before.toDouble(&isNumber);
     qputenv(scaleBeforeName, before);
-    qputenv(scaleName, QByteArray::number(isNumber ? outer * scale : scale));
+    qputenv(scaleName, QByteArray::number(numberOr1(before) * scale));
 
     std::vector<char*> arguments;
     for (std::string& argument : arguments_)

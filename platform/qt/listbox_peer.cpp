@@ -342,6 +342,18 @@ void ListboxPeer::click(const QModelIndex& cell, const QPoint& place) {
         deliver([&] { control_->EditCell(cell.row(), cell.column()); });
 }
 
+/// Return is for the marked row where that has a use for it, and not for the window's button.
+bool ListboxPeer::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride && control_ != nullptr && control_->DoubleClick) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            event->accept();
+            return true;
+        }
+    }
+    return QTableView::event(event);
+}
+
 void ListboxPeer::keyPressEvent(QKeyEvent* event) {
     const QModelIndex cell = currentIndex();
     const bool isOurs = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_F2 ||

@@ -40,6 +40,7 @@ public:
 
 protected:
     void apply(Property property) override;
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;

@@ -47,7 +47,8 @@ public:
     CanvasPeer(Canvas& canvas, QWidget* parent);
 
     /// Whether it can be pressed, by the keyboard too.
-    bool isButton() const { return control_ != nullptr && control_->AcceptFocus(); }
+    bool isButton() const { return control_ != nullptr && control_->AcceptFocus() && !control_->DragsUpAndDown(); }
+    bool isDivider() const { return control_ != nullptr && control_->DragsUpAndDown(); }
     /// A press in its middle.
     void press();
 

@@ -101,6 +101,8 @@ void TextFieldPeer::inputMethodEvent(QInputMethodEvent* event) {
 
 TextAreaPeer::TextAreaPeer(TextArea& area, QWidget* parent) : Peer(area, parent) {
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    connect(this, &QPlainTextEdit::cursorPositionChanged, this, [this] { setExtraSelections({}); });
+    connect(this, &QPlainTextEdit::textChanged, this, [this] { setExtraSelections({}); });
     setTabChangesFocus(true);
     setReadOnly(area.ReadOnly());
     if (area.SpellChecking() && Dictionary::ofDesktop().isThere())
@@ -124,12 +126,17 @@ void TextAreaPeer::apply(Property property) {
 
 void TextAreaPeer::replaceSelection(std::string_view text) { textCursor().insertText(tallyvane::toQt(text)); }
 
-void TextAreaPeer::select(int start, int length) {
-    QTextCursor cursor = textCursor();
-    cursor.setPosition(unitsOf(toPlainText(), start));
-    cursor.setPosition(unitsOf(toPlainText(), start + length), QTextCursor::KeepAnchor);
+/// Not by a selection, which the next key would overwrite.
+void TextAreaPeer::pointOutLine(int number) {
+    QTextCursor cursor(document()->findBlockByNumber(number));
     setTextCursor(cursor);
     ensureCursorVisible();
+    QTextEdit::ExtraSelection line;
+    line.cursor = cursor;
+    line.format.setProperty(QTextFormat::FullWidthSelection, true);
+    line.format.setBackground(palette().highlight());
+    line.format.setForeground(palette().highlightedText());
+    setExtraSelections({line});
 }
 
 void TextAreaPeer::contextMenuEvent(QContextMenuEvent* event) {

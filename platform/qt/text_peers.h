@@ -30,7 +30,7 @@ public:
     TextAreaPeer(TextArea& area, QWidget* parent);
 
     void replaceSelection(std::string_view text) override;
-    void select(int start, int length) override;
+    void pointOutLine(int number) override;
 
 protected:
     void apply(Property property) override;

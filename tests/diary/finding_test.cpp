@@ -168,10 +168,12 @@ TEST_F(FindingTest, TheStripSaysOnHowManyReadingsAFigureRests) {
     EXPECT_EQ(window1_.StaticText16.AccessibleName(), "70.0, 1 weight");
 }
 
-TEST_F(FindingTest, AReadingOfTheOtherUnitIsToldOnce) {
-    bool isAsked = false;
-    window1_.showPreferences = [&] { isAsked = true; };
-    openOn({"11/21/2026"});
+TEST_F(FindingTest, AReadingOfTheOtherUnitIsToldOnceAndOnlyWhileItStands) {
+    std::optional<UsualLimits::Limits> offered;
+    window1_.offerLimits = [&](const UsualLimits::Limits& limits) { offered = limits; };
+    openOn({"11/21/2026", "11/20/2026"});
+    const std::string words = "Averages of 1 selected day, 11/21/2026";
+    const std::string doubt = "120 looks like mg/dL; your limits are in mmol/L.";
     const auto type = [this](const char* text) {
         table_.EditCell(0, 1);
         table_.userTyped(text, 0, 0);
@@ -179,15 +181,24 @@ TEST_F(FindingTest, AReadingOfTheOtherUnitIsToldOnce) {
     table_.EditCell(0, 9);
     table_.userTyped("80", 0, 0); // a weight
     type("33.3");
-    EXPECT_EQ(line(), "Averages of 1 selected day, 11/21/2026");
+    EXPECT_EQ(line(), words);
     type("120");
-    EXPECT_EQ(line(), "120 is in mg/dL, your limits are in mmol/L.");
+    EXPECT_EQ(line(), doubt);
+    table_.EditCell(1, 1);
+    EXPECT_EQ(line(), doubt);
     press("Use limits in mg/dL");
-    EXPECT_TRUE(isAsked);
-    EXPECT_EQ(UsualLimits::present(), UsualLimits::inMg);
-    UsualLimits::use(UsualLimits::inMmol);
+    EXPECT_EQ(offered, UsualLimits::inMg);
+    type("12.0");
     type("130");
-    EXPECT_EQ(line(), "Averages of 1 selected day, 11/21/2026");
+    EXPECT_EQ(line(), words); // once
+
+    Window1 second(toolbar_, menuBar_);
+    second.Open();
+    second.ListBox1.EditCell(0, 1);
+    second.ListBox1.userTyped("55", 0, 0); // the point is missing
+    EXPECT_EQ(second.StripLine.Text(), "55 looks like mg/dL; your limits are in mmol/L.");
+    second.ListBox1.userTyped("5.5", 0, 0);
+    EXPECT_EQ(second.StripLine.Text(), words);
 }
 
 } // namespace

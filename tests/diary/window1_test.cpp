@@ -44,14 +44,14 @@ TEST_F(Window1Test, TheDividerGivesTheTableWholeRowsAndIsKept) {
     EXPECT_FALSE(std::filesystem::exists(applicationFile("Table Height")));
     window.TableDivider.Event_MouseDown(10, 3);
     window.TableDivider.Event_MouseDrag(10, 3 + 40);
-    EXPECT_EQ(heights(window), (std::vector{259 + 30, 226 - 30}));
+    EXPECT_EQ(heights(window), (std::vector{259 + 45, 226 - 45}));
     window.TableDivider.Event_KeyDown(Keys::down);
     window.saveAll();
-    EXPECT_EQ(read(applicationFile("Table Height")), "45\n");
+    EXPECT_EQ(read(applicationFile("Table Height")), "60\n");
 
     Window1 next(toolbar_, menuBar_);
     next.Open();
-    EXPECT_EQ(heights(next), (std::vector{259 + 45, 226 - 45}));
+    EXPECT_EQ(heights(next), (std::vector{259 + 60, 226 - 60}));
     next.TableDivider.Dragged(1000); // the calendar stays in sight
     EXPECT_EQ(heights(next), (std::vector{259 + 105, 226 - 105}));
     next.TableDivider.Dragged(-1000); // so do four rows
@@ -59,6 +59,10 @@ TEST_F(Window1Test, TheDividerGivesTheTableWholeRowsAndIsKept) {
     next.TableDivider.Dragged(1000);
     next.userChangedBounds({120, 80, 746, 518});
     EXPECT_EQ(heights(next), (std::vector{259 + 15, 144 - 15}));
+    next.userChangedBounds({120, 80, 746, 600});
+    EXPECT_EQ(heights(next), (std::vector{259 + 105, 226 - 105})); // it comes back with the room
+    next.TableDivider.Dragged(-7); // less than half a row
+    EXPECT_EQ(heights(next), (std::vector{259 + 105, 226 - 105}));
 }
 
 TEST_F(Window1Test, WithoutAFileTheWindowKeepsItsSizeAndPlaceOfCreation) {

@@ -114,7 +114,7 @@ done
 until_true has_keys Preferences
 xdotool key Return
 in_front
-until_true grep -qx 251 "$(dirname "$days")/Brindlemarks Preferences"
+until_true grep -qx 250 "$(dirname "$days")/Brindlemarks Preferences"
 xdotool key ctrl+q
 ends_well
 echo "each change was undone, each day found"

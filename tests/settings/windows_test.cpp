@@ -131,7 +131,7 @@ TEST_F(PrefsWindowTest, TheUsualLimitsComeByOneButtonAndGoByOneLink) {
     };
     prefs_.EditField2.userChanged("9.5", 3, 0);
     prefs_.PushButton3.Action();
-    EXPECT_EQ(shown(), (Texts{"251", "181", "70", "54"}));
+    EXPECT_EQ(shown(), (Texts{"250", "180", "70", "54"}));
     EXPECT_EQ(Globals::gUnder, 54);
     EXPECT_GT(timerStarts_, 0);
     EXPECT_EQ(prefs_.LimitsBefore.Text(), "Before: 13, 9.5, 5 and 3.");
@@ -139,7 +139,7 @@ TEST_F(PrefsWindowTest, TheUsualLimitsComeByOneButtonAndGoByOneLink) {
     EXPECT_EQ(shown(), (Texts{"13", "9.5", "5", "3"}));
     EXPECT_EQ(Globals::gCaution, 9.5);
     prefs_.PushButton2.Action();
-    EXPECT_EQ(shown(), (Texts{"14", "10.1", "3.9", "3"}));
+    EXPECT_EQ(shown(), (Texts{"13.9", "10", "3.9", "3"}));
 }
 
 } // namespace
