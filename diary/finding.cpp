@@ -16,19 +16,21 @@ constexpr double secondsOfDay = 24 * 60 * 60;
 
 const std::string& keyOf(const Listbox& table, int row) { return table.Cell(row, DayTable::firstKey); }
 
+std::optional<Date> dateOf(const Listbox& table, int row) { return ParseDate(table.Cell(row, DayTable::dateColumn)); }
+
 /// The first and the last key of a period. Keys are texts of one length, which compare as the days do.
-struct Keys {
+struct KeyRange {
     std::string first;
     std::string last;
 
-    explicit Keys(const Period& period)
+    explicit KeyRange(const Period& period)
         : first(SortKeys::dateKey(startOf(period.first))), last(SortKeys::dateKey(startOf(period.second))) {}
     bool hold(const std::string& key) const { return key >= first && key <= last; }
     static Date startOf(const Date& day) { return {day.Year(), day.Month(), day.Day()}; }
 };
 
 Date daysLater(const Date& day, int days) {
-    return Date::ofTotalSeconds(Keys::startOf(day).TotalSeconds() + days * secondsOfDay);
+    return Date::ofTotalSeconds(KeyRange::startOf(day).TotalSeconds() + days * secondsOfDay);
 }
 
 } // namespace
@@ -36,13 +38,13 @@ Date daysLater(const Date& day, int days) {
 std::optional<int> newestRow(const Listbox& table) {
     std::optional<int> newest;
     for (int row = 0; row < table.ListCount(); ++row)
-        if (!newest || keyOf(table, row) >= keyOf(table, *newest))
+        if ((!newest || keyOf(table, row) >= keyOf(table, *newest)) && dateOf(table, row))
             newest = row;
     return newest;
 }
 
 std::vector<int> rowsOf(const Listbox& table, const Date& day) {
-    const Keys keys({day, day});
+    const KeyRange keys({day, day});
     std::vector<int> rows;
     for (int row = 0; row < table.ListCount(); ++row)
         if (keys.hold(keyOf(table, row)))
@@ -59,7 +61,7 @@ std::optional<int> nextRowOf(const Listbox& table, const Date& day, int after) {
 }
 
 std::vector<bool> rowsIn(const Listbox& table, const Period& period) {
-    const Keys keys(period);
+    const KeyRange keys(period);
     std::vector<bool> rows(static_cast<std::size_t>(table.ListCount()));
     for (int row = 0; row < table.ListCount(); ++row)
         rows[static_cast<std::size_t>(row)] = keys.hold(keyOf(table, row));
@@ -70,22 +72,20 @@ std::optional<Period> periodOfSelected(const Listbox& table) {
     std::optional<int> first;
     std::optional<int> last;
     for (int row = 0; row < table.ListCount(); ++row) {
-        if (!table.Selected(row) || keyOf(table, row).empty())
+        if (!table.Selected(row))
             continue;
-        if (!first || keyOf(table, row) < keyOf(table, *first))
-            first = row;
-        if (!last || keyOf(table, row) > keyOf(table, *last))
-            last = row;
+        const bool isFirst = !first || keyOf(table, row) < keyOf(table, *first);
+        const bool isLast = !last || keyOf(table, row) > keyOf(table, *last);
+        if ((!isFirst && !isLast) || !dateOf(table, row))
+            continue;
+        first = isFirst ? row : first;
+        last = isLast ? row : last;
     }
-    if (!first)
-        return std::nullopt;
-    const std::optional<Date> firstDay = ParseDate(table.Cell(*first, DayTable::dateColumn));
-    const std::optional<Date> lastDay = ParseDate(table.Cell(*last, DayTable::dateColumn));
-    return firstDay && lastDay ? std::optional(Period(*firstDay, *lastDay)) : std::nullopt;
+    return first ? std::optional(Period(*dateOf(table, *first), *dateOf(table, *last))) : std::nullopt;
 }
 
 std::vector<Date> daysIn(const Listbox& table, const Period& period) {
-    const Keys keys(period);
+    const KeyRange keys(period);
     std::set<std::string> found;
     for (int row = 0; row < table.ListCount(); ++row)
         if (keys.hold(keyOf(table, row)))
@@ -96,7 +96,7 @@ std::vector<Date> daysIn(const Listbox& table, const Period& period) {
     return days;
 }
 
-Period lastDays(int days, const Date& today) { return {daysLater(today, 1 - days), Keys::startOf(today)}; }
+Period lastDays(int days, const Date& today) { return {daysLater(today, 1 - days), KeyRange::startOf(today)}; }
 
 Period monthOf(const Date& day) {
     const Date first(day.Year(), day.Month(), 1);

@@ -15,7 +15,7 @@ namespace tallyvane::Finding {
 /// A first and a last day.
 using Period = std::pair<Date, Date>;
 
-/// The row with the latest date; nothing in an empty table.
+/// The row with the latest date; nothing when no date can be read.
 std::optional<int> newestRow(const Listbox& table);
 
 /// The rows of that day, from the top.

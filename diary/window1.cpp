@@ -147,7 +147,7 @@ void Window1::fillStrip(const Averages::Sums& sums) {
         labels[i]->Text(text);
         const std::string count = StripWords::ofColumn(static_cast<int>(i) + 1, sums[i]);
         labels[i]->HelpTag(count);
-        labels[i]->AccessibleName(tr("%1, %2", {text, count}));
+        labels[i]->AccessibleName(tr("%1: %2, %3", {columnName(static_cast<int>(i) + 1), text, count}));
         if (i < lights.size())
             lights[i]->Backdrop(sums[i].count > 0 ? getLight(Val(text)) : std::nullopt);
     }
@@ -168,6 +168,8 @@ void Window1::ListBox1_Change() {
     doAverages();
     if (ListBox1.ListCount() == daysShownBold_)
         return;
+    if (ListBox1.ListCount() < daysShownBold_)
+        doubtfulUnit_.reset(); // its row has moved
     showBoldDays();
     noteUnitOfSelected();
 }
@@ -203,7 +205,11 @@ void Window1::ListBox1_CellTextChange(int row, int column) {
 
 bool Window1::ListBox1_HeaderPressed(int column) {
     ListBox1.beginStep(tr("Sort by %1", {columnName(column)}));
-    return SortKeys::sortBy(ListBox1, column);
+    const bool isSorted = SortKeys::sortBy(ListBox1, column);
+    doubtfulUnit_.reset(); // its row has moved
+    showStripWords();
+    ListBox1.SetFocus(); // undo is for the table now
+    return isSorted;
 }
 
 bool Window1::ListBox1_CellBackgroundPaint(Graphics& g, int row, int column) {
@@ -231,8 +237,10 @@ std::string Window1::columnName(int column) const {
 
 // Days
 
+std::string Window1::nameOfAdding(const Date& day) { return tr("New Day %1", {day.ShortDate()}); }
+
 void Window1::addDay() {
-    ListBox1.beginStep(tr("New Day %1", {CalendarControl1.SelectedDate().ShortDate()}));
+    ListBox1.beginStep(nameOfAdding(CalendarControl1.SelectedDate()));
     DayTable::addDay(ListBox1, CalendarControl1.SelectedDate());
     doSortColumns();
     showBoldDays();
@@ -248,12 +256,13 @@ void Window1::BevelButton1_Action() {
 void Window1::BevelButton2_Action() {
     const int days = ListBox1.SelectedCount();
     ListBox1.beginStep(days == 1 ? tr("Removal of %1", {ListBox1.Cell(ListBox1.ListIndex(), DayTable::dateColumn)})
-                                 : tr("Removal of %1 Days", {std::to_string(days)}));
+                                 : tr("Removal of %1 Days", {Grouped(days)}));
     ListBox1.RemoveSelectedRows();
     doColWidth();
+    ListBox1.SetFocus(); // undo is for the table now
 }
 
-/// After a change that came past the controls.
+/// After a step was undone or redone, which raises no event but that of the selection.
 void Window1::showDaysAnew() {
     twins_.reset();
     doubtfulUnit_.reset(); // its row may be another one

@@ -147,12 +147,14 @@ private:
     bool goToDay(const Date& day);
     bool goToHit(const Search::Hit& hit);
     void selectPeriod(const Finding::Period& period);
+    void selectRows(const std::vector<bool>& rows);
     void showBoldDays();
 
     // The line beside the journal's tab
     void showStripWords();
     void noteTwins(const Date& day);
-    void showTwins(bool justAdded);
+    void showTwins();
+    static std::string nameOfAdding(const Date& day);
     void noteUnit(int row, int column);
     void noteUnitOfSelected();
     bool looksLikeMg(int row, int column) const;

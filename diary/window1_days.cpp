@@ -17,6 +17,7 @@ bool Window1::goToDay(const Date& day) {
     if (row) {
         ListBox1.closeCell();
         ListBox1.markRow(*row);
+        showStripWords();
     }
     return row.has_value();
 }
@@ -80,7 +81,12 @@ void Window1::selectPeriod(const Finding::Period& period) {
         StripLine.show(tr("There are no days from %1 to %2.", {period.first.ShortDate(), period.second.ShortDate()}));
         return;
     }
+    selectRows(rows);
+}
+
+void Window1::selectRows(const std::vector<bool>& rows) {
     ListBox1.select(rows);
+    showStripWords();
     ListBox1.bringIntoView(ListBox1.ListIndex());
     ListBox1.SetFocus();
 }
@@ -98,8 +104,8 @@ MenuHandlers Window1::daysMenu() {
         {"DaysSelectThisMonth", [this] { selectPeriod(Finding::monthOf(Date())); }},
         {"DaysSelectLastMonth", [this] { selectPeriod(Finding::monthBefore(Date())); }},
         {"DaysSelectAll",
-         [this] { ListBox1.select(std::vector<bool>(static_cast<std::size_t>(ListBox1.ListCount()), true)); }},
-        {"DaysSelectNone", [this] { ListBox1.select({}); }},
+         [this] { selectRows(std::vector<bool>(static_cast<std::size_t>(ListBox1.ListCount()), true)); }},
+        {"DaysSelectNone", [this] { selectRows({}); }},
     };
 }
 

@@ -13,8 +13,10 @@ namespace tallyvane {
 void Window1::showStripWords() {
     if (doubtfulUnit_ && !looksLikeMg(doubtfulUnit_->first, doubtfulUnit_->second))
         doubtfulUnit_.reset(); // the reading was corrected, or the limits were changed
+    if (twins_ && Finding::rowsOf(ListBox1, *twins_).size() < 2)
+        twins_.reset();
     if (twins_)
-        showTwins(false);
+        showTwins();
     else if (doubtfulUnit_)
         showDoubtfulUnit();
     else
@@ -23,31 +25,28 @@ void Window1::showStripWords() {
 
 /// Tells that the day which was just added is in the table already.
 void Window1::noteTwins(const Date& day) {
-    const bool isTwin = Finding::rowsOf(ListBox1, day).size() > 1;
-    twins_ = isTwin ? std::optional(day) : std::nullopt;
-    if (isTwin)
-        showTwins(true);
-    else
-        showStripWords();
+    twins_ = day;
+    showStripWords();
 }
 
 /// With a link that undoes the adding, as long as that is the last that was done.
-void Window1::showTwins(bool justAdded) {
+void Window1::showTwins() {
     const std::string date = twins_->ShortDate();
     const auto rows = Finding::rowsOf(ListBox1, *twins_).size();
     const auto goToOther = [this, day = *twins_] {
         goToDay(day);
         ListBox1.SetFocus();
     };
-    const auto undo = [this] {
-        menuHandlers.at("EditUndo")();
+    const auto undo = [this, day = *twins_] {
+        if (history_.undoName() == nameOfAdding(day))
+            menuHandlers.at("EditUndo")();
         ListBox1.SetFocus();
     };
     std::vector<LinkLine::Link> links{{tr("Go to the other row"), goToOther}};
-    if (justAdded)
+    if (history_.undoName() == nameOfAdding(*twins_))
         links.push_back({tr("Undo"), undo});
     StripLine.show(rows == 2 ? tr("%1 is in the table twice.", {date})
-                             : tr("%1 is in the table %2 times.", {date, std::to_string(rows)}),
+                             : tr("%1 is in the table %2 times.", {date, Grouped(static_cast<int>(rows))}),
                    std::move(links));
 }
 
@@ -79,14 +78,13 @@ void Window1::showDoubtfulUnit() {
         showStripWords();
         ListBox1.SetFocus();
     };
-    StripLine.show(tr("%1 looks like mg/dL; your limits are in mmol/L.", {ListBox1.Cell(row, column)}),
-                   {{tr("Use limits in mg/dL"),
-                     [this, close] {
-                         close();
-                         if (offerLimits)
-                             offerLimits(UsualLimits::inMg);
-                     }},
-                    {tr("Not now"), close}});
+    StripLine.show(tr("%1 looks like mg/dL.", {ListBox1.Cell(row, column)}), {{tr("Change the limits to mg/dL"),
+                                                                               [this, close] {
+                                                                                   close();
+                                                                                   if (offerLimits)
+                                                                                       offerLimits(UsualLimits::inMg);
+                                                                               }},
+                                                                              {tr("Not now"), close}});
 }
 
 } // namespace tallyvane

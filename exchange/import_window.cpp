@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "diary/sort_keys.h"
+#include "platform/base/number.h"
 #include "platform/base/text.h"
 #include "platform/base/translation.h"
 #include "platform/windows/dialogs.h"
@@ -98,7 +99,8 @@ void importWindow::continueReading(ImportReader::Milliseconds time) {
 /// Appends the rows and selects them, which raises Change and so updates the averages.
 void importWindow::appendRows(std::vector<ImportReader::Row> rows) {
     const int first = days_.ListCount();
-    days_.beginStep(rows.size() == 1 ? tr("Import of 1 Day") : tr("Import of %1 Days", {std::to_string(rows.size())}));
+    days_.beginStep(rows.size() == 1 ? tr("Import of 1 Day")
+                                     : tr("Import of %1 Days", {Grouped(static_cast<int>(rows.size()))}));
     days_.AddRows(std::move(rows));
     SortKeys::rebuild(days_);
     std::vector<bool> isNew(static_cast<std::size_t>(days_.ListCount()));

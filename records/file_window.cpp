@@ -228,6 +228,8 @@ void fileWindow::deleteEmptyList() {
 /// After a step was undone or redone.
 void fileWindow::showListAnew() {
     ListBox1_Change();
+    if (const std::optional<FolderItem> file = DataFiles::innerFile(DataFiles::resources); file && file->Exists())
+        listFile = file; // also one that came with what is undone now
     deleteEmptyList();
     saveFileList();
 }

@@ -105,6 +105,7 @@ void InfoWindow::build() {
 }
 
 void InfoWindow::wire() {
+    ListBox1.CellTextChange = [this](int, int) { detailColumn_ = 0; }; // a step of its own
     handleUndoItems(
         *this, [this]() -> ListHistory& { return historyInFront(); }, [this] { showListsAnew(); });
     ListBox2.CellKeyDown = [this](int row, int column, const std::string& key) {

@@ -26,14 +26,16 @@ void ListHistory::forgetPlaces() {
 }
 
 void ListHistory::record(Change change) {
-    if (!isRecording())
+    if (isChanging_)
         return;
-    undone_.clear();
+    undone_.clear(); // the places in it do not hold any more
+    if (done_.empty())
+        return;
     done_.back().changes.push_back(std::move(change));
 }
 
 void ListHistory::cellWritten(int row, int column, std::string before) {
-    if (isRecording() && row < firstAdded_ && written_.emplace(row, column).second)
+    if (!isChanging_ && row < firstAdded_ && written_.emplace(row, column).second)
         record(CellText{row, column, std::move(before)});
 }
 

@@ -23,7 +23,7 @@ namespace tallyvane {
 /// What is written before the first step is where the history begins.
 class ListHistory : public Listbox::Recorder {
 public:
-    static constexpr std::size_t mostSteps = 500;
+    static constexpr std::size_t mostSteps = 5000;
 
     /// Records the list from here on. The list must outlive the history.
     explicit ListHistory(Listbox& list) : list_(list) { list.record(this); }
@@ -71,7 +71,7 @@ private:
     };
     struct Step {
         std::string name;
-        View view; // on the other side of the step
+        View view; // that the step brings back
         std::vector<Change> changes; // in the order in which they are to be made
     };
 
@@ -81,7 +81,6 @@ private:
     bool isEffective(const Step& step) const;
     View view() const;
     void show(const View& view);
-    bool isRecording() const { return !done_.empty() && !isChanging_; }
     void record(Change change);
     void forgetPlaces();
     Change reversed(CellText change);

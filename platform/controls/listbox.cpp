@@ -6,6 +6,7 @@
 
 #include "platform/base/number.h"
 #include "platform/base/text.h"
+#include "platform/base/translation.h"
 #include "platform/drawing/picture.h"
 
 namespace tallyvane {
@@ -315,6 +316,7 @@ void Listbox::Sort() {
 void Listbox::pressHeader(int column) {
     if (HeaderPressed && HeaderPressed(column))
         return;
+    beginStep(tr("Sort by %1", {Heading(column)}));
     ColumnSortDirection(column, ColumnSortDirection(column) == 1 ? -1 : 1);
     SortedColumn(column);
     Sort();

@@ -141,7 +141,7 @@ public:
     // Rows and cells
 
     int ListCount() const { return static_cast<int>(rows_.size()); }
-    /// The row that was added last; -1 before that, and once it was removed.
+    /// The row that was added last; -1 before that, and once it was removed or rows have come back or moved.
     int LastIndex() const { return lastIndex_; }
     const std::string& Cell(int row, int column) const;
     /// The texts of a row that exists, for those who want them all; valid until the row changes.
@@ -198,7 +198,7 @@ public:
     /// Scrolls as little as it takes to see the row.
     void bringIntoView(int row);
     /// A row with a frame around it, which is where the keys start from; -1 for none. It is no selection, and goes with
-    /// the next one, and when rows come, go or move.
+    /// the next one, and when rows go, come back or move.
     int MarkedRow() const { return markedRow_; }
     /// Brings the row into view, too. One that does not exist takes the mark away.
     void markRow(int row);
@@ -245,6 +245,8 @@ public:
     /// Ends the editing and puts the text back as it was when the cell was opened or confirmed last, and with it the
     /// other cells of the row, which may have followed what was typed. CellTextChange if anything was typed.
     void revertCell();
+    /// The user has undone all that was typed: the other cells of the row follow. The cell stays open.
+    void revertTyping();
     /// Moves the editing by so many rows, down if positive, as far as there are rows, and selects the whole text.
     void moveCell(int rows);
     /// The user has typed a text while no cell was open: opens an editable cell with it, in place of what it holds.
@@ -337,6 +339,7 @@ private:
     void raiseRowsChanged(const std::vector<int>& places, void (ListboxObserver::*one)(int row));
     void write(int row, int column, std::string_view text);
     void raiseTextChange(int row, int column);
+    void restoreRow(int row, int column);
 
     std::vector<Column> columns_;
     std::string columnWidths_;

@@ -59,6 +59,13 @@ void Listbox::revertCell() {
     const int row = openRow_;
     const int column = openColumn_;
     closeCell();
+    restoreRow(row, column);
+}
+
+void Listbox::revertTyping() { restoreRow(openRow_, openColumn_); }
+
+/// Puts the cells of a row back as they were before something was typed in one of them.
+void Listbox::restoreRow(int row, int column) {
     if (row < 0 || cellsBeforeTyping_.empty())
         return;
     for (int followed = 0; followed < ColumnCount(); ++followed)

@@ -14,11 +14,13 @@ namespace tallyvane {
 class TextField : public Control {
 public:
     const std::string& Text() const { return text_; }
-    /// Raises TextChange when the text differs.
+    /// Raises TextChange when the text differs. The user can't undo what was typed before, also when it does not: the
+    /// text may belong to something else now.
     void Text(std::string_view value) {
         std::string line = ReplaceLineEndings(value, " ");
         const bool differs = text_ != line;
-        set(text_, std::move(line), Property::text);
+        text_ = std::move(line);
+        changed(Property::text);
         if (differs && TextChange)
             TextChange();
     }
@@ -74,13 +76,14 @@ public:
 class TextArea : public Control {
 public:
     const std::string& Text() const { return text_; }
-    /// Line ends become EndOfLine. Raises TextChange when the text differs.
+    /// Line ends become EndOfLine. Raises TextChange when the text differs. What was typed before can't be undone then.
     void Text(std::string_view value) {
         std::string text = ReplaceLineEndings(value, EndOfLine);
-        if (text_ == text)
-            return;
-        set(text_, std::move(text), Property::text);
-        raiseTextChange();
+        const bool differs = text_ != text;
+        text_ = std::move(text);
+        changed(Property::text);
+        if (differs)
+            raiseTextChange();
     }
     /// Puts a text in place of the user's selection; at the end when nobody shows the area.
     void SelText(std::string_view value) {

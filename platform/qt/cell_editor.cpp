@@ -56,9 +56,7 @@ void CellEditor::controlChanged(Property property) {
 
 void CellEditor::showText() {
     const QSignalBlocker quiet(this);
-    const QString shown = toQt(control_->Text());
-    if (text() != shown)
-        setText(shown);
+    setText(toQt(control_->Text())); // also the same: Qt then forgets what was typed in another cell
 }
 
 void CellEditor::showSelection() {
@@ -89,6 +87,18 @@ void CellEditor::textTyped() {
         return;
     controlChanged(Property::text); // without the line ends that were pasted
     selectionMoved();
+}
+
+void CellEditor::undoTyping() {
+    undo();
+    textTyped();
+    if (list_ != nullptr && !isUndoAvailable())
+        deliver([this] { list_->revertTyping(); });
+}
+
+void CellEditor::redoTyping() {
+    redo();
+    textTyped();
 }
 
 bool CellEditor::raiseKeyDown(const std::string& key) {
@@ -141,9 +151,8 @@ bool CellEditor::event(QEvent* event) {
         event->accept(); // a key that climbed on would move the list's selection away from the open cell
         return true;
     }
-    if ((key.matches(QKeySequence::Undo) && !isUndoAvailable()) ||
-        (key.matches(QKeySequence::Redo) && !isRedoAvailable()))
-        return true; // not accepted: it is for the table
+    if (key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo))
+        return true; // not accepted: they come by the menu's items, for the cell or for the table
     if (isShortcut(key))
         return QLineEdit::event(event);
     event->accept(); // Return and Escape are for the cell, not for the window's buttons

@@ -17,6 +17,10 @@ public:
     /// Text and selection alone; the list's peer shows and hides the field.
     void controlChanged(Property property) override;
 
+    /// Takes back what was typed last, and with the first of it what followed in other cells of the row.
+    void undoTyping();
+    void redoTyping();
+
 protected:
     bool event(QEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;

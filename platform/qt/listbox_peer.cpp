@@ -17,6 +17,7 @@
 #include <utility>
 
 #include "platform/qt/event_guard.h"
+#include "platform/qt/key_names.h"
 
 namespace tallyvane {
 
@@ -95,15 +96,21 @@ void ListboxPeer::applySortArrow() {
 // Notifications from the list
 
 void ListboxPeer::rowAdded(int row) {
-    const QScopedValueRollback applying(applyingSelection_, true);
-    model_->notifyRowAdded(row);
+    {
+        const QScopedValueRollback applying(applyingSelection_, true);
+        model_->notifyRowAdded(row);
+    }
     describeEmptyList();
+    applySelection(); // Qt selects a neighbour of a row that goes
 }
 
 void ListboxPeer::rowRemoved(int row) {
-    const QScopedValueRollback applying(applyingSelection_, true);
-    model_->notifyRowRemoved(row);
+    {
+        const QScopedValueRollback applying(applyingSelection_, true);
+        model_->notifyRowRemoved(row);
+    }
     describeEmptyList();
+    applySelection();
 }
 
 void ListboxPeer::rowsReplaced() {
@@ -372,13 +379,21 @@ void ListboxPeer::keyPressEvent(QKeyEvent* event) {
 
 /// Writes into the cell with the focus, without opening it first. False for a key that writes nothing.
 bool ListboxPeer::writeByKey(const QKeyEvent& key, const QModelIndex& cell) {
+    if (isShortcut(key) || (key.modifiers() & Qt::AltModifier) != 0)
+        return false;
     if (key.key() == Qt::Key_Delete) {
+        if (control_->SelectedCount() > 1)
+            return false; // it might be meant for the days
+        if (!viewport()->rect().contains(visualRect(cell))) {
+            scrollTo(cell); // nothing is emptied unseen
+            return true;
+        }
         bool isCleared = false;
         deliver([&] { isCleared = control_->clearCell(cell.row(), cell.column()); });
         return isCleared;
     }
     const QString text = key.text();
-    const bool isDigit = text.size() == 1 && text.front().isDigit();
+    const bool isDigit = text.size() == 1 && text.front() >= u'0' && text.front() <= u'9';
     if (!isDigit || control_->ColumnType(cell.column()) != Listbox::TypeEditable)
         return false;
     deliver([&] { control_->typeInto(cell.row(), cell.column(), fromQt(text)); });
@@ -388,7 +403,8 @@ bool ListboxPeer::writeByKey(const QKeyEvent& key, const QModelIndex& cell) {
 /// Return stands for a click or a double click, F2 for a click with Ctrl, F3 for one on the heading.
 void ListboxPeer::pressKey(int key, const QModelIndex& cell) {
     if (key == Qt::Key_F3) {
-        deliver([&] { control_->pressHeader(cell.column()); });
+        if (control_->HasHeading())
+            deliver([&] { control_->pressHeader(cell.column()); });
         return;
     }
     deliver([&] { control_->ListIndex(cell.row()); }); // as a click does

@@ -57,7 +57,12 @@ void editList(ListboxPeer& list, MenuRole role) {
 
 /// The standard editing action on a field of text or a list; nothing on any other control.
 void edit(QWidget* focus, MenuRole role) {
-    if (auto* line = qobject_cast<QLineEdit*>(focus))
+    auto* cell = dynamic_cast<CellEditor*>(focus);
+    if (cell != nullptr && role == MenuRole::undo)
+        cell->undoTyping();
+    else if (cell != nullptr && role == MenuRole::redo)
+        cell->redoTyping();
+    else if (auto* line = qobject_cast<QLineEdit*>(focus))
         editField(*line, role);
     else if (auto* text = qobject_cast<QPlainTextEdit*>(focus))
         editField(*text, role);
@@ -75,6 +80,21 @@ bool canEdit(const QWidget* focus, MenuRole role) {
 bool undoes(const CellEditor& cell, MenuRole role) {
     return role == MenuRole::undo ? cell.isUndoAvailable() : cell.isRedoAvailable();
 }
+
+/// Does something before a key may choose an item.
+class BeforeShortcuts : public QObject {
+public:
+    BeforeShortcuts(std::function<void()> action, QObject* parent) : QObject(parent), action_(std::move(action)) {}
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::ShortcutOverride && watched == QApplication::focusWidget())
+            action_();
+        return false;
+    }
+
+private:
+    std::function<void()> action_;
+};
 
 bool isMenu(const QWidget* widget) {
     return qobject_cast<const QMenu*>(widget) != nullptr || qobject_cast<const QMenuBar*>(widget) != nullptr;
@@ -114,14 +134,9 @@ MenuPeer::MenuPeer(MenuBar& bar, std::function<MenuTarget*()> front, QWidget* pa
         focus_ = now;
         refresh();
     });
-    qApp->installEventFilter(this);
+    // Not the menu bar itself: Qt's own filter in it takes itself away from whatever it watches.
+    qApp->installEventFilter(new BeforeShortcuts([this] { refresh(); }, this));
     refresh();
-}
-
-bool MenuPeer::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::ShortcutOverride)
-        refresh();
-    return QMenuBar::eventFilter(watched, event);
 }
 
 void MenuPeer::add(QMenu& menu, const MenuItem& item) {

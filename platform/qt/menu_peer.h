@@ -16,10 +16,6 @@ public:
     /// `front` gives the window of ours that is in front, or null.
     MenuPeer(MenuBar& bar, std::function<MenuTarget*()> front, QWidget* parent);
 
-protected:
-    /// Refreshes the items before a key may choose one of them.
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
     struct Entry {
         QAction* action;

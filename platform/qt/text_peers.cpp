@@ -54,9 +54,7 @@ void TextFieldPeer::apply(Property property) {
     }
     if (property != Property::text)
         return;
-    const QString shown = tallyvane::toQt(control_->Text());
-    if (text() != shown)
-        setText(shown);
+    setText(tallyvane::toQt(control_->Text())); // also the same: Qt then forgets what could be undone
 }
 
 void TextFieldPeer::reportText() {
@@ -117,8 +115,12 @@ TextAreaPeer::TextAreaPeer(TextArea& area, QWidget* parent) : Peer(area, parent)
 }
 
 void TextAreaPeer::apply(Property property) {
-    if (property != Property::text || control_->Text() == shown_)
+    if (property != Property::text)
         return;
+    if (control_->Text() == shown_) {
+        document()->clearUndoRedoStacks(); // it may belong to something else now
+        return;
+    }
     shown_ = control_->Text();
     const QSignalBlocker quiet(this);
     setPlainText(tallyvane::toQt(shown_));

@@ -16,7 +16,7 @@ namespace tallyvane {
 enum class MenuRole {
     none,
     undo, // the standard editing actions, on the control with the focus
-    redo, // in a field that has nothing of that kind to do, these two are the window's
+    redo, // these two are the window's where no field of text has the focus
     cut,
     copy,
     paste,

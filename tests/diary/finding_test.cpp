@@ -1,6 +1,7 @@
 /// How a day is found, and how the window says what it shows.
 #include "diary/finding.h"
 
+#include "diary/date_window.h"
 #include "diary/go_to_day_window.h"
 #include "settings/usual_limits.h"
 #include "support/diary_desk.h"
@@ -135,6 +136,29 @@ TEST_F(FindingTest, ADayThatIsAddedTwiceIsToldAndCanBeTakenBack) {
     EXPECT_EQ(line(), "Averages of 1 selected day, 11/21/2026");
 }
 
+TEST_F(FindingTest, WhatTheLineSaysOfTwinsHoldsAsLongAsThereAreAny) {
+    openOn({"11/21/2026", "11/22/2026"});
+    window1_.BevelButton1.Action();
+    EXPECT_EQ(window1_.StripLine.links().size(), 2U);
+    table_.pressHeader(0);
+    table_.pressHeader(0); // an undo would take back the sort
+    EXPECT_EQ(line(), "11/22/2026 is in the table twice.");
+    EXPECT_EQ(window1_.StripLine.links().size(), 1U);
+    window1_.ListBox1_CellClick(table_.ListIndex(), 0, 0, 0);
+    auto& dialog = dynamic_cast<DateWindow&>(*Window::openWindows().back());
+    dialog.CalendarControl1.SelectedDate(Date(2026, 11, 20)); // the natural answer
+    dialog.PushButton1.Action();
+    EXPECT_EQ(line(), "Averages of 1 selected day, 11/20/2026");
+}
+
+TEST_F(FindingTest, DatesThatCannotBeReadHaveNoPlaceInTime) {
+    write(applicationFile("7VXData"), "soon@#@5@#@@#@@#@@#@@#@@#@@#@@#@@#@999999999999\n11/1/2026@#@5\n");
+    open();
+    EXPECT_EQ(table_.ScrollPosition(), 1);
+    table_.select({true, true});
+    EXPECT_EQ(line(), "Averages of 2 selected days, 11/1/2026");
+}
+
 TEST_F(FindingTest, PeriodsAreSelectedByTheDateOfTheDays) {
     openOn({"11/23/2026", "11/22/2026", "11/1/2026", "11/16/2026", "11/15/2026", "10/31/2026", "10/1/2026", "9/30/2026",
             "8/24/2026", "no date"});
@@ -165,7 +189,7 @@ TEST_F(FindingTest, TheStripSaysOnHowManyReadingsAFigureRests) {
     EXPECT_EQ(window1_.StaticText1.HelpTag(), "Average of 2 readings");
     EXPECT_EQ(window1_.StaticText2.HelpTag(), "Average of 0 readings");
     EXPECT_EQ(window1_.StaticText22.HelpTag(), "Average of the averages of 2 days");
-    EXPECT_EQ(window1_.StaticText16.AccessibleName(), "70.0, 1 weight");
+    EXPECT_EQ(window1_.StaticText16.AccessibleName(), "Weight: 70.0, 1 weight");
 }
 
 TEST_F(FindingTest, AReadingOfTheOtherUnitIsToldOnceAndOnlyWhileItStands) {
@@ -173,7 +197,7 @@ TEST_F(FindingTest, AReadingOfTheOtherUnitIsToldOnceAndOnlyWhileItStands) {
     window1_.offerLimits = [&](const UsualLimits::Limits& limits) { offered = limits; };
     openOn({"11/21/2026", "11/20/2026"});
     const std::string words = "Averages of 1 selected day, 11/21/2026";
-    const std::string doubt = "120 looks like mg/dL; your limits are in mmol/L.";
+    const std::string doubt = "120 looks like mg/dL.";
     const auto type = [this](const char* text) {
         table_.EditCell(0, 1);
         table_.userTyped(text, 0, 0);
@@ -186,7 +210,7 @@ TEST_F(FindingTest, AReadingOfTheOtherUnitIsToldOnceAndOnlyWhileItStands) {
     EXPECT_EQ(line(), doubt);
     table_.EditCell(1, 1);
     EXPECT_EQ(line(), doubt);
-    press("Use limits in mg/dL");
+    press("Change the limits to mg/dL");
     EXPECT_EQ(offered, UsualLimits::inMg);
     type("12.0");
     type("130");
@@ -196,7 +220,7 @@ TEST_F(FindingTest, AReadingOfTheOtherUnitIsToldOnceAndOnlyWhileItStands) {
     second.Open();
     second.ListBox1.EditCell(0, 1);
     second.ListBox1.userTyped("55", 0, 0); // the point is missing
-    EXPECT_EQ(second.StripLine.Text(), "55 looks like mg/dL; your limits are in mmol/L.");
+    EXPECT_EQ(second.StripLine.Text(), "55 looks like mg/dL.");
     second.ListBox1.userTyped("5.5", 0, 0);
     EXPECT_EQ(second.StripLine.Text(), words);
 }

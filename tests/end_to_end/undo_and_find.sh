@@ -106,7 +106,7 @@ start
 in_front
 plus
 xdotool type 120
-for x in 470 500 530; do # the link behind the line beside the journal's tab
+for x in 400 440 480; do # the link behind the line beside the journal's tab
     click_from_bottom "$x" 187
     sleep 0.4
     inactive && break

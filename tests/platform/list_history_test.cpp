@@ -78,6 +78,21 @@ TEST_F(ListHistoryTest, EachOpeningOfACellIsAStepOfItsOwn) {
     EXPECT_EQ(list_.openRow(), -1);
 }
 
+TEST_F(ListHistoryTest, NoStepIsRedoneOnRowsThatHaveMoved) {
+    list_.beginStep("remove");
+    list_.RemoveRow(0);
+    history_.undo();
+    list_.ColumnSortDirection(0, -1);
+    list_.SortedColumn(0);
+    list_.Sort(); // in no step
+    history_.redo();
+    EXPECT_EQ(columnOf(list_, 0), (Texts{"b", "a"}));
+    list_.pressHeader(0);
+    EXPECT_EQ(columnOf(list_, 0), (Texts{"a", "b"}));
+    history_.undo();
+    EXPECT_EQ(columnOf(list_, 0), (Texts{"b", "a"}));
+}
+
 TEST_F(ListHistoryTest, RowsComeBackWithAllThatBelongsToThem) {
     list_.SelectionType(Listbox::SelectionTypes::multiple);
     list_.CellBold(1, 0, true);

@@ -75,6 +75,71 @@ TEST_F(DayKeysTest, UndoIsForTheFieldWhileOneIsTypedInAndForTheDaysOtherwise) {
     EXPECT_EQ(firstReadings(), (Texts{"5", "8", "7"}));
 }
 
+TEST_F(DayKeysTest, WhatWasTypedInACellIsNeverUndoneInAnother) {
+    list().Cell(1, 2, "4");
+    click(0, 1);
+    key(Qt::Key_Backspace);
+    key(Qt::Key_Down);
+    key(Qt::Key_Backspace);
+    key(Qt::Key_Down);
+    key(Qt::Key_Up); // to a cell of the same text
+    key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(firstReadings(), (Texts{"", "6", "7"})); // the step before, and no text of the first cell
+
+    click(0, 2);
+    key(Qt::Key_4);
+    key(Qt::Key_Return);
+    click(1, 2);
+    key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(columnOf(list(), 2), (Texts{"", "4", ""}));
+}
+
+TEST_F(DayKeysTest, AnUndoInTheCellLeavesNoAverageBehind) {
+    list().AddRow("1/4/2026");
+    click(3, 1);
+    key(Qt::Key_5);
+    EXPECT_EQ(list().Cell(3, 8), "5.0");
+    key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(list().Cell(3, 8), "");
+    EXPECT_TRUE(editor()->isVisible());
+    key(Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(list().Cell(3, 1) + " " + list().Cell(3, 8), "5 5.0");
+}
+
+TEST_F(DayKeysTest, KeysForSomethingElseWriteNoReading) {
+    goTo(0, 1);
+    key(Qt::Key_1, Qt::ControlModifier);
+    key(Qt::Key_1, Qt::AltModifier);
+    QKeyEvent arabic(QEvent::KeyPress, Qt::Key_5, {}, QStringLiteral("\u0665"));
+    QApplication::sendEvent(table_, &arabic);
+    list().select({true, true}); // with the focus in the first
+    key(Qt::Key_Delete); // of the days, or of the reading?
+    EXPECT_EQ(firstReadings(), (Texts{"5", "6", "7"}));
+    EXPECT_FALSE(editor()->isVisible());
+}
+
+TEST_F(DayKeysTest, TheKeysOfUndoReachAWindowWithoutAMenuAlsoAfterAlt) {
+    QTest::keyClick(frame_, Qt::Key_Alt);
+    QTest::keyClick(frame_, Qt::Key_Escape);
+    app_->windows().main->showResources();
+    WindowFrame* side = frameTitled("Files");
+    ASSERT_NE(side, nullptr);
+    QApplication::setActiveWindow(side);
+    auto* links = side->findChild<ListboxPeer*>();
+    fileWindow& files = *app_->windows().files;
+    files.ListBox1.AddRow("one");
+    files.ListBox1.AddRow("two");
+    links->setFocus();
+    files.ListBox1.ListIndex(0);
+    files.BevelButton2.Action();
+    key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(files.ListBox1.ListCount(), 2);
+    key(Qt::Key_Y, Qt::ControlModifier);
+    const QRect first = links->visualRect(links->model()->index(0, 0));
+    QTest::mouseClick(links->viewport(), Qt::LeftButton, {}, first.center());
+    EXPECT_TRUE(files.BevelButton2.Enabled()); // the row hears of the click
+}
+
 TEST_F(DayKeysTest, AButtonsStepIsUndoneByTheKeysAndNamedInTheMenu) {
     list().select({true, true});
     QTest::mouseClick(button<QToolButton>(frame_, "\u2212"), Qt::LeftButton);
