@@ -91,6 +91,7 @@ std::vector<Date> daysIn(const Listbox& table, const Period& period) {
         if (keys.hold(keyOf(table, row)))
             found.insert(keyOf(table, row));
     std::vector<Date> days;
+    days.reserve(found.size());
     for (const std::string& key : found)
         days.push_back(Date::ofTotalSeconds(Val(key)));
     return days;

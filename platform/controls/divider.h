@@ -21,12 +21,11 @@ public:
     std::function<void(int points)> Dragged;
 
     void Event_Paint(Graphics& g) override {
-        constexpr int dots = 3;
         constexpr int size = 2;
         constexpr int apart = 8;
         g.ForeColor(RGB(140, 140, 140)); // to be seen on light and on dark
-        for (int dot = 0; dot < dots; ++dot)
-            g.FillRect((g.Width() - size) / 2 + (dot - dots / 2) * apart, (g.Height() - size) / 2, size, size);
+        for (const int place : {-apart, 0, apart})
+            g.FillRect((g.Width() - size) / 2 + place, (g.Height() - size) / 2, size, size);
     }
     bool Event_MouseDown(int /*x*/, int y) override {
         grabbedAt_ = y;

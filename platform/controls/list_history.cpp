@@ -98,14 +98,15 @@ ListHistory::Step ListHistory::reversed(Step step) {
     list_.closeCell();
     Step back{std::move(step.name), view(), {}};
     back.changes.reserve(step.changes.size());
-    for (auto change = step.changes.rbegin(); change != step.changes.rend(); ++change)
-        back.changes.push_back(std::visit([this](auto& each) { return reversed(std::move(each)); }, *change));
+    std::reverse(step.changes.begin(), step.changes.end());
+    for (Change& change : step.changes)
+        back.changes.push_back(std::visit([this](auto& each) { return reversed(std::move(each)); }, change));
     show(step.view);
     forgetPlaces();
     return back;
 }
 
-ListHistory::Change ListHistory::reversed(CellText change) {
+ListHistory::Change ListHistory::reversed(const CellText& change) {
     std::string text = list_.Cell(change.row, change.column);
     list_.Cell(change.row, change.column, change.text);
     return CellText{change.row, change.column, std::move(text)};
@@ -119,7 +120,7 @@ ListHistory::Change ListHistory::reversed(Listbox::TakenRows change) {
     return AddedRows{std::move(places)};
 }
 
-ListHistory::Change ListHistory::reversed(RowOrder change) {
+ListHistory::Change ListHistory::reversed(const RowOrder& change) {
     std::vector<int> inverse(change.order.size());
     for (std::size_t row = 0; row < inverse.size(); ++row)
         inverse[static_cast<std::size_t>(change.order[row])] = static_cast<int>(row);

@@ -83,10 +83,10 @@ private:
     void show(const View& view);
     void record(Change change);
     void forgetPlaces();
-    Change reversed(CellText change);
+    Change reversed(const CellText& change);
     Change reversed(AddedRows change);
     Change reversed(Listbox::TakenRows change);
-    Change reversed(RowOrder change);
+    Change reversed(const RowOrder& change);
     Step reversed(Step step);
 
     Listbox& list_;
