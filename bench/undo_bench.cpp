@@ -57,7 +57,10 @@ void stepBackAndForth(benchmark::State& state, Change change) {
 }
 
 void undo_cell(benchmark::State& state) {
-    stepBackAndForth(state, [](Window1& window) { window.ListBox1.typeInto(manyDays / 2, 3, "7"); });
+    stepBackAndForth(state, [](Window1& window) {
+        window.ListBox1.EditCell(manyDays / 2, 3);
+        window.ListBox1.userTyped("7", 1, 0);
+    });
 }
 
 void undo_new_day(benchmark::State& state) {

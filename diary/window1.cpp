@@ -168,8 +168,6 @@ void Window1::ListBox1_Change() {
     doAverages();
     if (ListBox1.ListCount() == daysShownBold_)
         return;
-    if (ListBox1.ListCount() < daysShownBold_)
-        doubtfulUnit_.reset(); // its row has moved
     showBoldDays();
     noteUnitOfSelected();
 }
@@ -206,7 +204,6 @@ void Window1::ListBox1_CellTextChange(int row, int column) {
 bool Window1::ListBox1_HeaderPressed(int column) {
     ListBox1.beginStep(tr("Sort by %1", {columnName(column)}));
     const bool isSorted = SortKeys::sortBy(ListBox1, column);
-    doubtfulUnit_.reset(); // its row has moved
     showStripWords();
     ListBox1.SetFocus(); // undo is for the table now
     return isSorted;
@@ -265,7 +262,6 @@ void Window1::BevelButton2_Action() {
 /// After a step was undone or redone, which raises no event but that of the selection.
 void Window1::showDaysAnew() {
     twins_.reset();
-    doubtfulUnit_.reset(); // its row may be another one
     doAverages();
     doColWidth();
     showBoldDays();
@@ -291,6 +287,7 @@ void Window1::Timer1_Action() {
     for (Canvas* light : stripLights())
         light->Visible(Globals::gShowIndicators);
     Refresh();
+    showStripWords(); // the limits may be others
 }
 
 void Window1::MidnightTimer_Action() {

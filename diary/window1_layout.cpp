@@ -138,8 +138,10 @@ void Window1::dragTable(int points) {
     const double rows = std::round(static_cast<double>(points) / DayTable::rowHeight);
     if (rows == 0)
         return;
+    const int wanted = wantedTableGrowth_;
+    const int before = tableGrowth_;
     growTable(tableGrowth_ + static_cast<int>(rows) * DayTable::rowHeight);
-    wantedTableGrowth_ = tableGrowth_; // no more than there was room for
+    wantedTableGrowth_ = tableGrowth_ == before ? wanted : tableGrowth_; // no more than there was room for
 }
 
 void Window1::build() {

@@ -12,7 +12,7 @@ namespace tallyvane {
 
 void Window1::showStripWords() {
     if (doubtfulUnit_ && !looksLikeMg(doubtfulUnit_->first, doubtfulUnit_->second))
-        doubtfulUnit_.reset(); // the reading was corrected, or the limits were changed
+        doubtfulUnit_.reset(); // the reading was corrected or has moved, or the limits were changed
     if (twins_ && Finding::rowsOf(ListBox1, *twins_).size() < 2)
         twins_.reset();
     if (twins_)

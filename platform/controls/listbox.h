@@ -240,17 +240,16 @@ public:
     void userTyped(std::string_view text, int selStart, int selLength);
     /// Ends the editing; the cell keeps what was typed.
     void closeCell();
-    /// The cell stays open and keeps what was typed, also if it is reverted later.
-    void confirmCell() { cellsBeforeTyping_.clear(); }
+    /// The cell stays open and keeps what was typed, also if it is reverted later. An undo is for the table then.
+    void confirmCell();
     /// Ends the editing and puts the text back as it was when the cell was opened or confirmed last, and with it the
     /// other cells of the row, which may have followed what was typed. CellTextChange if anything was typed.
     void revertCell();
-    /// The user has undone all that was typed: the other cells of the row follow. The cell stays open.
+    /// The user has undone all that was typed: the other cells of the row follow. The cell stays open. Nothing when
+    /// that was confirmed.
     void revertTyping();
     /// Moves the editing by so many rows, down if positive, as far as there are rows, and selects the whole text.
     void moveCell(int rows);
-    /// The user has typed a text while no cell was open: opens an editable cell with it, in place of what it holds.
-    void typeInto(int row, int column, std::string_view text);
     /// Empties an editable cell, then CellTextChange. False when there was nothing to empty.
     bool clearCell(int row, int column);
     /// Shows a line at the open cell, for a few seconds or until another cell is opened.

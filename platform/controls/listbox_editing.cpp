@@ -31,6 +31,14 @@ void Listbox::EditCell(int row, int column) {
         list_->openCellChanged();
 }
 
+void Listbox::confirmCell() {
+    if (cellsBeforeTyping_.empty())
+        return;
+    cellsBeforeTyping_.clear();
+    if (openRow_ >= 0)
+        activeCell_.Text(std::string(activeCell_.Text())); // its field forgets what could be undone
+}
+
 void Listbox::userTyped(std::string_view text, int selStart, int selLength) {
     if (openRow_ < 0)
         return;
@@ -78,16 +86,6 @@ void Listbox::moveCell(int rows) {
         return;
     EditCell(std::clamp(openRow_ + rows, 0, ListCount() - 1), openColumn_);
     activeCell_.SelectAll();
-}
-
-void Listbox::typeInto(int row, int column, std::string_view text) {
-    if (!contains(row, column) || ColumnType(column) != TypeEditable)
-        return;
-    EditCell(row, column);
-    activeCell_.Text(text);
-    activeCell_.SelStart(Len(text));
-    activeCell_.SelLength(0);
-    userTyped(text, Len(text), 0);
 }
 
 bool Listbox::clearCell(int row, int column) {

@@ -1,9 +1,12 @@
 #include "platform/qt/cell_editor.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
+#include <QMenu>
 
 #include <limits>
+#include <memory>
 
 #include "platform/controls/keys.h"
 #include "platform/qt/event_guard.h"
@@ -90,15 +93,19 @@ void CellEditor::textTyped() {
 }
 
 void CellEditor::undoTyping() {
-    undo();
-    textTyped();
+    undo(); // which the list hears of as of any typing
     if (list_ != nullptr && !isUndoAvailable())
         deliver([this] { list_->revertTyping(); });
 }
 
-void CellEditor::redoTyping() {
-    redo();
-    textTyped();
+/// The standard menu, with the undo of the cell.
+void CellEditor::contextMenuEvent(QContextMenuEvent* event) {
+    const std::unique_ptr<QMenu> menu(createStandardContextMenu());
+    if (auto* item = menu->findChild<QAction*>(QStringLiteral("edit-undo"))) {
+        item->disconnect();
+        connect(item, &QAction::triggered, this, [this] { undoTyping(); });
+    }
+    menu->exec(event->globalPos());
 }
 
 bool CellEditor::raiseKeyDown(const std::string& key) {
@@ -144,6 +151,11 @@ bool CellEditor::event(QEvent* event) {
     if (!open || !isKey)
         return QLineEdit::event(event);
     const auto& key = *static_cast<QKeyEvent*>(event);
+    if (event->type() == QEvent::KeyPress && key.matches(QKeySequence::Undo)) { // by a key that no menu knows
+        undoTyping();
+        event->accept();
+        return true;
+    }
     if (event->type() == QEvent::KeyPress) {
         const bool isUsed = takesKey(key) || (QLineEdit::event(event) && event->isAccepted());
         if (!isUsed && moves(key))

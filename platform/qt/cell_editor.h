@@ -19,10 +19,10 @@ public:
 
     /// Takes back what was typed last, and with the first of it what followed in other cells of the row.
     void undoTyping();
-    void redoTyping();
 
 protected:
     bool event(QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 
 private:

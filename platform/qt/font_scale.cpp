@@ -29,7 +29,7 @@ void setFontSize(double points) {
 double numberOr1(const QByteArray& text) {
     bool isNumber = false;
     const double number = text.toDouble(&isNumber);
-    return isNumber ? number : 1;
+    return isNumber && number > 0 ? number : 1;
 }
 
 /// Programs that are started from here, a browser say, get the environment as the user has set it.

@@ -1,5 +1,6 @@
 #include "platform/qt/listbox_peer.h"
 
+#include <QApplication>
 #include <QClipboard>
 #include <QDropEvent>
 #include <QFile>
@@ -378,8 +379,10 @@ void ListboxPeer::keyPressEvent(QKeyEvent* event) {
 }
 
 /// Writes into the cell with the focus, without opening it first. False for a key that writes nothing.
-bool ListboxPeer::writeByKey(const QKeyEvent& key, const QModelIndex& cell) {
+bool ListboxPeer::writeByKey(QKeyEvent& key, const QModelIndex& cell) {
     if (isShortcut(key) || (key.modifiers() & Qt::AltModifier) != 0)
+        return false;
+    if (control_->ColumnType(cell.column()) != Listbox::TypeEditable)
         return false;
     if (key.key() == Qt::Key_Delete) {
         if (control_->SelectedCount() > 1)
@@ -394,9 +397,10 @@ bool ListboxPeer::writeByKey(const QKeyEvent& key, const QModelIndex& cell) {
     }
     const QString text = key.text();
     const bool isDigit = text.size() == 1 && text.front() >= u'0' && text.front() <= u'9';
-    if (!isDigit || control_->ColumnType(cell.column()) != Listbox::TypeEditable)
+    if (!isDigit)
         return false;
-    deliver([&] { control_->typeInto(cell.row(), cell.column(), fromQt(text)); });
+    deliver([&] { control_->EditCell(cell.row(), cell.column()); });
+    QApplication::sendEvent(editor_, &key); // in place of the text, which is all selected
     return true;
 }
 

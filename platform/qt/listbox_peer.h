@@ -80,7 +80,7 @@ private:
     void drop(const QMimeData& content);
     void drop(const DragItem& item);
     void pressKey(int key, const QModelIndex& cell);
-    bool writeByKey(const QKeyEvent& key, const QModelIndex& cell);
+    bool writeByKey(QKeyEvent& key, const QModelIndex& cell);
     void nameEditor();
     void placeEditor();
     void drawEmptyText(QPainter& painter) const;

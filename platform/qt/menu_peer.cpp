@@ -57,11 +57,8 @@ void editList(ListboxPeer& list, MenuRole role) {
 
 /// The standard editing action on a field of text or a list; nothing on any other control.
 void edit(QWidget* focus, MenuRole role) {
-    auto* cell = dynamic_cast<CellEditor*>(focus);
-    if (cell != nullptr && role == MenuRole::undo)
+    if (auto* cell = dynamic_cast<CellEditor*>(focus); cell != nullptr && role == MenuRole::undo)
         cell->undoTyping();
-    else if (cell != nullptr && role == MenuRole::redo)
-        cell->redoTyping();
     else if (auto* line = qobject_cast<QLineEdit*>(focus))
         editField(*line, role);
     else if (auto* text = qobject_cast<QPlainTextEdit*>(focus))
@@ -87,12 +84,18 @@ public:
     BeforeShortcuts(std::function<void()> action, QObject* parent) : QObject(parent), action_(std::move(action)) {}
 
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::ShortcutOverride && watched == QApplication::focusWidget())
+        if (event->type() == QEvent::ShortcutOverride && isFirst(watched))
             action_();
         return false;
     }
 
 private:
+    /// The event climbs up from the widget with the focus, if there is one.
+    static bool isFirst(const QObject* watched) {
+        const QWidget* focus = QApplication::focusWidget();
+        return focus == nullptr || watched == focus;
+    }
+
     std::function<void()> action_;
 };
 

@@ -4,8 +4,8 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
-#include <QTextBlock>
 
+#include <algorithm>
 #include <limits>
 #include <memory>
 
@@ -124,13 +124,20 @@ void TextAreaPeer::apply(Property property) {
     shown_ = control_->Text();
     const QSignalBlocker quiet(this);
     setPlainText(tallyvane::toQt(shown_));
+    setExtraSelections({});
 }
 
 void TextAreaPeer::replaceSelection(std::string_view text) { textCursor().insertText(tallyvane::toQt(text)); }
 
-/// Not by a selection, which the next key would overwrite.
+/// Not by a selection, which the next key would overwrite. A line of the text is not always a block of Qt's: Shift and
+/// Return end a line within one.
 void TextAreaPeer::pointOutLine(int number) {
-    QTextCursor cursor(document()->findBlockByNumber(number));
+    const QString text = tallyvane::toQt(control_->Text());
+    qsizetype start = 0;
+    for (int line = 0; line < number; ++line)
+        start = text.indexOf(u'\n', start) + 1;
+    QTextCursor cursor(document());
+    cursor.setPosition(std::min(static_cast<int>(start), document()->characterCount() - 1));
     setTextCursor(cursor);
     ensureCursorVisible();
     QTextEdit::ExtraSelection line;

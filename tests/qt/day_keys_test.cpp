@@ -106,6 +106,37 @@ TEST_F(DayKeysTest, AnUndoInTheCellLeavesNoAverageBehind) {
     EXPECT_EQ(list().Cell(3, 1) + " " + list().Cell(3, 8), "5 5.0");
 }
 
+TEST_F(DayKeysTest, AFigureTypedOnACellCanBeUndoneAndRedoneThere) {
+    goTo(1, 1);
+    key(Qt::Key_8);
+    key(Qt::Key_1);
+    key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(list().Cell(1, 1), "6");
+    EXPECT_EQ(list().Cell(1, 8), "6.0");
+    key(Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(list().Cell(1, 1), "81");
+}
+
+TEST_F(DayKeysTest, WhatWasConfirmedAtTheEdgeIsUndoneInTheTable) {
+    click(0, 1);
+    key(Qt::Key_9);
+    key(Qt::Key_Up); // stays, with a beep
+    key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(firstReadings(), (Texts{"5", "6", "7"}));
+}
+
+TEST_F(DayKeysTest, ALineOfTheJournalIsPointedOutAlsoBehindAShiftedReturn) {
+    journal()->setFocus();
+    QTest::keyClicks(journal(), "walk");
+    key(Qt::Key_Return, Qt::ShiftModifier);
+    QTest::keyClicks(journal(), "soup");
+    EXPECT_TRUE(app_->windows().main->JournalFld.showLine(1, "soup"));
+    EXPECT_EQ(journal()->textCursor().position(), 5);
+    EXPECT_EQ(journal()->extraSelections().size(), 1);
+    key(Qt::Key_Right);
+    EXPECT_TRUE(journal()->extraSelections().isEmpty());
+}
+
 TEST_F(DayKeysTest, KeysForSomethingElseWriteNoReading) {
     goTo(0, 1);
     key(Qt::Key_1, Qt::ControlModifier);
