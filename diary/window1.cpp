@@ -202,7 +202,8 @@ void Window1::ListBox1_CellTextChange(int row, int column) {
 }
 
 bool Window1::ListBox1_HeaderPressed(int column) {
-    ListBox1.beginStep(tr("Sort by %1", {columnName(column)}));
+    if (column >= 0 && column < DayTable::visibleColumns)
+        ListBox1.beginStep(tr("Sort by %1", {columnName(column)}));
     const bool isSorted = SortKeys::sortBy(ListBox1, column);
     showStripWords();
     ListBox1.SetFocus(); // undo is for the table now
