@@ -71,6 +71,8 @@ for line in 'Tallyvane Report' 'Medication: Metformin 500 mg at noon' 'Exercise:
     grep -qxF "$line" "$home/lines.txt" || fail "not in the report: $line"
 done
 grep -q '^Averages: ' "$home/lines.txt" || fail "no averages"
+grep -qE "^Averages of $(wc -l <"$readings") selected days, [0-9-]+ to [0-9-]+$" "$home/lines.txt" ||
+    fail "the report does not say whose averages it has"
 
 in_front
 xdotool key ctrl+q
