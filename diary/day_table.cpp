@@ -41,10 +41,13 @@ std::string columnWidths(int rows, int listHeight) {
 }
 
 void addDay(Listbox& table, const Date& day) {
+    table.beginStep(nameOfAdding(day));
     table.AddRow(day.ShortDate());
     table.ListIndex(table.LastIndex());
     table.EditCell(table.LastIndex(), firstReading);
 }
+
+std::string nameOfAdding(const Date& day) { return tr("New Day %1", {day.ShortDate()}); }
 
 void save(const Listbox& table) { UnsavedFiles::save(userFile(), textOf(table)); }
 

@@ -30,8 +30,10 @@ void setUp(Listbox& table);
 /// Widths of the visible columns: the last one is wider while the rows need no scroll bar in a list of that height.
 std::string columnWidths(int rows, int listHeight);
 
-/// Appends a day, selects it alone and opens its first reading.
+/// Appends a day, selects it alone and opens its first reading. A step of its own, of the name below.
 void addDay(Listbox& table, const Date& day);
+
+std::string nameOfAdding(const Date& day);
 
 /// Replaces "7VXData" in the data folder by the table's rows in their present order. Without that folder, or when the
 /// file can't be opened, the rows wait among the unsaved files; so they do when the disk fails, which throws

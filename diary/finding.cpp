@@ -12,7 +12,7 @@ namespace tallyvane::Finding {
 
 namespace {
 
-constexpr double secondsOfDay = 24 * 60 * 60;
+constexpr double secondsPerDay = 24 * 60 * 60;
 
 const std::string& keyOf(const Listbox& table, int row) { return table.Cell(row, DayTable::firstKey); }
 
@@ -30,7 +30,7 @@ struct KeyRange {
 };
 
 Date daysLater(const Date& day, int days) {
-    return Date::ofTotalSeconds(KeyRange::startOf(day).TotalSeconds() + days * secondsOfDay);
+    return Date::ofTotalSeconds(KeyRange::startOf(day).TotalSeconds() + days * secondsPerDay);
 }
 
 } // namespace
@@ -103,6 +103,12 @@ Period monthOf(const Date& day) {
     const Date first(day.Year(), day.Month(), 1);
     const Date inNext = daysLater(first, 31);
     return {first, daysLater(Date(inNext.Year(), inNext.Month(), 1), -1)};
+}
+
+Period weeksAround(const Date& month) {
+    constexpr int week = 7;
+    const Date first = monthOf(month).first;
+    return {daysLater(first, -week), daysLater(first, 6 * week)};
 }
 
 Period monthBefore(const Date& day) { return monthOf(daysLater(Date(day.Year(), day.Month(), 1), -1)); }

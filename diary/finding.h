@@ -40,5 +40,7 @@ std::vector<Date> daysIn(const Listbox& table, const Period& period);
 Period lastDays(int days, const Date& today);
 Period monthOf(const Date& day);
 Period monthBefore(const Date& day);
+/// The days that can be seen beside those of a month in its calendar: a week before it, six from its first day on.
+Period weeksAround(const Date& month);
 
 } // namespace tallyvane::Finding

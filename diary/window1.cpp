@@ -30,8 +30,7 @@ Window1::~Window1() = default;
 
 void Window1::Event_Open() {
     getWindowData();
-    savedTableGrowth_ = WindowData::loadTableGrowth();
-    growTable(savedTableGrowth_);
+    growTable(WindowData::loadTableGrowth());
     getHeadings();
     getData();
     getLogs();
@@ -94,9 +93,8 @@ void Window1::saveWindowData() { WindowData::save({Left(), Top(), Width(), Heigh
 
 /// A table that has its first height has no file, until it had another.
 void Window1::saveTableGrowth() {
-    if (wantedTableGrowth_ != savedTableGrowth_)
+    if (wantedTableGrowth_ != WindowData::loadTableGrowth())
         WindowData::saveTableGrowth(wantedTableGrowth_);
-    savedTableGrowth_ = wantedTableGrowth_;
 }
 
 void Window1::getWindowData() {
@@ -130,7 +128,7 @@ void Window1::doAverages() {
         doSelectedAverages();
     else
         fillStrip(averages_.sumsOfAll());
-    showStripWords();
+    notes_.update();
 }
 
 void Window1::doRowAverages() { averages_.updateRows(); }
@@ -164,12 +162,12 @@ void Window1::doColWidth() { ListBox1.ColumnWidths(DayTable::columnWidths(ListBo
 void Window1::ListBox1_Open() { DayTable::setUp(ListBox1); }
 
 void Window1::ListBox1_Change() {
-    twins_.reset();
+    notes_.forgetAdded();
     doAverages();
     if (ListBox1.ListCount() == daysShownBold_)
         return;
     showBoldDays();
-    noteUnitOfSelected();
+    notes_.noteSelectedReadings();
 }
 
 bool Window1::ListBox1_CellClick(int row, int column, int /*x*/, int /*y*/) {
@@ -179,7 +177,7 @@ bool Window1::ListBox1_CellClick(int row, int column, int /*x*/, int /*y*/) {
     dateWindow_->dateChanged = [this] {
         doSortColumns();
         showBoldDays();
-        showStripWords();
+        notes_.update();
     };
     dateWindow_->Open();
     if (const std::optional<Date> date = ParseDate(ListBox1.Cell(row, column)))
@@ -198,14 +196,14 @@ void Window1::ListBox1_CellTextChange(int row, int column) {
     else
         doAverages();
     if (column >= DayTable::firstReading && column <= DayTable::lastReading)
-        noteUnit(row, column);
+        notes_.noteReading(row, column);
 }
 
 bool Window1::ListBox1_HeaderPressed(int column) {
     if (column >= 0 && column < DayTable::visibleColumns)
         ListBox1.beginStep(tr("Sort by %1", {columnName(column)}));
     const bool isSorted = SortKeys::sortBy(ListBox1, column);
-    showStripWords();
+    notes_.update();
     ListBox1.SetFocus(); // undo is for the table now
     return isSorted;
 }
@@ -235,14 +233,11 @@ std::string Window1::columnName(int column) const {
 
 // Days
 
-std::string Window1::nameOfAdding(const Date& day) { return tr("New Day %1", {day.ShortDate()}); }
-
 void Window1::addDay() {
-    ListBox1.beginStep(nameOfAdding(CalendarControl1.SelectedDate()));
     DayTable::addDay(ListBox1, CalendarControl1.SelectedDate());
     doSortColumns();
     showBoldDays();
-    noteTwins(CalendarControl1.SelectedDate());
+    notes_.noteAdded(CalendarControl1.SelectedDate());
 }
 
 void Window1::BevelButton1_Action() {
@@ -262,7 +257,7 @@ void Window1::BevelButton2_Action() {
 
 /// After a step was undone or redone, which raises no event but that of the selection.
 void Window1::showDaysAnew() {
-    twins_.reset();
+    notes_.forgetAdded();
     doAverages();
     doColWidth();
     showBoldDays();
@@ -288,7 +283,7 @@ void Window1::Timer1_Action() {
     for (Canvas* light : stripLights())
         light->Visible(Globals::gShowIndicators);
     Refresh();
-    showStripWords(); // the limits may be others
+    notes_.update(); // the limits may be others
 }
 
 void Window1::MidnightTimer_Action() {

@@ -7,13 +7,13 @@
 
 #include "auto_button/auto_button.h"
 #include "diary/averages.h"
+#include "diary/day_table.h"
 #include "diary/finding.h"
 #include "diary/search.h"
+#include "diary/strip_notes.h"
 #include "platform/controls/divider.h"
-#include "platform/controls/list_history.h"
 #include "platform/windows/window.h"
 #include "settings/headings.h"
-#include "settings/usual_limits.h"
 
 namespace tallyvane {
 
@@ -118,8 +118,8 @@ public:
     void BevelButton1_Action();
     void BevelButton2_Action();
     void CalendarControl1_DayDoubleClicked();
-    void JournalFld_TextChange();
     void CalendarControl1_DayClicked();
+    void JournalFld_TextChange();
     void DaysGoTo_Action();
     void DaysToday_Action();
     void DaysFind_Action();
@@ -150,18 +150,9 @@ private:
     void selectRows(const std::vector<bool>& rows);
     void showBoldDays();
 
-    // The line beside the journal's tab
-    void showStripWords();
-    void noteTwins(const Date& day);
-    void showTwins();
-    static std::string nameOfAdding(const Date& day);
-    void noteUnit(int row, int column);
-    void noteUnitOfSelected();
-    bool looksLikeMg(int row, int column) const;
-    void showDoubtfulUnit();
-
     void growTable(int points);
     void dragTable(int points);
+    int tableGrowth() const { return ListBox1.Height() - listHeight; }
     void saveTableGrowth();
     void fillStrip(const Averages::Sums& sums);
 
@@ -172,16 +163,12 @@ private:
     std::array<Canvas*, 8> stripLights();
 
     Averages averages_{ListBox1};
-    ListHistory history_{ListBox1};
+    ListHistory history_{ListBox1, DayTable::visibleColumns};
     std::unique_ptr<DateWindow> dateWindow_;
     std::unique_ptr<GoToDayWindow> goToDayWindow_;
     std::unique_ptr<FindWindow> findWindow_;
-    std::optional<Date> twins_; // the day that the line tells to be in the table more than once
-    int tableGrowth_ = 0; // points that the table is higher than at first
-    int wantedTableGrowth_ = 0; // as it was dragged, also while the window has no room for it
-    int savedTableGrowth_ = 0;
-    std::optional<std::pair<int, int>> doubtfulUnit_; // row and column of a reading that the line tells of
-    bool unitIsTold_ = false;
+    StripNotes notes_{StripLine, ListBox1, history_};
+    int wantedTableGrowth_ = 0; // as the table was dragged, also while the window has no room for it
     int daysShownBold_ = 0; // how many rows there were when the calendar was told of its bold days
     Date today_; // as the calendar last knew it
 };

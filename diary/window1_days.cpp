@@ -17,7 +17,7 @@ bool Window1::goToDay(const Date& day) {
     if (row) {
         ListBox1.closeCell();
         ListBox1.markRow(*row);
-        showStripWords();
+        notes_.update();
     }
     return row.has_value();
 }
@@ -78,7 +78,7 @@ void Window1::selectPeriod(const Finding::Period& period) {
     const std::vector<bool> rows = Finding::rowsIn(ListBox1, period);
     if (std::find(rows.begin(), rows.end(), true) == rows.end()) {
         ListBox1.select({});
-        StripLine.show(tr("There are no days from %1 to %2.", {period.first.ShortDate(), period.second.ShortDate()}));
+        notes_.tell(tr("There are no days from %1 to %2.", {period.first.ShortDate(), period.second.ShortDate()}));
         return;
     }
     selectRows(rows);
@@ -86,7 +86,7 @@ void Window1::selectPeriod(const Finding::Period& period) {
 
 void Window1::selectRows(const std::vector<bool>& rows) {
     ListBox1.select(rows);
-    showStripWords();
+    notes_.update();
     ListBox1.bringIntoView(ListBox1.ListIndex());
     ListBox1.SetFocus();
 }
@@ -116,17 +116,11 @@ void Window1::CalendarControl1_DayClicked() {
     if (goToDay(day))
         return;
     ListBox1.markRow(-1);
-    StripLine.show(tr("%1 is not in the table. A double click adds it.", {day.ShortDate()}));
+    notes_.tell(tr("%1 is not in the table. A double click adds it.", {day.ShortDate()}));
 }
 
 void Window1::showBoldDays() {
-    const Date& month = CalendarControl1.ShownMonth();
-    const Finding::Period before = Finding::monthBefore(month);
-    const Finding::Period shown = Finding::monthOf(month);
-    // Days of the months before and after it are seen, too.
-    constexpr int daysInSixWeeks = 42;
-    const Date last = Date::ofTotalSeconds(shown.first.TotalSeconds() + daysInSixWeeks * 24.0 * 60 * 60);
-    CalendarControl1.BoldDays(Finding::daysIn(ListBox1, {before.first, last}));
+    CalendarControl1.BoldDays(Finding::daysIn(ListBox1, Finding::weeksAround(CalendarControl1.ShownMonth())));
     daysShownBold_ = ListBox1.ListCount();
 }
 

@@ -12,7 +12,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace tallyvane {
 
@@ -117,7 +116,7 @@ void Window1::growTable(int points) {
     const int most = std::max(0, Height() - windowHeight + belowCalendar);
     const int rows = std::clamp(points, least, most) / DayTable::rowHeight;
     wantedTableGrowth_ = points;
-    const int by = rows * DayTable::rowHeight - std::exchange(tableGrowth_, rows * DayTable::rowHeight);
+    const int by = rows * DayTable::rowHeight - tableGrowth();
     if (by == 0)
         return;
     reframe([by](const Placement& placement) {
@@ -139,9 +138,9 @@ void Window1::dragTable(int points) {
     if (rows == 0)
         return;
     const int wanted = wantedTableGrowth_;
-    const int before = tableGrowth_;
-    growTable(tableGrowth_ + static_cast<int>(rows) * DayTable::rowHeight);
-    wantedTableGrowth_ = tableGrowth_ == before ? wanted : tableGrowth_; // no more than there was room for
+    const int before = tableGrowth();
+    growTable(before + static_cast<int>(rows) * DayTable::rowHeight);
+    wantedTableGrowth_ = tableGrowth() == before ? wanted : tableGrowth(); // no more than there was room for
 }
 
 void Window1::build() {
@@ -207,6 +206,19 @@ void Window1::wire() {
     menuHandlers = daysMenu();
     handleUndoItems(
         *this, [this]() -> ListHistory& { return history_; }, [this] { showDaysAnew(); });
+    notes_.goToDay = [this](const Date& day) {
+        goToDay(day);
+        ListBox1.SetFocus();
+    };
+    notes_.undo = [this] {
+        menuHandlers.at("EditUndo")();
+        ListBox1.SetFocus();
+    };
+    notes_.offerLimits = [this](const UsualLimits::Limits& limits) {
+        if (offerLimits)
+            offerLimits(limits);
+    };
+    notes_.dismissed = [this] { ListBox1.SetFocus(); };
     ListBox1.CellClick = [this](int row, int column, int x, int y) { return ListBox1_CellClick(row, column, x, y); };
     ListBox1.CellKeyDown = [this](int row, int column, const std::string& key) {
         return ListBox1_CellKeyDown(row, column, key);

@@ -176,6 +176,8 @@ void InfoWindow::AutoButton4_Action() {
     ListBox2.RemoveRow(ListBox2.ListIndex());
 }
 
+void InfoWindow::Canvas1_Action() { ListboxPrintAll().print(ListBox2, true); }
+
 // Undo
 
 void InfoWindow::Event_EnableMenuItems(MenuBar& menuBar) { enableUndoItems(menuBar, historyInFront()); }
@@ -186,7 +188,5 @@ void InfoWindow::showListsAnew() {
     ListBox1_Change();
     ListBox2_Change();
 }
-
-void InfoWindow::Canvas1_Action() { ListboxPrintAll().print(ListBox2, true); }
 
 } // namespace tallyvane

@@ -136,15 +136,22 @@ void PrefsWindow::lightsChanged() {
         startIndicatorTimer();
 }
 
-void PrefsWindow::useLimits(const UsualLimits::Limits& limits) {
+void PrefsWindow::useLimits(const UsualLimits::Limits& usual) {
     const UsualLimits::Limits before = UsualLimits::present();
-    if (before == limits)
+    if (before == usual)
         return;
-    UsualLimits::use(limits);
+    if (!ownLimits_ || (before != UsualLimits::inMmol && before != UsualLimits::inMg))
+        ownLimits_ = before;
+    UsualLimits::use(usual);
     showLimits();
-    LimitsBefore.show(
-        tr("Before: %1, %2, %3 and %4.", {Str(before.over), Str(before.caution), Str(before.low), Str(before.under)}),
-        {{tr("Put them back"), [this, before] { useLimits(before); }}});
+    const auto& [over, caution, low, under] = *ownLimits_;
+    const auto putBack = [this, own = *ownLimits_] {
+        UsualLimits::use(own);
+        showLimits();
+        LimitsBefore.show("");
+    };
+    LimitsBefore.show(tr("Before: %1, %2, %3 and %4.", {Str(over), Str(caution), Str(low), Str(under)}),
+                      {{tr("Put them back"), putBack}});
 }
 
 void PrefsWindow::showLimits() {

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 
 #include "platform/windows/window.h"
 #include "settings/usual_limits.h"
@@ -24,7 +25,7 @@ public:
     StaticText StaticText7; // the units
     PushButton PushButton1; // OK
     PushButton PushButton2, PushButton3; // the usual limits in mmol/L, in mg/dL
-    LinkLine LimitsBefore; // those that a press of the last two has replaced
+    LinkLine LimitsBefore; // the user's own, once a press of the last two has replaced them
     Timer Timer1; // saves and closes
 
     /// Starts the main window's timer, which repaints the lights a moment later.
@@ -33,8 +34,8 @@ public:
     /// Throws IOException when the disk fails, and stays open.
     void Event_Close() override;
 
-    /// Replaces all four limits, and offers a way back to those that were there.
-    void useLimits(const UsualLimits::Limits& limits);
+    /// Replaces all four limits by usual ones, and offers a way back to the user's own.
+    void useLimits(const UsualLimits::Limits& usual);
 
     void EditField_Open(std::size_t field);
     bool EditField_KeyDown(const std::string& key);
@@ -50,6 +51,8 @@ private:
     void wire();
     void lightsChanged();
     void showLimits();
+
+    std::optional<UsualLimits::Limits> ownLimits_; // that the usual ones have replaced
 };
 
 } // namespace tallyvane

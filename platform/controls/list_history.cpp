@@ -1,6 +1,7 @@
 #include "platform/controls/list_history.h"
 
 #include <algorithm>
+#include <iterator>
 #include <numeric>
 
 #include "platform/base/scoped_flag.h"
@@ -11,7 +12,7 @@ namespace tallyvane {
 // Recording
 
 void ListHistory::beginStep(std::string name) {
-    done_.erase(done_.begin() + static_cast<std::ptrdiff_t>(lastEffective()), done_.end());
+    dropIdleSteps();
     done_.push_back({std::move(name), view(), {}});
     if (done_.size() > mostSteps)
         done_.pop_front();
@@ -65,21 +66,29 @@ std::size_t ListHistory::lastEffective() const {
     return count;
 }
 
+/// Drops the steps after the last that makes a difference; what they changed unseen goes with that one.
+void ListHistory::dropIdleSteps() {
+    const std::size_t count = lastEffective();
+    for (std::size_t idle = count; count > 0 && idle < done_.size(); ++idle)
+        std::move(done_[idle].changes.begin(), done_[idle].changes.end(), std::back_inserter(done_[count - 1].changes));
+    done_.erase(done_.begin() + static_cast<std::ptrdiff_t>(count), done_.end());
+}
+
 bool ListHistory::isEffective(const Step& step) const {
     return std::any_of(step.changes.begin(), step.changes.end(), [this](const Change& change) {
         const auto* cell = std::get_if<CellText>(&change);
-        return cell == nullptr || list_.Cell(cell->row, cell->column) != cell->text;
+        return cell == nullptr || (cell->column < columns_ && list_.Cell(cell->row, cell->column) != cell->text);
     });
 }
 
 // Undo and redo
 
 void ListHistory::undo() {
-    const std::size_t count = lastEffective();
-    if (count == 0)
+    dropIdleSteps();
+    if (done_.empty())
         return;
-    Step step = std::move(done_[count - 1]);
-    done_.erase(done_.begin() + static_cast<std::ptrdiff_t>(count - 1), done_.end());
+    Step step = std::move(done_.back());
+    done_.pop_back();
     undone_.push_back(reversed(std::move(step)));
 }
 
@@ -88,7 +97,7 @@ void ListHistory::redo() {
         return;
     Step step = std::move(undone_.back());
     undone_.pop_back();
-    done_.erase(done_.begin() + static_cast<std::ptrdiff_t>(lastEffective()), done_.end());
+    dropIdleSteps();
     done_.push_back(reversed(std::move(step)));
 }
 

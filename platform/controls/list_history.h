@@ -25,8 +25,10 @@ class ListHistory : public Listbox::Recorder {
 public:
     static constexpr std::size_t mostSteps = 5000;
 
-    /// Records the list from here on. The list must outlive the history.
-    explicit ListHistory(Listbox& list) : list_(list) { list.record(this); }
+    /// Records the list from here on. The list must outlive the history. A step that changes texts only past so many
+    /// columns is none to the user, and goes with the one before it.
+    explicit ListHistory(Listbox& list, int columns) : list_(list), columns_(columns) { list.record(this); }
+    explicit ListHistory(Listbox& list) : ListHistory(list, list.ColumnCount()) {}
     ListHistory(const ListHistory&) = delete;
     ListHistory& operator=(const ListHistory&) = delete;
     ~ListHistory() override { list_.record(nullptr); }
@@ -78,6 +80,7 @@ private:
     static constexpr int noRow = std::numeric_limits<int>::max();
 
     std::size_t lastEffective() const;
+    void dropIdleSteps();
     bool isEffective(const Step& step) const;
     View view() const;
     void show(const View& view);
@@ -90,6 +93,7 @@ private:
     Step reversed(Step step);
 
     Listbox& list_;
+    int columns_;
     std::deque<Step> done_; // the changes of each in the order of their making, so they are undone from the last on
     std::vector<Step> undone_; // these are made again from the last on, too
     // Of the last step done, since rows of it came or went:

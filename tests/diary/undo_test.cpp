@@ -82,6 +82,13 @@ std::string fileOf(const std::vector<Texts>& rows) {
     return file;
 }
 
+/// What the user sees of the rows.
+std::vector<Texts> seen(Copy copy) {
+    for (Texts& cells : copy.rows)
+        cells.resize(10);
+    return copy.rows;
+}
+
 TEST_F(UndoTest, RandomChangesAreUndoneAndRedoneToTheLastByte) {
     std::ifstream source(TEST_DATA "/patient-20.csv");
     std::string file;
@@ -139,7 +146,7 @@ TEST_F(UndoTest, RandomChangesAreUndoneAndRedoneToTheLastByte) {
         // Rows of the same texts may have changed places.
         const std::vector<std::uint64_t> now = revisions();
         const bool isSorted = now != order && std::is_permutation(now.begin(), now.end(), order.begin(), order.end());
-        if (copy().rows != before.rows || isSorted)
+        if (seen(copy()) != seen(before) || isSorted)
             done.push_back(before);
         if (items()[1] == "-") // also after a change that was taken back at once
             undone.clear();

@@ -93,6 +93,22 @@ TEST_F(ListHistoryTest, NoStepIsRedoneOnRowsThatHaveMoved) {
     EXPECT_EQ(columnOf(list_, 0), (Texts{"b", "a"}));
 }
 
+TEST_F(ListHistoryTest, WhatTheUserDoesNotSeeGoesWithTheStepBefore) {
+    Listbox list(2);
+    ListHistory history(list, 1);
+    list.AddRow("a");
+    list.Cell(0, 1, "key of a");
+    list.beginStep("seen");
+    list.Cell(0, 0, "b");
+    list.beginStep("unseen");
+    list.Cell(0, 1, "key of b");
+    EXPECT_EQ(history.undoName(), "seen");
+    history.undo();
+    EXPECT_EQ(list.Cell(0, 0) + list.Cell(0, 1), "akey of a");
+    history.redo();
+    EXPECT_EQ(list.Cell(0, 1), "key of b");
+}
+
 TEST_F(ListHistoryTest, RowsComeBackWithAllThatBelongsToThem) {
     list_.SelectionType(Listbox::SelectionTypes::multiple);
     list_.CellBold(1, 0, true);

@@ -135,11 +135,13 @@ TEST_F(PrefsWindowTest, TheUsualLimitsComeByOneButtonAndGoByOneLink) {
     EXPECT_EQ(Globals::gUnder, 54);
     EXPECT_GT(timerStarts_, 0);
     EXPECT_EQ(prefs_.LimitsBefore.Text(), "Before: 13, 9.5, 5 and 3.");
+    prefs_.PushButton2.Action();
+    EXPECT_EQ(shown(), (Texts{"13.9", "10", "3.9", "3"}));
+    EXPECT_EQ(prefs_.LimitsBefore.Text(), "Before: 13, 9.5, 5 and 3."); // the user's own still
     prefs_.LimitsBefore.userPressed(0);
     EXPECT_EQ(shown(), (Texts{"13", "9.5", "5", "3"}));
     EXPECT_EQ(Globals::gCaution, 9.5);
-    prefs_.PushButton2.Action();
-    EXPECT_EQ(shown(), (Texts{"13.9", "10", "3.9", "3"}));
+    EXPECT_EQ(prefs_.LimitsBefore.Text(), "");
 }
 
 } // namespace
