@@ -59,7 +59,7 @@ std::optional<TextInputStream> openText(const std::optional<FolderItem>& file) {
 }
 
 std::optional<TextOutputStream> createText(const std::optional<FolderItem>& file) {
-    return file ? TextOutputStream::Create(*file) : std::nullopt;
+    return file ? TextOutputStream::Create(*file, Replacement::Recorded::always) : std::nullopt;
 }
 
 } // namespace tallyvane::DataFiles

@@ -5,6 +5,7 @@
 #include "platform/base/date.h"
 #include "platform/base/text.h"
 #include "platform/base/translation.h"
+#include "platform/files/replacement.h"
 #include "platform/files/system_files.h"
 #include "settings/data_files.h"
 #include "settings/unsaved_files.h"
@@ -124,7 +125,7 @@ std::optional<Failure> putInPlace(const Rescued& file) {
     const UnsavedFiles::UserFile target{file.what, file.name, GetFolderItem(file.place), false};
     try {
         UnsavedFiles::backUpCurrent(file.place, *content);
-        SystemFiles::write(file.place, *content);
+        writeFile(file.place, *content);
     } catch (const IOException& failure) { // it is shown all the same, and saved as soon as that is possible
         UnsavedFiles::addUnsaved(target, *content, failure.why());
         const std::string keptAt = settle(file);

@@ -3,6 +3,7 @@
 #include <array>
 #include <string_view>
 
+#include "platform/files/replacement.h"
 #include "platform/files/system_files.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
@@ -41,7 +42,7 @@ std::optional<std::string> snapshotsFolder() {
 /// Skips a file that does not exist; throws for one that exists and can't be read.
 void copyIfThere(const std::string& from, const std::string& to) {
     if (const std::optional<std::string> content = SystemFiles::read(from))
-        SystemFiles::write(to, *content);
+        writeFile(to, *content, Replacement::Recorded::unlessNew); // what is cut off is no set yet
     else if (SystemFiles::kindOf(from) == SystemFiles::Kind::file)
         throw IOException("can't read " + from);
 }
@@ -59,7 +60,7 @@ void copyAll(const std::string& source, const std::string& target) {
     for (const std::string_view name : innerFiles)
         copyIfThere(fileIn(fileIn(source, inner), name), fileIn(fileIn(target, inner), name));
     if (!tableFolder().empty())
-        SystemFiles::write(fileIn(target, tableFolderFile), tableFolder());
+        writeFile(fileIn(target, tableFolderFile), tableFolder(), Replacement::Recorded::unlessNew);
 }
 
 /// Counts the lines that are not empty and have a line end.
@@ -97,7 +98,7 @@ void take(const Date& today) {
         SystemFiles::removeFolder(unfinished);
         return;
     }
-    if (SystemFiles::rename(unfinished, set))
+    if (SystemFiles::rename(unfinished, set) && SystemFiles::flushFolderOf(set))
         SnapshotSets::removeOld(*folder, today);
     else
         SystemFiles::removeFolder(unfinished);
@@ -136,7 +137,7 @@ void restore(const Copy& copy) {
     const std::optional<std::string> days = SystemFiles::read(copy.path);
     if (!days)
         throw IOException("can't read " + copy.path);
-    SystemFiles::write(tablePath(), *days);
+    writeFile(tablePath(), *days);
 }
 
 } // namespace tallyvane::Snapshots

@@ -6,6 +6,7 @@
 
 #include "platform/base/date.h"
 #include "platform/base/translation.h"
+#include "platform/files/replacement.h"
 #include "platform/files/system_files.h"
 #include "settings/data_files.h"
 
@@ -58,7 +59,7 @@ std::optional<std::string> writeOrReason(const std::optional<FolderItem>& place,
         return tr("the desktop has no folder for it");
     const std::string& path = place->AbsolutePath();
     std::string why;
-    if (const auto file = SystemFiles::Replacement::open(path, &why)) {
+    if (const auto file = Replacement::open(path, Replacement::Recorded::always, &why)) {
         file->replace(text);
         return std::nullopt;
     }
@@ -165,7 +166,7 @@ std::optional<FolderItem> saveInto(const FolderItem& folder, const std::string& 
     const std::string list = target->AbsolutePath() + "/" + std::string(listName);
     bool isAnySafe = false;
     try {
-        SystemFiles::write(list, listOf(files));
+        writeFile(list, listOf(files));
     } catch (const IOException&) {
         SystemFiles::removeEmptyFolder(target->AbsolutePath());
         return std::nullopt;
@@ -174,7 +175,7 @@ std::optional<FolderItem> saveInto(const FolderItem& folder, const std::string& 
         const std::string path = target->AbsolutePath() + "/" + unsaved.file.name;
         SystemFiles::makeFolders(folderOf(path));
         try {
-            SystemFiles::write(path, unsaved.text);
+            writeFile(path, unsaved.text);
             forget(unsaved.file);
             isAnySafe = true;
         } catch (const IOException&) { // it goes on waiting
@@ -202,7 +203,7 @@ std::string writeNewCopy(const FolderItem& folder, const std::string& name, cons
             return "";
         if (place->Exists())
             continue;
-        SystemFiles::write(place->AbsolutePath(), text);
+        writeFile(place->AbsolutePath(), text);
         return place->AbsolutePath();
     }
 }

@@ -8,6 +8,7 @@
 #include "platform/base/translation.h"
 #include "platform/desktop/desktop.h"
 #include "platform/files/save_each.h"
+#include "platform/files/save_record.h"
 #include "platform/windows/quit.h"
 #include "reports/diary_report.h"
 #include "settings/data_files.h"
@@ -66,6 +67,7 @@ App::~App() {
     PrefsModule::createMainWindow = nullptr;
     beforeEnd = nullptr;
     StartUpManager::primaryWindow = nullptr;
+    SaveRecords::useFolder("");
 }
 
 // Start
@@ -80,7 +82,9 @@ void App::Event_Open() {
     }
     if (listenForSecondStart)
         listenForSecondStart();
+    SaveRecords::useFolder(folder ? folder->AbsolutePath() : "");
     const auto mayWriteIn = [this](const std::optional<FolderItem>& place) { return lock(place); };
+    finishedSaves_ = UnfinishedSaves::finishAll(mayWriteIn);
     if (!UnsavedWork::offerRescued(mayWriteIn)) { // before anything is read
         Quit(1);
         return;
@@ -96,6 +100,7 @@ void App::Event_Open() {
     };
     windows_.splash->handedOver = [this] {
         reportMissingDataFolder();
+        UnsavedWork::reportFinished(finishedSaves_);
         UnsavedWork::reportUnreadable();
         reportKeptJournal();
         startMessagesShown_ = true;

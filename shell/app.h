@@ -17,6 +17,7 @@
 #include "records/logs_window.h"
 #include "settings/edit_headings.h"
 #include "settings/prefs_window.h"
+#include "settings/unfinished_saves.h"
 #include "shell/about_window.h"
 #include "shell/new_version_window.h"
 #include "shell/splash_window.h"
@@ -108,6 +109,7 @@ private:
     bool askingAboutUnsaved_ = false;
     bool endsWithoutQuestion_ = false;
     std::vector<std::unique_ptr<SystemFiles::FolderLock>> folderLocks_;
+    std::vector<UnfinishedSaves::Finished> finishedSaves_; // of the run before
     std::string fileToImport_; // a path that waits for the main window; "" for none
     bool startMessagesShown_ = false; // the splash window, with all that had to be told
     std::function<void()> offerDone_; // of an offer that waits for the main window; empty for none

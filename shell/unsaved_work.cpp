@@ -123,6 +123,14 @@ bool offerRescued(const FolderCheck& mayWriteIn) {
     return answer != Answer::none;
 }
 
+void reportFinished(const std::vector<UnfinishedSaves::Finished>& files) {
+    for (const auto& [path, keptAt] : files)
+        MsgBox(tr(
+            "Tallyvane was cut off while it was saving \u201c%1\u201d. The save has been finished now. What the file "
+            "held is kept as \u201c%2\u201d.",
+            {path, keptAt}));
+}
+
 void reportUnreadable() {
     using namespace DataFiles;
     using enum SystemFiles::Kind;

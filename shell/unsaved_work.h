@@ -4,8 +4,10 @@
 
 #include <functional>
 #include <optional>
+#include <vector>
 
 #include "platform/files/folder_item.h"
+#include "settings/unfinished_saves.h"
 
 namespace tallyvane::UnsavedWork {
 
@@ -23,6 +25,9 @@ using FolderCheck = std::function<bool(const std::optional<FolderItem>& folder)>
 
 /// Offers what was kept at an end with nobody to ask. False when the program was ended before the user had answered.
 [[nodiscard]] bool offerRescued(const FolderCheck& mayWriteIn);
+
+/// Tells of files that were found half saved.
+void reportFinished(const std::vector<UnfinishedSaves::Finished>& files);
 
 /// Tells of the user's files in whose place stands something that can be neither read nor written.
 void reportUnreadable();

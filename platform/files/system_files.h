@@ -3,25 +3,12 @@
 
 #include <memory>
 #include <optional>
-#include <stdexcept>
 #include <string>
-#include <utility>
 #include <vector>
 
+#include "platform/files/io_exception.h"
+
 namespace tallyvane {
-
-/// A file or folder could not be made, opened, read or written. `Replacement::replace` says what a file then holds.
-class IOException : public std::runtime_error {
-public:
-    /// `why` is for the user, such as "No space left on device"; `what` names the path too.
-    explicit IOException(const std::string& what, std::string why = "")
-        : std::runtime_error(why.empty() ? what : what + ": " + why), why_(std::move(why)) {}
-
-    const std::string& why() const { return why_; }
-
-private:
-    std::string why_;
-};
 
 namespace SystemFiles {
 
@@ -55,41 +42,17 @@ void removeFolder(const std::string& path);
 /// The whole content of a file; nothing for what is no plain file, can't be read or is larger than a gigabyte.
 [[nodiscard]] std::optional<std::string> read(const std::string& path);
 
-/// A file that is open to be replaced in place: same inode, no second file. It may be open while the new text is
-/// still being made; nothing in the file changes before `replace`.
-class Replacement {
-public:
-    /// Opens the file, and makes one for its owner alone where there is none. Null for what is no plain file or
-    /// can't be opened for writing; `why` then gets the reason, for the user.
-    [[nodiscard]] static std::unique_ptr<Replacement> open(const std::string& path, std::string* why = nullptr);
+/// Gives a file another path on the same disk, in place of a file that may stand there. False when that can't be.
+[[nodiscard]] bool moveOver(const std::string& from, const std::string& to);
 
-    Replacement(const Replacement&) = delete;
-    Replacement& operator=(const Replacement&) = delete;
-    /// Closes the file; one that was made by `open` and not replaced goes again.
-    ~Replacement();
+/// Sees the names in the folder of that path to the disk: a file that was made, moved or removed there. False when the
+/// disk fails.
+[[nodiscard]] bool flushFolderOf(const std::string& path);
 
-    /// Replaces the content by `text` and flushes it to disk. Only the range that differs is written, after space was
-    /// reserved, and the write is completed even if the program is killed meanwhile. Throws IOException on failure; the
-    /// old content is then restored as far as the disk allows, unless just the last step (folder entry, close) fails.
-    void replace(const std::string& text);
-
-private:
-    Replacement(int file, std::string path, bool made);
-
-    int file_;
-    std::string path_;
-    bool made_;
-};
-
-/// Replaces the content of a file by `text`; creates the file if there is none. Throws IOException when it can't be
-/// opened, and as Replacement::replace does.
-void write(const std::string& path, const std::string& text);
-
-/// An exclusive lock (flock) on a folder while this object lives. If the process is killed, the lock ends with it, or
-/// with its writer process if that is still saving.
+/// An exclusive lock (flock) on a folder while this object lives. If the process is killed, the lock ends with it.
 class FolderLock {
 public:
-    /// Null when another process keeps the lock for 0.4 seconds. Not null, but without a lock, when the folder can't be
+    /// Null when another process has the lock. Not null, but without a lock, when the folder can't be
     /// opened or its file system has no locks.
     [[nodiscard]] static std::unique_ptr<FolderLock> acquire(const std::string& path);
 

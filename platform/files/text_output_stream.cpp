@@ -6,8 +6,8 @@
 
 namespace tallyvane {
 
-std::optional<TextOutputStream> TextOutputStream::Create(const FolderItem& file) {
-    std::unique_ptr<SystemFiles::Replacement> replacement = SystemFiles::Replacement::open(file.AbsolutePath());
+std::optional<TextOutputStream> TextOutputStream::Create(const FolderItem& file, Replacement::Recorded recorded) {
+    std::unique_ptr<Replacement> replacement = Replacement::open(file.AbsolutePath(), recorded);
     if (!replacement)
         return std::nullopt;
     return TextOutputStream(std::move(replacement));

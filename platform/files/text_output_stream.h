@@ -8,7 +8,7 @@
 #include <utility>
 
 #include "platform/files/folder_item.h"
-#include "platform/files/system_files.h"
+#include "platform/files/replacement.h"
 
 namespace tallyvane {
 
@@ -29,15 +29,16 @@ private:
 class TextOutputStream : public TextWriter {
 public:
     /// Empty for what is no plain file or can't be opened for writing.
-    [[nodiscard]] static std::optional<TextOutputStream> Create(const FolderItem& file);
+    [[nodiscard]] static std::optional<TextOutputStream>
+    Create(const FolderItem& file, Replacement::Recorded recorded = Replacement::Recorded::unlessNew);
 
     /// Replaces the file. Throws IOException, with the old content in place, when it can't. The stream ends here.
     void Close();
 
 private:
-    explicit TextOutputStream(std::unique_ptr<SystemFiles::Replacement> file) : file_(std::move(file)) {}
+    explicit TextOutputStream(std::unique_ptr<Replacement> file) : file_(std::move(file)) {}
 
-    std::unique_ptr<SystemFiles::Replacement> file_;
+    std::unique_ptr<Replacement> file_;
 };
 
 } // namespace tallyvane

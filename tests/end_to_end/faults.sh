@@ -105,19 +105,29 @@ for years in 1 -1; do
     grep -q "$(date -d "$years year" +%Y)" "$folder/QVXLogData" || fail "the clock did not jump: $(cat "$folder/QVXLogData")"
 done
 
-# Killed in the middle of a write, after its first half: the writer brings it to its end.
+# Killed in the middle of a write, after its first half: the next start brings it to its end, keeps what was there, and
+# says so.
 cp "$days" "$home/before"
 sed -i 's/@#@5\.5@#@/@#@5.5@#@/; s/$/\r/' "$days" # a form that is written anew from the first line on
 LD_PRELOAD="$library" start
-becomes slow
+becomes stop
 kill -TERM "$pid"
 until_true half_written
 kill -KILL "$pid"
 wait "$pid" 2>/dev/null || true
+becomes
+cp "$days" "$home/mixture"
 ! cmp -s "$days" "$home/before" || fail "killed: it was not in the middle"
-flock "$folder" true # which the writer holds
+start
+until_true message_is_up
 cmp "$days" "$home/before" || fail "killed: the table is not whole"
-report "killed inside a write" "new table whole" "no day lost"
+cmp "$folder/7VXData damaged $(date +%F)" "$home/mixture" || fail "killed: what was there is not kept"
+[[ -z $(ls "$folder" | grep Unfinished) ]] || fail "killed: the record stays"
+xdotool key Return
+in_front
+xdotool key ctrl+q
+ends_well
+report "killed inside a write" "new table whole; a message" "no day lost"
 
 for ((day = 1; day <= 28; ++day)); do
     grep -q "^2026-01-$(printf %02d "$day")@#@5.5@#@6@#@" "$days" || fail "day $day is lost"

@@ -1,6 +1,6 @@
 /// Preloaded into the program, it makes disk and clock misbehave while it runs. What is wrong stands as words in the
 /// file that FAULTS names: "full" (no room for what grows), "broken" (the second
-/// half of a write fails), "slow" (it waits for a second), "read-only", and
+/// half of a write into the table fails), "stop" (it never comes), "read-only", and
 /// "clock" with the seconds by which the clock is off.
 #include <cerrno>
 #include <cstdarg>
@@ -30,6 +30,14 @@ const char* fault(const char* word) {
 
 bool isOfTheDiary(const char* path) { return std::strstr(path, "/Tallyvane") != nullptr; }
 
+/// Not the record of a save.
+bool isTheTable(int file) {
+    char path[512] = {};
+    char link[64] = {};
+    std::snprintf(link, sizeof link, "/proc/self/fd/%d", file);
+    return ::readlink(link, path, sizeof path - 1) > 0 && std::strstr(path, "/7VXData") != nullptr;
+}
+
 } // namespace
 
 extern "C" {
@@ -56,19 +64,19 @@ int fallocate(int file, int mode, off_t place, off_t size) {
 }
 
 ssize_t pwrite(int file, const void* bytes, std::size_t count, off_t place) {
-    static int calls = 0; // with a fault; each save has a process of its own, and counts from 0
     const bool breaks = fault("broken") != nullptr;
-    const bool waits = fault("slow") != nullptr;
-    if (!breaks && !waits)
+    const bool stops = fault("stop") != nullptr;
+    if ((!breaks && !stops) || !isTheTable(file))
         return ::syscall(SYS_pwrite64, file, bytes, count, place);
-    if (++calls == 1)
-        return ::syscall(SYS_pwrite64, file, bytes, count > 1 ? count / 2 : count, place);
-    if (calls == 2 && waits)
-        ::sleep(1);
-    if (calls > 2 || waits)
-        return ::syscall(SYS_pwrite64, file, bytes, count, place);
-    errno = EIO;
-    return -1;
+    static int calls = 0; // of one save: its first half, its second, and what puts the old bytes back
+    calls = calls % 3 + 1;
+    if (calls == 2 && stops)
+        ::pause();
+    if (calls == 2) {
+        errno = EIO;
+        return -1;
+    }
+    return ::syscall(SYS_pwrite64, file, bytes, calls == 1 && count > 1 ? count / 2 : count, place);
 }
 
 int clock_gettime(clockid_t clock, timespec* time) noexcept {

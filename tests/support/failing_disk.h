@@ -2,12 +2,14 @@
 
 #include <cstddef>
 
+#include "support/disk_calls.h"
+
 namespace tallyvane {
 
-/// Makes the disk fail as long as this object lives, by replacing the C library's functions for these system calls.
+/// Makes the disk fail as long as this object lives.
 class FailingDisk {
 public:
-    enum class Call { reserve, write, cut, flush };
+    using Call = DiskCall::Kind;
 
     /// That call fails with "no space left". A write fails after so many bytes in all; with `once`, what comes after
     /// the first failure works again.
@@ -17,7 +19,15 @@ public:
     ~FailingDisk();
 
     /// Whether a failure has taken place.
-    bool hasFailed() const;
+    bool hasFailed() const { return hasFailed_; }
+
+private:
+    std::size_t allowance(Call call, std::size_t bytes);
+
+    Call call_;
+    std::size_t bytesLeft_;
+    bool once_;
+    bool hasFailed_ = false;
 };
 
 } // namespace tallyvane
