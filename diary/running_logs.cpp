@@ -16,9 +16,11 @@ namespace {
 /// Keeps a journal in a dated file of the application's folder. Its path; "" when such a file holds the text already.
 std::string keep(const std::string& journal) {
     const std::optional<FolderItem> folder = DataFiles::applicationFolder();
-    return folder
-               ? UnsavedFiles::writeNewCopy(*folder, std::string(DataFiles::journal) + " " + Date().isoDate(), journal)
-               : "";
+    if (!folder)
+        return "";
+    const std::string name = std::string(DataFiles::journal) + " " + Date().isoDate();
+    const UnsavedFiles::NewCopy copy = UnsavedFiles::writeNewCopy(*folder, name, journal);
+    return copy.isNew ? copy.path : "";
 }
 
 UnsavedFiles::UserFile userFile() {

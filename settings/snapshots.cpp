@@ -21,22 +21,15 @@ constexpr std::array<std::string_view, 2> innerFiles{DataFiles::runningLogs, Dat
 /// Names the folder of the table in a set, if that was not the application's.
 constexpr std::string_view tableFolderFile = "Folder of 7VXData";
 
-std::string tablePath() {
-    const std::optional<FolderItem>& folder = StartupGlobals::gDataFolder;
-    const std::optional<FolderItem> table = folder ? folder->Child(DataFiles::dayTable) : std::nullopt;
-    return table ? table->AbsolutePath() : "";
-}
-
 /// "" for the application's folder.
 std::string tableFolder() {
     const std::optional<FolderItem>& folder = StartupGlobals::gDataFolder;
     return !folder || folder == DataFiles::applicationFolder() ? "" : folder->AbsolutePath();
 }
 
-std::optional<std::string> snapshotsFolder() {
+std::string snapshotsFolder() {
     const std::optional<FolderItem> folder = DataFiles::applicationFile("Snapshots");
-    const bool isOfTheUsersTable = StartupGlobals::gMissingDataFolder.empty() && !tablePath().empty();
-    return folder && isOfTheUsersTable ? std::optional(folder->AbsolutePath()) : std::nullopt;
+    return folder ? folder->AbsolutePath() : "";
 }
 
 /// Skips a file that does not exist; throws for one that exists and can't be read.
@@ -63,81 +56,45 @@ void copyAll(const std::string& source, const std::string& target) {
         writeFile(fileIn(target, tableFolderFile), tableFolder(), Replacement::Recorded::unlessNew);
 }
 
-/// Counts the lines that are not empty and have a line end.
-int countDays(std::string_view table) {
-    int days = 0;
-    bool isEmpty = true;
-    for (const char c : table) {
-        const bool isEnd = c == '\n' || c == '\r';
-        days += isEnd && !isEmpty;
-        isEmpty = isEnd;
-    }
-    return days;
-}
-
-/// Not whole: a table with zero bytes, which a power cut leaves, or without a line end after its last line.
-bool isWhole(std::string_view table) {
-    return (table.ends_with('\n') || table.ends_with('\r')) && table.find('\0') == std::string_view::npos;
-}
-
 } // namespace
 
+std::string tablePath() {
+    const std::optional<FolderItem>& folder = StartupGlobals::gDataFolder;
+    const bool isTheUsers = folder && StartupGlobals::gMissingDataFolder.empty();
+    const std::optional<FolderItem> table = isTheUsers ? folder->Child(DataFiles::dayTable) : std::nullopt;
+    return table ? table->AbsolutePath() : "";
+}
+
 void take(const Date& today) {
-    const std::optional<std::string> folder = snapshotsFolder();
-    if (!folder || SystemFiles::read(tablePath()).value_or("").empty())
+    const std::string folder = snapshotsFolder();
+    const std::string set = SnapshotSets::pathOf(folder, today);
+    if (folder.empty() || SystemFiles::kindOf(set) != SystemFiles::Kind::none ||
+        SystemFiles::read(tablePath()).value_or("").empty())
         return;
-    const std::string set = SnapshotSets::pathOf(*folder, today);
-    SystemFiles::makeFolders(*folder);
-    if (SystemFiles::kindOf(set) != SystemFiles::Kind::none)
-        return;
-    const std::string unfinished = fileIn(*folder, "unfinished");
+    SystemFiles::makeFolders(folder);
+    const std::string unfinished = fileIn(folder, "unfinished");
     SystemFiles::removeFolder(unfinished); // of a start that was killed
     try {
-        copyAll(folder->substr(0, folder->rfind('/')), unfinished);
+        copyAll(folder.substr(0, folder.rfind('/')), unfinished);
     } catch (const IOException&) { // a full disk
         SystemFiles::removeFolder(unfinished);
         return;
     }
     if (SystemFiles::rename(unfinished, set) && SystemFiles::flushFolderOf(set))
-        SnapshotSets::removeOld(*folder, today);
+        SnapshotSets::removeOld(folder, today);
     else
         SystemFiles::removeFolder(unfinished);
 }
 
-bool tableIsUnreadable() {
-    return SystemFiles::kindOf(tablePath()) == SystemFiles::Kind::file && !SystemFiles::read(tablePath());
+std::vector<Set> sets(const Date& today) {
+    std::vector<Set> found;
+    for (const Date& day : SnapshotSets::daysKept(snapshotsFolder(), today))
+        found.push_back({day, SnapshotSets::pathOf(snapshotsFolder(), day)});
+    return found;
 }
 
-std::optional<Copy> findFullerCopy(const Date& today) {
-    const std::optional<std::string> folder = snapshotsFolder();
-    const SystemFiles::Kind kind = SystemFiles::kindOf(tablePath());
-    if (!folder || (kind != SystemFiles::Kind::none && kind != SystemFiles::Kind::file))
-        return std::nullopt;
-    const std::string table = SystemFiles::read(tablePath()).value_or("");
-    if (isWhole(table))
-        return std::nullopt;
-    for (const Date& day : SnapshotSets::daysKept(*folder, today)) {
-        const std::string set = SnapshotSets::pathOf(*folder, day);
-        const std::string copy = fileIn(set, DataFiles::dayTable);
-        const int days = countDays(SystemFiles::read(copy).value_or(""));
-        const bool isOfThisTable = SystemFiles::read(fileIn(set, tableFolderFile)).value_or("") == tableFolder();
-        if (isOfThisTable && days > countDays(table))
-            return Copy{day, days, countDays(table), copy};
-    }
-    return std::nullopt;
-}
-
-std::string keepDamagedTable(const Date& today) {
-    std::string name = std::string(DataFiles::dayTable) + " damaged " + today.isoDate();
-    copyIfThere(tablePath(), fileIn(StartupGlobals::gDataFolder->AbsolutePath(), name));
-    return name;
-}
-
-void restore(const Copy& copy) {
-    const std::optional<std::string> days = SystemFiles::read(copy.path);
-    if (!days)
-        throw IOException("can't read " + copy.path);
-    writeFile(tablePath(), *days);
+bool isOfThisTable(const Set& set) {
+    return SystemFiles::read(fileIn(set.path, tableFolderFile)).value_or("") == tableFolder();
 }
 
 } // namespace tallyvane::Snapshots

@@ -12,7 +12,7 @@ namespace {
 
 /// Keeps a file that holds neither the old nor the new text. The path of the copy.
 std::string keepDamaged(const FolderItem& folder, const FolderItem& file, const std::string& content) {
-    return UnsavedFiles::writeNewCopy(folder, file.Name() + " damaged " + Date().isoDate(), content);
+    return UnsavedFiles::writeNewCopy(folder, file.Name() + " damaged " + Date().isoDate(), content).path;
 }
 
 /// Gives a file its new text. Where what it held is kept, if it was neither the old nor the new text.

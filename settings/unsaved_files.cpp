@@ -79,6 +79,8 @@ std::string listOf(const std::vector<Unsaved>& files) {
 
 } // namespace
 
+std::function<void()> beforeWriting;
+
 UserFile UserFile::ofApplication(std::string what, std::string_view name) {
     const std::optional<FolderItem>& data = SpecialFolder::ApplicationData; // also while it is away
     const std::string path = std::string(DataFiles::applicationName) + "/" + std::string(name);
@@ -107,6 +109,8 @@ bool save(const UserFile& file, const std::string& text) {
     }
     const bool isLost = hasChanged || placeHasChanged; // if it can't be written
     try {
+        if (beforeWriting && onDisk != hashOf(text))
+            beforeWriting();
         if (file.makesFolders && file.place)
             SystemFiles::makeFolders(folderOf(file.place->AbsolutePath()));
         if (isForeign)
@@ -194,17 +198,17 @@ void forget(const UserFile& file) {
 
 void forgetAll() { state() = {}; }
 
-std::string writeNewCopy(const FolderItem& folder, const std::string& name, const std::string& text) {
+NewCopy writeNewCopy(const FolderItem& folder, const std::string& name, const std::string& text) {
     for (int number = 1;; ++number) {
         const std::optional<FolderItem> place = folder.Child(DataFiles::numbered(name, number));
         if (!place)
             throw IOException("no place for " + name, tr("the folder is not there"));
         if (SystemFiles::read(place->AbsolutePath()) == text)
-            return "";
+            return {place->AbsolutePath(), false};
         if (place->Exists())
             continue;
         writeFile(place->AbsolutePath(), text);
-        return place->AbsolutePath();
+        return {place->AbsolutePath(), true};
     }
 }
 

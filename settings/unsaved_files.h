@@ -2,6 +2,7 @@
 /// until a later save of the same file succeeds. At the end of the program the user decides about what still waits.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -40,6 +41,9 @@ struct Unsaved {
 /// here, and otherwise keeps it in a copy beside the file.
 void setBaseline(const UserFile& file, const std::string& text);
 
+/// Called before a save writes anything; null for nothing to do.
+extern std::function<void()> beforeWriting;
+
 /// Replaces the file's content by the text; true when that is done or not needed. Returns false if the file can't be
 /// opened, throws IOException if writing fails. Either way the text is then unsaved, unless neither it nor the file has
 /// changed since the file was last read or saved.
@@ -71,9 +75,14 @@ void forget(const UserFile& file);
 /// Drops all unsaved texts and all baselines.
 void forgetAll();
 
-/// Writes the text to a new file of that name, or "name 2" and so on, and returns its path. Returns "" if one of these
-/// files holds the text already. Throws IOException when the disk fails.
-std::string writeNewCopy(const FolderItem& folder, const std::string& name, const std::string& text);
+/// A copy that holds a text.
+struct NewCopy {
+    std::string path;
+    bool isNew = false; // else it was there before
+};
+/// Writes the text to a new file of that name, or "name 2" and so on, unless one of these files holds it already.
+/// Throws IOException when the disk fails.
+NewCopy writeNewCopy(const FolderItem& folder, const std::string& name, const std::string& text);
 /// Copies what a file holds to a new file beside it, such as "7VXData before 2026-11-23", unless it is empty or equal
 /// to newText. Throws IOException when the copy can't be written.
 void backUpCurrent(const std::string& place, const std::string& newText);

@@ -11,6 +11,7 @@
 #include "platform/files/save_record.h"
 #include "platform/windows/quit.h"
 #include "reports/diary_report.h"
+#include "settings/damaged_files.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
 #include "settings/prefs_module.h"
@@ -66,6 +67,7 @@ App::App() : menuBar(MenuBar1()) {
 App::~App() {
     PrefsModule::createMainWindow = nullptr;
     beforeEnd = nullptr;
+    UnsavedFiles::beforeWriting = nullptr;
     StartUpManager::primaryWindow = nullptr;
     SaveRecords::useFolder("");
 }
@@ -82,7 +84,10 @@ void App::Event_Open() {
     }
     if (listenForSecondStart)
         listenForSecondStart();
-    SaveRecords::useFolder(folder ? folder->AbsolutePath() : "");
+    if (folder) {
+        SystemFiles::closeToOthers(folder->AbsolutePath());
+        SaveRecords::useFolder(folder->AbsolutePath());
+    }
     const auto mayWriteIn = [this](const std::optional<FolderItem>& place) { return lock(place); };
     finishedSaves_ = UnfinishedSaves::finishAll(mayWriteIn);
     if (!UnsavedWork::offerRescued(mayWriteIn)) { // before anything is read
@@ -130,28 +135,17 @@ void App::wakeFirstAndQuit() {
     Quit(0);
 }
 
-/// Checks the day table before it is loaded, and replaces a damaged one by a copy if the user agrees. False when the
-/// program must end: the table can't be read (an empty one must not replace it), or the question was not answered.
-bool App::prepareTable() {
-    if (Snapshots::tableIsUnreadable()) {
+/// Checks the files before they are loaded. False when the program must end: the table can't be read (an empty one must
+/// not replace it), or a question was not answered.
+bool App::prepareFiles() {
+    if (DamagedFiles::tableIsUnreadable()) {
         MsgBox(
             tr("The file with your days is there and can't be read, in \u201c%1\u201d. Nothing is opened, so that it "
                "stays as it is.",
                {StartupGlobals::gDataFolder->AbsolutePath()}));
         return false;
     }
-    const std::optional<Snapshots::Copy> copy = Snapshots::findFullerCopy(Date());
-    if (!copy)
-        return true;
-    const std::string kept = Snapshots::keepDamagedTable(Date());
-    const Answer answer = Ask(
-        tr("The file with your days is empty or cut off: it holds %1 whole days. The copy of %2 holds %3 days. Do you "
-           "want it back in its place? What the file holds now is kept as \u201c%4\u201d.",
-           {std::to_string(copy->daysOfTable), copy->day.ShortDate(), std::to_string(copy->days), kept}),
-        tr("Bring It Back"), tr("Go On Without It"));
-    if (answer == Answer::yes)
-        Snapshots::restore(*copy);
-    return answer != Answer::none;
+    return UnsavedWork::offerCopies();
 }
 
 void App::createMainWindow() {
@@ -161,11 +155,12 @@ void App::createMainWindow() {
         wakeFirstAndQuit();
         return;
     }
-    if (!prepareTable()) {
+    if (!prepareFiles()) {
         Quit(1);
         return;
     }
-    Snapshots::take(Date()); // before anything is saved
+    UnsavedFiles::beforeWriting = [] { Snapshots::take(Date()); };
+    UnsavedFiles::beforeWriting();
     auto window = std::make_unique<Window1>(toolbar_, menuBar);
     wireWindows(*window);
     wireMenus(*window);

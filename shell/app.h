@@ -91,7 +91,7 @@ public:
 
 private:
     bool lock(const std::optional<FolderItem>& folder);
-    bool prepareTable();
+    bool prepareFiles();
     void createMainWindow();
     int resolveUnsaved(int code);
     void reportMissingDataFolder();

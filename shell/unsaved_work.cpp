@@ -7,6 +7,7 @@
 #include "platform/desktop/desktop.h"
 #include "platform/files/system_files.h"
 #include "platform/windows/dialogs.h"
+#include "settings/damaged_files.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
 #include "settings/rescued_files.h"
@@ -81,6 +82,23 @@ void setAside(const std::vector<RescuedFiles::Rescued>& files) {
     MsgBox(tr("They are kept:\n%1", {list}));
 }
 
+/// What is damaged, and what the copy holds.
+std::string describe(const DamagedFiles::Copy& copy) {
+    if (copy.file.name == DataFiles::dayTable)
+        return tr("The file with your days is empty or cut off: it holds %1 whole days. The copy of %2 holds %3 days.",
+                  {std::to_string(copy.daysOfTable), copy.day.ShortDate(), std::to_string(copy.days)});
+    return tr("%1: the file is empty or cut off. The copy of %2 holds more.", {copy.file.what, copy.day.ShortDate()});
+}
+
+Answer askForCopy(const DamagedFiles::Copy& copy, const std::string& kept, const std::string& whyNotKept) {
+    std::string question = describe(copy) + tr(" Do you want it back in its place?");
+    if (!kept.empty())
+        question += tr(" What the file holds now is kept as \u201c%1\u201d.", {kept});
+    if (!whyNotKept.empty())
+        question += tr(" What the file holds now can't be kept beside it: %1", {whyNotKept});
+    return Ask(question, tr("Bring It Back"), tr("Go On Without It"));
+}
+
 /// Something stands there that is not what belongs there, or can't be read.
 bool isInTheWay(const std::optional<FolderItem>& place, SystemFiles::Kind wanted) {
     const SystemFiles::Kind kind = place ? SystemFiles::kindOf(place->AbsolutePath()) : SystemFiles::Kind::none;
@@ -121,6 +139,29 @@ bool offerRescued(const FolderCheck& mayWriteIn) {
     else if (answer == Answer::no)
         setAside(files);
     return answer != Answer::none;
+}
+
+bool offerCopies() {
+    const Date today;
+    for (const DamagedFiles::Copy& copy : DamagedFiles::findFullerCopies(today)) {
+        std::string kept;
+        std::string whyNotKept;
+        try {
+            kept = DamagedFiles::keep(copy, today);
+        } catch (const IOException& failure) {
+            whyNotKept = failure.why();
+        }
+        const Answer answer = askForCopy(copy, kept, whyNotKept);
+        if (answer == Answer::none)
+            return false;
+        const std::string why = answer == Answer::yes ? DamagedFiles::restore(copy, whyNotKept) : "";
+        if (!why.empty())
+            MsgBox(
+                tr("The copy can't be put in its place: %1\n\nTallyvane shows it all the same, and saves it as soon as "
+                   "that is possible.",
+                   {why}));
+    }
+    return true;
 }
 
 void reportFinished(const std::vector<UnfinishedSaves::Finished>& files) {

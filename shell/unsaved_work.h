@@ -26,6 +26,9 @@ using FolderCheck = std::function<bool(const std::optional<FolderItem>& folder)>
 /// Offers what was kept at an end with nobody to ask. False when the program was ended before the user had answered.
 [[nodiscard]] bool offerRescued(const FolderCheck& mayWriteIn);
 
+/// Offers the daily copies of files that are damaged. False when the program was ended before the user had answered.
+[[nodiscard]] bool offerCopies();
+
 /// Tells of files that were found half saved.
 void reportFinished(const std::vector<UnfinishedSaves::Finished>& files);
 

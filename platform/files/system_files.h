@@ -21,6 +21,10 @@ Kind kindOf(const std::string& path);
 /// missed by whoever writes there.
 void makeFolders(const std::string& path);
 
+/// Leaves a folder to its owner alone, if that is who runs the program: one that came from another computer may be open
+/// to all.
+void closeToOthers(const std::string& folder);
+
 /// The names of what a folder holds, sorted; none for what is no folder or can't be read.
 [[nodiscard]] std::vector<std::string> namesIn(const std::string& path);
 

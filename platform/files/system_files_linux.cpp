@@ -54,6 +54,13 @@ void makeFolders(const std::string& path) {
     static_cast<void>(makeFolder(path));
 }
 
+void closeToOthers(const std::string& folder) {
+    struct stat status {};
+    if (!hasNul(folder) && ::stat(folder.c_str(), &status) == 0 && status.st_uid == ::geteuid() &&
+        (status.st_mode & (S_IRWXG | S_IRWXO)) != 0)
+        ::chmod(folder.c_str(), status.st_mode & S_IRWXU);
+}
+
 std::vector<std::string> namesIn(const std::string& path) {
     std::vector<std::string> names;
     DIR* const folder = hasNul(path) ? nullptr : ::opendir(path.c_str());

@@ -27,6 +27,12 @@ QNetworkRequest requestFor(const std::string& address) {
     return request;
 }
 
+bool isOnTheSameServer(const QUrl& target, const QUrl& origin) {
+    constexpr int usualPort = 80;
+    return target.scheme() == origin.scheme() && target.host() == origin.host() &&
+           target.port(usualPort) == origin.port(usualPort);
+}
+
 /// The server has answered, with a page of whatever status; not so when the line broke down or the fetch was ended.
 bool hasAnswered(const QNetworkReply& reply) {
     const bool isContent =
@@ -55,7 +61,7 @@ HttpDownload::HttpDownload(QNetworkAccessManager& network, const std::string& ad
     reply_->setReadBufferSize(mostBytes);
     QObject::connect(reply_, &QNetworkReply::readyRead, &timeLimit_, [this] { takeBytes(); });
     QObject::connect(reply_, &QNetworkReply::redirected, &timeLimit_, [this](const QUrl& target) {
-        if (target.host() == reply_->request().url().host())
+        if (isOnTheSameServer(target, reply_->request().url()))
             Q_EMIT reply_->redirectAllowed();
         else
             reply_->abort();

@@ -17,8 +17,7 @@ class SnapshotsTest : public TestDesk {
 protected:
     void SetUp() override {
         TestDesk::SetUp();
-        makeApplicationFolder();
-        StartupGlobals::gDataFolder = DataFiles::applicationFolder();
+        useApplicationFolder();
     }
     Texts sets() const {
         Texts names;
@@ -92,45 +91,6 @@ TEST_F(SnapshotsTest, ADiskThatIsFullGetsNoHalfSet) {
     EXPECT_EQ(sets(), Texts{"2026-11-22"});
     EXPECT_EQ(read(copyOf("2026-11-22", "7VXData")), threeDays);
     EXPECT_FALSE(std::filesystem::exists(copyOf("2026-11-22", "QVXContacts")));
-}
-
-TEST_F(SnapshotsTest, AFullerCopyIsFoundForATableThatIsNotWhole) {
-    write(table(), threeDays);
-    Snapshots::take(Date(2026, 11, 20));
-    write(table(), "1/1/2026@#@5\n");
-    Snapshots::take(Date(2026, 11, 21));
-    write(table(), threeDays);
-    Snapshots::take(Date(2026, 12, 1)); // the clock was wrong
-    const Date today(2026, 11, 22);
-    const auto found = [&](const std::string& content) {
-        write(table(), content);
-        const std::optional<Snapshots::Copy> copy = Snapshots::findFullerCopy(today);
-        return copy ? copy->day.Day() : 0;
-    };
-    EXPECT_EQ(found(""), 21) << "the newest that holds more";
-    EXPECT_EQ(found("1/1/2026@#@5\n1/2/20"), 20);
-    EXPECT_EQ(found("1/1/2026@#@5\n\n\n\n\n1/2/20"), 20) << "empty lines are no days";
-    EXPECT_EQ(found("1/1/2026@#@5\n" + std::string(4096, '\0') + "\n"), 20) << "a block was lost";
-    EXPECT_EQ(found("1/1/2026@#@5\n1/2/2026\n1/3/2026\n1/4/2026"), 0) << "none holds more";
-    EXPECT_EQ(found("1/1/2026@#@5\n"), 0) << "days were taken out, and the table is whole";
-    EXPECT_EQ(found("1/1/2026@#@5\r"), 0) << "line ends of another system";
-    std::filesystem::remove(table());
-    EXPECT_EQ(Snapshots::findFullerCopy(today)->days, 1);
-
-    StartupGlobals::gMissingDataFolder = "/no/such/folder";
-    EXPECT_FALSE(Snapshots::findFullerCopy(today)) << "the table is somewhere else";
-    StartupGlobals::gMissingDataFolder.clear();
-    StartupGlobals::gDataFolder = GetFolderItem(folder_.string());
-    EXPECT_FALSE(Snapshots::findFullerCopy(today)) << "the copies are of a table in another folder";
-    StartupGlobals::gDataFolder = DataFiles::applicationFolder();
-    std::filesystem::create_directory(table());
-    EXPECT_FALSE(Snapshots::findFullerCopy(today)) << "what stands there is not ours";
-}
-
-TEST_F(SnapshotsTest, ACopyThatCannotBeReadLeavesTheTableAlone) {
-    write(table(), "1/1/2026@#@5\n1/2/20");
-    EXPECT_THROW(Snapshots::restore({Date(2026, 11, 20), 3, 1, copyOf("2026-11-20", "7VXData")}), IOException);
-    EXPECT_EQ(read(table()), "1/1/2026@#@5\n1/2/20");
 }
 
 } // namespace

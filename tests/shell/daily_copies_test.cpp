@@ -1,5 +1,6 @@
 /// What the start does with the daily copies.
 #include "shell/app.h"
+#include "support/failing_disk.h"
 #include "support/test_desk.h"
 
 namespace tallyvane {
@@ -25,11 +26,11 @@ TEST_F(DailyCopiesTest, TheStartCopiesTheDaysBeforeItSavesAny) {
 }
 
 TEST_F(DailyCopiesTest, TheUserIsAskedBeforeACopyComesBack) {
-    const std::string cut = "1/1/2026@#@5\n1/2/20";
+    const std::string cut = wholeDays(1) + "1/2/20";
     using Chosen = std::optional<std::size_t>;
     for (const Chosen& answer : {Chosen(), Chosen(1), Chosen(0)}) {
         SCOPED_TRACE(answer ? static_cast<int>(*answer) : -1);
-        write(copyOf("2026-11-20"), "1/1/2026@#@5\n1/2/2026@#@6\n1/3/2026@#@7\n");
+        write(copyOf("2026-11-20"), wholeDays(3));
         write(table(), cut);
         toolkit_.questions.clear();
         toolkit_.answers = {answer};
@@ -50,6 +51,53 @@ TEST_F(DailyCopiesTest, TheUserIsAskedBeforeACopyComesBack) {
         EXPECT_EQ(app.windows().main->ListBox1.ListCount(), *answer == 0 ? 3 : 2);
         app.windows().main->Close();
     }
+}
+
+TEST_F(DailyCopiesTest, TheFirstSaveOfEachDayIsPrecededByACopy) {
+    write(table(), wholeDays(2));
+    App app;
+    app.Event_Open();
+    Listbox& days = app.windows().main->ListBox1;
+    std::string before = wholeDays(2);
+    for (const int today : {22, 23, 25}) {
+        DateSource::now = [today] { return Date(2026, 11, today, 8 * 3600); };
+        app.Event_Deactivate(); // nothing has changed: nothing to copy before
+        days.EditCell(1, 1);
+        days.userTyped(std::to_string(today), 2, 0);
+        app.Event_Deactivate();
+        days.userTyped("9.9", 3, 0);
+        app.Event_Deactivate();
+        EXPECT_EQ(read(copyOf("2026-11-" + std::to_string(today))), before);
+        before = read(table());
+    }
+    EXPECT_FALSE(std::filesystem::exists(copyOf("2026-11-24")));
+}
+
+TEST_F(DailyCopiesTest, WhereTheCopyCannotBePutBackTheDiaryOpensToBeRead) {
+    write(copyOf("2026-11-20"), wholeDays(3));
+    write(table(), wholeDays(1) + "1/2/20");
+    toolkit_.answers = {0};
+    App app;
+    {
+        const FailingDisk disk(FailingDisk::Call::reserve, 0, false);
+        app.Event_Open();
+    }
+    ASSERT_NE(app.windows().main, nullptr);
+    EXPECT_EQ(app.windows().main->ListBox1.ListCount(), 3);
+    ASSERT_EQ(toolkit_.messages.size(), 1U);
+    EXPECT_NE(toolkit_.messages[0].find("The copy can't be put in its place: No space left on device"),
+              std::string::npos);
+    app.Event_Deactivate(); // now there is room
+    EXPECT_EQ(read(table()), wholeDays(3));
+}
+
+TEST_F(DailyCopiesTest, AFolderThatCameOverOpenToOthersIsClosed) {
+    using std::filesystem::perms;
+    makeApplicationFolder();
+    std::filesystem::permissions(folder_ / "Tallyvane", perms::all);
+    App app;
+    app.Event_Open();
+    EXPECT_EQ(std::filesystem::status(folder_ / "Tallyvane").permissions(), perms::owner_all);
 }
 
 } // namespace

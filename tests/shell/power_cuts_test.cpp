@@ -48,7 +48,7 @@ TEST_F(RunPowerCutsTest, NoFileIsEverFoundHalfSaved) {
         Window1& window = *app.windows().main;
         for (const char* reading : {"6.1", "7.2"}) {
             window.BevelButton1_Action();
-            window.ListBox1.userTyped(reading, window.ListBox1.LastIndex(), 1);
+            window.ListBox1.userTyped(reading, 3, 0);
             window.JournalFld.Text(std::string("felt ") + reading);
             app.Event_Deactivate();
             noteVersions();

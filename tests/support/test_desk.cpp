@@ -1,5 +1,8 @@
 #include "support/test_desk.h"
 
+#include "platform/base/date.h"
+#include "platform/base/number.h"
+#include "settings/data_files.h"
 #include "settings/globals.h"
 #include "settings/prefs_module.h"
 #include "settings/unsaved_files.h"
@@ -22,6 +25,19 @@ void TestDesk::SetUp() {
         log->clear();
     Globals::gFileWindowOpen = Globals::gFilesOpen = Globals::gPrintingOn = false;
     Globals::ps.reset();
+}
+
+void TestDesk::useApplicationFolder() const {
+    makeApplicationFolder();
+    StartupGlobals::gDataFolder = DataFiles::applicationFolder();
+}
+
+std::string TestDesk::wholeDays(int count) {
+    std::string table;
+    for (int day = 1; day <= count; ++day)
+        table += "1/" + std::to_string(day) + "/2026@#@5.5@#@@#@@#@@#@@#@@#@@#@5.5@#@@#@" +
+                 Format(Date(2026, 1, day).TotalSeconds(), "000000000000") + "\n";
+    return table;
 }
 
 } // namespace tallyvane

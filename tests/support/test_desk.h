@@ -13,6 +13,10 @@ protected:
     /// Path of a file in the application's folder.
     std::filesystem::path applicationFile(const std::string& name) const { return folder_ / "Tallyvane" / name; }
     void makeApplicationFolder() const { std::filesystem::create_directory(folder_ / "Tallyvane"); }
+    /// Makes it, and keeps the days there.
+    void useApplicationFolder() const;
+    /// The file of the table with so many whole days of January 2026, "5.5" before breakfast.
+    static std::string wholeDays(int count);
 };
 
 } // namespace tallyvane

@@ -1,0 +1,158 @@
+#include "settings/damaged_files.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "platform/base/number.h"
+#include "platform/base/text.h"
+#include "platform/base/translation.h"
+#include "platform/files/replacement.h"
+#include "platform/files/system_files.h"
+#include "settings/data_files.h"
+#include "settings/snapshots.h"
+
+namespace tallyvane::DamagedFiles {
+
+namespace {
+
+constexpr int fieldsOfDay = 11;
+constexpr int fieldsOfLogs = 4;
+
+bool hasLineEnd(std::string_view text) { return text.ends_with('\n') || text.ends_with('\r'); }
+
+bool hasLostBlocks(std::string_view text) { return text.find('\0') != std::string_view::npos; } // as a power cut leaves
+
+int fieldsIn(std::string_view line) {
+    int fields = 1;
+    for (std::size_t at = line.find(DataFiles::fieldSeparator); at != std::string_view::npos;
+         at = line.find(DataFiles::fieldSeparator, at + DataFiles::fieldSeparator.size()))
+        ++fields;
+    return fields;
+}
+
+/// A day with all its fields and, behind the last separator, its date's key.
+bool isWholeDay(std::string_view line) {
+    const std::size_t key = line.rfind(DataFiles::fieldSeparator);
+    return fieldsIn(line) == fieldsOfDay && !hasLostBlocks(line) &&
+           isNumber(line.substr(key + DataFiles::fieldSeparator.size()));
+}
+
+struct Days {
+    int whole = 0;
+    int damaged = 0;
+};
+
+Days daysIn(const std::string& table) {
+    Days days;
+    TextInputStream lines(table);
+    while (!lines.EndOfFile()) {
+        const std::string_view line = lines.ReadLine();
+        if (!line.empty())
+            ++(isWholeDay(line) ? days.whole : days.damaged);
+    }
+    return days;
+}
+
+/// How much text a record of logs holds; nothing for one that is not whole.
+std::optional<std::size_t> textIn(const std::string& logs) {
+    TextInputStream lines(logs);
+    const std::string_view line = lines.ReadLine();
+    if (!hasLineEnd(logs) || hasLostBlocks(logs) || fieldsIn(line) < fieldsOfLogs)
+        return std::nullopt;
+    return line.size() - (fieldsOfLogs - 1) * DataFiles::fieldSeparator.size();
+}
+
+bool canBeRead(const std::string& path) {
+    const SystemFiles::Kind kind = SystemFiles::kindOf(path);
+    return kind == SystemFiles::Kind::none || (kind == SystemFiles::Kind::file && SystemFiles::read(path));
+}
+
+std::string contentOf(const std::string& path) { return SystemFiles::read(path).value_or(""); }
+
+/// The newest set of which a copy holds more.
+template <class HoldsMore>
+std::optional<Copy> newestCopy(const UnsavedFiles::UserFile& file, const Date& today, HoldsMore holdsMore) {
+    for (const Snapshots::Set& set : Snapshots::sets(today)) {
+        Copy copy{file, set.day, set.path + "/" + file.name};
+        if (holdsMore(set, copy))
+            return copy;
+    }
+    return std::nullopt;
+}
+
+std::optional<Copy> fullerTable(const Date& today) {
+    const std::string path = Snapshots::tablePath();
+    if (path.empty() || !canBeRead(path))
+        return std::nullopt;
+    const std::string table = contentOf(path);
+    const Days present = daysIn(table);
+    if (!table.empty() && present.damaged == 0)
+        return std::nullopt;
+    const UnsavedFiles::UserFile file{tr("Your days"), std::string(DataFiles::dayTable), GetFolderItem(path)};
+    return newestCopy(file, today, [&](const Snapshots::Set& set, Copy& copy) {
+        copy.days = daysIn(contentOf(copy.path)).whole;
+        copy.daysOfTable = present.whole;
+        return Snapshots::isOfThisTable(set) && copy.days > present.whole;
+    });
+}
+
+std::optional<Copy> fullerLogs(const UnsavedFiles::UserFile& file, const Date& today) {
+    if (!file.place || !canBeRead(file.place->AbsolutePath()))
+        return std::nullopt;
+    const std::string logs = contentOf(file.place->AbsolutePath());
+    if (textIn(logs))
+        return std::nullopt;
+    return newestCopy(file, today, [&](const Snapshots::Set&, const Copy& copy) {
+        const std::size_t text = textIn(contentOf(copy.path)).value_or(0);
+        const auto zeros = static_cast<std::size_t>(std::count(logs.begin(), logs.end(), '\0'));
+        return text > 0 && text + (fieldsOfLogs - 1) * DataFiles::fieldSeparator.size() > logs.size() - zeros;
+    });
+}
+
+} // namespace
+
+bool tableIsUnreadable() {
+    const std::string path = Snapshots::tablePath();
+    return SystemFiles::kindOf(path) == SystemFiles::Kind::file && !SystemFiles::read(path);
+}
+
+std::vector<Copy> findFullerCopies(const Date& today) {
+    using UnsavedFiles::UserFile;
+    std::vector<Copy> copies;
+    for (std::optional<Copy>& copy :
+         std::vector{fullerTable(today),
+                     fullerLogs(UserFile::ofApplication(tr("The journal and the logs"), DataFiles::runningLogs), today),
+                     fullerLogs(UserFile::ofInnerFolder(tr("The logs"), DataFiles::runningLogs), today)})
+        if (copy)
+            copies.push_back(std::move(*copy));
+    return copies;
+}
+
+std::string keep(const Copy& copy, const Date& today) {
+    const std::string& path = copy.file.place->AbsolutePath();
+    const std::size_t slash = path.rfind('/');
+    const std::string damaged = contentOf(path);
+    const std::optional<FolderItem> folder = GetFolderItem(path.substr(0, slash));
+    if (damaged.empty() || !folder)
+        return "";
+    const std::string name = path.substr(slash + 1) + " damaged " + today.isoDate();
+    return UnsavedFiles::writeNewCopy(*folder, name, damaged).path.substr(slash + 1);
+}
+
+std::string restore(const Copy& copy, const std::string& whyNotKept) {
+    const std::optional<std::string> content = SystemFiles::read(copy.path);
+    if (!content)
+        throw IOException("can't read " + copy.path);
+    std::string why = whyNotKept;
+    try {
+        if (why.empty())
+            writeFile(copy.file.place->AbsolutePath(), *content);
+    } catch (const IOException& failure) {
+        why = failure.why();
+    }
+    if (!why.empty())
+        UnsavedFiles::addUnsaved(copy.file, *content, why);
+    return why;
+}
+
+} // namespace tallyvane::DamagedFiles
