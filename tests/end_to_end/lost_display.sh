@@ -11,7 +11,7 @@ wait "$pid" 2>/dev/null && fail "a program without a display can't end well"
 until_true grep -q '@#@5\.6@#@7@#@' "$days"
 
 # Once more, with days that have waited since another program came to the front.
-rm "$days"
+rm -r "$days" "$(dirname "$days")/Snapshots"
 open_display
 start
 add_day_of_two_readings
