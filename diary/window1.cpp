@@ -64,11 +64,23 @@ void Window1::saveChanged() {
     AutosaveTimer.Mode(Timer::ModeMultiple); // restarts the five minutes
 }
 
-void Window1::saveData() { DayTable::save(ListBox1); }
+void Window1::saveData() {
+    if (!datesAwaitAnswer)
+        DayTable::save(ListBox1);
+}
+
+void Window1::rewriteDates(const std::vector<DateForms::MeantDay>& days) {
+    ListBox1.beginStep(tr("Dates in Your Form"));
+    DateForms::rewrite(ListBox1, days);
+    doSortColumns();
+    showBoldDays();
+    notes_.update();
+}
 
 void Window1::getData() {
     if (!DayTable::load(ListBox1))
         return;
+    datesFound = DateForms::find(ListBox1); // by the keys in the file
     doAverages();
     doSortColumns();
 }

@@ -7,6 +7,7 @@
 
 #include "auto_button/auto_button.h"
 #include "diary/averages.h"
+#include "diary/date_forms.h"
 #include "diary/day_table.h"
 #include "diary/finding.h"
 #include "diary/search.h"
@@ -74,6 +75,10 @@ public:
 
     /// The file in which a journal was kept at opening, since the file "Tallyvane Journal" took its place; "" for none.
     std::string keptJournal;
+    /// Dates that were found in another form at opening.
+    DateForms::Findings datesFound;
+    /// Nobody has answered yet what they mean: the table is not saved.
+    bool datesAwaitAnswer = false;
 
     void Event_Open() override;
     void Event_Close() override;
@@ -89,6 +94,8 @@ public:
     void saveChanged();
     void saveData();
     void getData();
+    /// Writes these days in the user's form, as a step of its own.
+    void rewriteDates(const std::vector<DateForms::MeantDay>& days);
     void saveLogs();
     void getLogs();
     /// Reads the details of a row's day into the four properties; they are empty for a day without any.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "diary/date_question.h"
 #include "diary/sort_keys.h"
 #include "platform/base/number.h"
 #include "platform/base/text.h"
@@ -102,6 +103,8 @@ void importWindow::appendRows(std::vector<ImportReader::Row> rows) {
     days_.beginStep(rows.size() == 1 ? tr("Import of 1 Day")
                                      : tr("Import of %1 Days", {Grouped(static_cast<int>(rows.size()))}));
     days_.AddRows(std::move(rows));
+    if (const DateForms::Findings dates = DateForms::find(days_, first); !dates.isEmpty())
+        DateForms::rewrite(days_, DateQuestion::ask(days_, dates).value_or(std::vector<DateForms::MeantDay>{}));
     SortKeys::rebuild(days_);
     std::vector<bool> isNew(static_cast<std::size_t>(days_.ListCount()));
     std::fill(isNew.begin() + first, isNew.end(), true);

@@ -3,6 +3,7 @@
 #include <exception>
 #include <utility>
 
+#include "diary/date_question.h"
 #include "exchange/archive.h"
 #include "platform/base/scoped_flag.h"
 #include "platform/base/translation.h"
@@ -108,6 +109,7 @@ void App::Event_Open() {
         UnsavedWork::reportFinished(finishedSaves_);
         UnsavedWork::reportUnreadable();
         reportKeptJournal();
+        askAboutDates();
         startMessagesShown_ = true;
         showOffer();
         offerForImport(std::exchange(fileToImport_, ""));
@@ -165,6 +167,7 @@ void App::createMainWindow() {
     wireWindows(*window);
     wireMenus(*window);
     window->Open();
+    window->datesAwaitAnswer = !window->datesFound.isEmpty();
     window->Visible(false);
     window->Timer1.Mode(Timer::ModeSingle);
     windows_.main = std::move(window); // only now: a table that could not be loaded must never be saved
@@ -230,6 +233,19 @@ void App::reportKeptJournal() {
             tr("The journal shows the file \u201cTallyvane Journal\u201d, as it does at every start while that file is "
                "there. What the journal held before is kept in \u201c%1\u201d.",
                {windows_.main->keptJournal}));
+}
+
+/// Dates that another desktop has written. Until there is an answer the table is not saved.
+void App::askAboutDates() {
+    Window1& window = *windows_.main;
+    if (!window.datesAwaitAnswer)
+        return;
+    const auto days = DateQuestion::ask(window.ListBox1, window.datesFound);
+    if (!days)
+        return;
+    window.datesAwaitAnswer = false;
+    if (!days->empty())
+        window.rewriteDates(*days);
 }
 
 /// The offer belongs to the main window, and waits until that is there.

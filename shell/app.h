@@ -96,6 +96,7 @@ private:
     int resolveUnsaved(int code);
     void reportMissingDataFolder();
     void reportKeptJournal();
+    void askAboutDates();
     void offerNewVersion(std::function<void()> done);
     void showOffer();
     void wakeFirstAndQuit();

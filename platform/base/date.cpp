@@ -84,22 +84,6 @@ int takeNumber(std::string_view& text, std::size_t most, std::size_t& taken) {
     return taken == 0 ? -1 : number;
 }
 
-/// The day whose year ends in these two digits and that lies nearest to today; nothing if no such day exists.
-std::optional<Date> nearestDay(int twoDigits, int month, int day) {
-    const Date today = DateSource::now();
-    const int century = today.Year() - today.Year() % 100;
-    const auto distance = [&](const Date& date) { return std::abs(date.TotalSeconds() - today.TotalSeconds()); };
-    std::optional<Date> nearest;
-    for (const int year : {century - 100 + twoDigits, century + twoDigits, century + 100 + twoDigits}) {
-        if (!Date::isDay(year, month, day))
-            continue;
-        const Date date(year, month, day);
-        if (!nearest || distance(date) < distance(*nearest))
-            nearest = date;
-    }
-    return nearest;
-}
-
 std::optional<Date> parse(std::string_view text, const Pattern& pattern) {
     int year = 0;
     std::size_t yearDigits = 0;
@@ -144,6 +128,7 @@ std::string isoText(const Date& date, DateSource::Form form) {
     switch (form) {
     case DateSource::Form::abbreviatedDate:
     case DateSource::Form::longDate:
+    case DateSource::Form::monthAndDay:
         return date.isoDate();
     case DateSource::Form::shortTime:
         return padded(date.Hour(), 2) + ':' + padded(date.Minute(), 2);
@@ -206,6 +191,7 @@ std::string Date::ShortDate() const {
 
 std::string Date::AbbreviatedDate() const { return DateSource::text(*this, DateSource::Form::abbreviatedDate); }
 std::string Date::LongDate() const { return DateSource::text(*this, DateSource::Form::longDate); }
+std::string Date::MonthAndDay() const { return DateSource::text(*this, DateSource::Form::monthAndDay); }
 std::string Date::ShortTime() const { return DateSource::text(*this, DateSource::Form::shortTime); }
 std::string Date::LongTime() const { return DateSource::text(*this, DateSource::Form::longTime); }
 
@@ -221,6 +207,21 @@ double Date::TotalSeconds() const {
 int Ticks() {
     using Sixtieths = std::chrono::duration<int, std::ratio<1, 60>>;
     return std::chrono::duration_cast<Sixtieths>(std::chrono::steady_clock::now().time_since_epoch()).count();
+}
+
+std::optional<Date> nearestDay(int twoDigits, int month, int day) {
+    const Date today = DateSource::now();
+    const int century = today.Year() - today.Year() % 100;
+    const auto distance = [&](const Date& date) { return std::abs(date.TotalSeconds() - today.TotalSeconds()); };
+    std::optional<Date> nearest;
+    for (const int year : {century - 100 + twoDigits, century + twoDigits, century + 100 + twoDigits}) {
+        if (!Date::isDay(year, month, day))
+            continue;
+        const Date date(year, month, day);
+        if (!nearest || distance(date) < distance(*nearest))
+            nearest = date;
+    }
+    return nearest;
 }
 
 std::optional<Date> ParseDate(std::string_view text) {

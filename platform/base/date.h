@@ -32,6 +32,7 @@ public:
     // The other forms of the locale; without one ISO: "2026-11-22", "14:05", "14:05:09"
     std::string AbbreviatedDate() const;
     std::string LongDate() const;
+    std::string MonthAndDay() const;
     std::string ShortTime() const;
     std::string LongTime() const;
     /// Seconds since the first midnight of the year 1; never negative, and below 10^12.
@@ -56,6 +57,9 @@ private:
 /// ("2026-11-22"). Nothing for a text that is none of these, or a day that does not exist.
 [[nodiscard]] std::optional<Date> ParseDate(std::string_view text);
 
+/// The day whose year ends in these two digits and that lies nearest to today; nothing if no such day exists.
+[[nodiscard]] std::optional<Date> nearestDay(int twoDigits, int month, int day);
+
 /// Sixtieths of a second since some moment before the program started.
 int Ticks();
 
@@ -67,7 +71,7 @@ extern std::function<Date()> now;
 /// apostrophes too. A pattern that is not one day, one month and one year in figures gives "yyyy-MM-dd".
 void setShortPattern(std::string_view pattern);
 /// The forms of a date that are only read by people, never back by the program.
-enum class Form { abbreviatedDate, longDate, shortTime, longTime };
+enum class Form { abbreviatedDate, longDate, monthAndDay, shortTime, longTime };
 /// The text of a moment in such a form of the locale.
 extern std::function<std::string(const Date&, Form)> text;
 } // namespace DateSource

@@ -46,7 +46,11 @@ void setUpFormats() {
     DateSource::setShortPattern(fromQt(locale.dateFormat(QLocale::ShortFormat)));
     // The long form of a time names its zone, which a moment on the wall clock does not have.
     const QRegularExpression timeZone(QStringLiteral(R"([,\s(\[]*t+[)\]]*)"));
-    DateSource::text = [locale, timeZone](const Date& date, DateSource::Form form) {
+    // What the long form of a date has besides month and day.
+    const QRegularExpression weekday(QStringLiteral(R"([\s,]*dddd[\s,]*)"));
+    const QRegularExpression year(QStringLiteral(R"((\s*'[^']*')?[\s,]*y+[^\sMd']*)"));
+    const QString monthAndDay = locale.dateFormat().remove(weekday).remove(year).trimmed();
+    DateSource::text = [locale, timeZone, monthAndDay](const Date& date, DateSource::Form form) {
         const QTime time(date.Hour(), date.Minute(), date.Second());
         switch (form) {
         case DateSource::Form::abbreviatedDate:
@@ -55,6 +59,8 @@ void setUpFormats() {
                                                           .replace(QStringLiteral("MMMM"), QStringLiteral("MMM"))));
         case DateSource::Form::longDate:
             return fromQt(locale.toString(toQt(date), QLocale::LongFormat));
+        case DateSource::Form::monthAndDay:
+            return fromQt(locale.toString(toQt(date), monthAndDay));
         case DateSource::Form::shortTime:
             return fromQt(locale.toString(time, QLocale::ShortFormat));
         case DateSource::Form::longTime:

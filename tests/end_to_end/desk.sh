@@ -81,6 +81,9 @@ come_back() {
 
 active() { [[ $(xdotool getwindowfocus) == "$1" ]]; }
 
+# A message or a question before the main window.
+has_question() { has_keys Tallyvane && ! active "$window"; }
+
 has_keys() { [[ $(xdotool getwindowfocus getwindowname) == "$1" ]]; }
 
 # Chooses the item of the File menu that is so many below the first one that is enabled.

@@ -2,6 +2,8 @@
 
 #include "platform/base/date.h"
 #include "platform/base/number.h"
+#include "platform/base/text.h"
+#include "platform/files/text_output_stream.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
 #include "settings/prefs_module.h"
@@ -33,11 +35,26 @@ void TestDesk::useApplicationFolder() const {
 }
 
 std::string TestDesk::wholeDays(int count) {
-    std::string table;
+    std::string lines;
     for (int day = 1; day <= count; ++day)
-        table += "1/" + std::to_string(day) + "/2026@#@5.5@#@@#@@#@@#@@#@@#@@#@5.5@#@@#@" +
-                 Format(Date(2026, 1, day).TotalSeconds(), "000000000000") + "\n";
-    return table;
+        lines += "1/" + std::to_string(day) + "/2026@#@5.5@#@@#@@#@@#@@#@@#@@#@5.5\n";
+    return asSaved(lines);
+}
+
+std::string TestDesk::asSaved(const std::string& lines) {
+    constexpr int fields = 11;
+    TextInputStream stream(lines);
+    TextWriter saved;
+    while (!stream.EndOfFile()) {
+        FieldWalk walk(stream.ReadLine(), DataFiles::fieldSeparator);
+        Texts texts(fields);
+        for (std::string& text : texts)
+            text = walk.next();
+        if (const std::optional<Date> date = ParseDate(texts.front()))
+            texts.back() = Format(date->TotalSeconds(), "000000000000");
+        saved.WriteFields(texts, DataFiles::fieldSeparator);
+    }
+    return saved.text();
 }
 
 } // namespace tallyvane

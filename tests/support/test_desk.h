@@ -17,6 +17,8 @@ protected:
     void useApplicationFolder() const;
     /// The file of the table with so many whole days of January 2026, "5.5" before breakfast.
     static std::string wholeDays(int count);
+    /// Lines of the table as the program would have saved them: with all fields, and the keys of their dates.
+    static std::string asSaved(const std::string& lines);
 };
 
 } // namespace tallyvane
