@@ -1,8 +1,7 @@
-/// Dates of the table that were written on a desktop with another form of dates. A row's key tells the day that was
-/// meant, whatever the desktop.
+/// Dates that were written on a desktop with another form of dates, and the days that they mean.
 #pragma once
 
-#include <optional>
+#include <string>
 #include <vector>
 
 #include "platform/base/date.h"
@@ -10,38 +9,40 @@
 
 namespace tallyvane::DateForms {
 
-/// A row, and the day that its date means.
+/// A date as it was read from a file, with the key behind it; "" for none.
+struct DatedRow {
+    std::string date;
+    std::string key;
+};
+
+/// A row, its date as it is written, and the day that this means.
 struct MeantDay {
     int row = 0;
+    std::string date;
     Date day;
 
     bool operator==(const MeantDay&) const = default;
 };
 
 struct Findings {
-    /// Rows whose text is in another form: it reads as another day than it means, or as none. If no date at all is in
+    /// Rows whose date is in another form: it reads as another day than it means, or as none. If no date at all is in
     /// the user's form, those too that can be read. If there are such rows, those too that lack or have leading zeros.
     std::vector<MeantDay> otherForm;
 
-    /// Rows without a key whose texts all fit two orders, by both; empty when there are none.
-    struct TwoWays {
-        std::vector<MeantDay> one;
-        std::vector<MeantDay> other;
-    };
-    TwoWays twoWays;
+    /// All rows without a key, by each of the orders that fit them all; empty unless there are several.
+    std::vector<std::vector<MeantDay>> ways;
 
-    bool isEmpty() const { return otherForm.empty() && twoWays.one.empty(); }
+    bool isEmpty() const { return otherForm.empty() && ways.empty(); }
 };
 
-/// Looks at the rows from `first` on, with the keys that they came with: before keys are made anew. The texts without a
-/// key are taken together: what fits them all, and brings their rows in order, is what they mean.
-[[nodiscard]] Findings find(const Listbox& table, int first = 0);
+/// Looks at rows with the keys that they came with. The dates without a key are taken together: what fits them all, and
+/// brings their rows in order, is what they mean.
+[[nodiscard]] Findings find(const std::vector<DatedRow>& rows);
 
-/// Writes the days in the user's form.
-void rewrite(Listbox& table, const std::vector<MeantDay>& days);
+/// The rows of a table.
+[[nodiscard]] std::vector<DatedRow> rowsOf(const Listbox& table);
 
-/// Of a list, the row whose text is most easily taken for another day: the first of which that is true, or just the
-/// first. The list must not be empty.
-[[nodiscard]] const MeantDay& example(const Listbox& table, const std::vector<MeantDay>& days);
+/// Writes the days in the user's form. Row 0 of the list of days is that row of the table.
+void rewrite(Listbox& table, const std::vector<MeantDay>& days, int firstRow = 0);
 
 } // namespace tallyvane::DateForms

@@ -8,9 +8,8 @@
 
 namespace tallyvane::DateQuestion {
 
-/// Asks whether dates in another form are to be shown in the user's, and what those mean that can be read in two ways.
-/// The days that are to be rewritten; nothing when the program was ended before the user had answered.
-[[nodiscard]] std::optional<std::vector<DateForms::MeantDay>> ask(const Listbox& table,
-                                                                  const DateForms::Findings& findings);
+/// Asks whether dates in another form are to be shown in the user's, and what those mean that can be read in several
+/// ways. The days that are to be rewritten; nothing when the program was ended before the user had answered.
+[[nodiscard]] std::optional<std::vector<DateForms::MeantDay>> ask(const DateForms::Findings& findings);
 
 } // namespace tallyvane::DateQuestion

@@ -1,5 +1,6 @@
 #include "diary/date_window.h"
 
+#include "diary/date_key.h"
 #include "diary/day_table.h"
 #include "platform/base/translation.h"
 #include "platform/windows/wiring.h"
@@ -39,6 +40,7 @@ void DateWindow::PushButton1_Action() {
     const std::string date = CalendarControl1.SelectedDate().ShortDate();
     days_.beginStep(tr("Change of Date to %1", {date}));
     days_.Cell(days_.ListIndex(), DayTable::dateColumn, date);
+    days_.Cell(days_.ListIndex(), DayTable::firstKey, DateKey::of(CalendarControl1.SelectedDate()));
     if (dateChanged)
         dateChanged();
     Close();

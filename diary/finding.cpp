@@ -4,8 +4,8 @@
 #include <set>
 #include <string>
 
+#include "diary/date_key.h"
 #include "diary/day_table.h"
-#include "diary/sort_keys.h"
 #include "platform/base/number.h"
 
 namespace tallyvane::Finding {
@@ -24,7 +24,7 @@ struct KeyRange {
     std::string last;
 
     explicit KeyRange(const Period& period)
-        : first(SortKeys::dateKey(startOf(period.first))), last(SortKeys::dateKey(startOf(period.second))) {}
+        : first(DateKey::of(startOf(period.first))), last(DateKey::of(startOf(period.second))) {}
     bool hold(const std::string& key) const { return key >= first && key <= last; }
     static Date startOf(const Date& day) { return {day.Year(), day.Month(), day.Day()}; }
 };

@@ -2,15 +2,14 @@
 
 #include <algorithm>
 
+#include "diary/date_key.h"
 #include "diary/day_table.h"
-#include "platform/base/number.h"
 #include "platform/base/text.h"
 
 namespace tallyvane::SortKeys {
 
 namespace {
 
-constexpr int dateKeyDigits = 12;
 constexpr int valueKeyLength = 4;
 
 std::string paddedTo(int length, std::string text) {
@@ -18,9 +17,13 @@ std::string paddedTo(int length, std::string text) {
     return text.insert(0, static_cast<std::size_t>(missing), '0');
 }
 
-} // namespace
+/// A date that reads as another day here than the one that its writer meant keeps its key.
+bool isOfAnotherDesktop(const std::string& text, const Date& read, const std::string& key) {
+    const std::optional<Date> meant = DateKey::dayOf(key);
+    return meant && *meant != read && DateKey::meansElsewhere(text, *meant);
+}
 
-std::string dateKey(const Date& date) { return paddedTo(dateKeyDigits, Str(date.TotalSeconds())); }
+} // namespace
 
 std::string valueKey(std::string_view text) {
     std::string digits(text);
@@ -33,8 +36,10 @@ std::string valueKey(std::string_view text) {
 void rebuild(Listbox& table) {
     using namespace DayTable;
     for (int row = 0; row < table.ListCount(); ++row) {
-        if (const std::optional<Date> date = ParseDate(table.Cell(row, dateColumn)))
-            table.Cell(row, firstKey, dateKey(*date));
+        const std::string& text = table.Cell(row, dateColumn);
+        const std::optional<Date> date = ParseDate(text);
+        if (date && !isOfAnotherDesktop(text, *date, table.Cell(row, firstKey)))
+            table.Cell(row, firstKey, DateKey::of(*date));
         for (int column = firstReading; column <= weightColumn; ++column)
             table.Cell(row, column + firstKey, valueKey(table.Cell(row, column)));
     }

@@ -5,18 +5,16 @@
 #include <string>
 #include <string_view>
 
-#include "platform/base/date.h"
 #include "platform/controls/listbox.h"
 
 namespace tallyvane::SortKeys {
 
-/// The date's seconds in twelve digits, so that the order of the texts is that of the days.
-std::string dateKey(const Date& date);
 /// The digits of a value with one decimal, padded to four characters: "5.6" gives "0056". In order for values below
 /// 1000 with at most one decimal; a second decimal counts as a place more.
 std::string valueKey(std::string_view text);
 
-/// Writes the keys of all rows. A date that can't be read keeps the key it has.
+/// Writes the keys of all rows. A date that can't be read keeps the key it has, and so does one of another desktop,
+/// which reads as another day here than the one its key tells.
 void rebuild(Listbox& table);
 /// Sorts by a visible column: ascending, and the other way round at the next time. The keys of the values are taken
 /// as they are. False, and nothing done, for any other column.

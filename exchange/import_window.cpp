@@ -99,12 +99,18 @@ void importWindow::continueReading(ImportReader::Milliseconds time) {
 
 /// Appends the rows and selects them, which raises Change and so updates the averages.
 void importWindow::appendRows(std::vector<ImportReader::Row> rows) {
+    std::vector<DateForms::DatedRow> dates;
+    for (const ImportReader::Row& row : rows)
+        dates.push_back({row.front(), ""});
+    const DateForms::Findings found = DateForms::find(dates);
+    const auto rewritten = found.isEmpty() ? std::vector<DateForms::MeantDay>{} : DateQuestion::ask(found);
+    if (!rewritten)
+        return; // the program was ended: nobody knows what the dates mean
     const int first = days_.ListCount();
     days_.beginStep(rows.size() == 1 ? tr("Import of 1 Day")
                                      : tr("Import of %1 Days", {Grouped(static_cast<int>(rows.size()))}));
     days_.AddRows(std::move(rows));
-    if (const DateForms::Findings dates = DateForms::find(days_, first); !dates.isEmpty())
-        DateForms::rewrite(days_, DateQuestion::ask(days_, dates).value_or(std::vector<DateForms::MeantDay>{}));
+    DateForms::rewrite(days_, *rewritten, first);
     SortKeys::rebuild(days_);
     std::vector<bool> isNew(static_cast<std::size_t>(days_.ListCount()));
     std::fill(isNew.begin() + first, isNew.end(), true);

@@ -13,12 +13,6 @@
 #include "settings/globals.h"
 #include "settings/unsaved_files.h"
 
-// A process for each save would make the fuzzer a hundred times slower: the saves are done in place of it.
-extern "C" pid_t fork() {
-    errno = EAGAIN;
-    return -1;
-}
-
 namespace tallyvane::Fuzz {
 
 namespace {

@@ -6,6 +6,7 @@
 #include "platform/base/number.h"
 #include "platform/base/text.h"
 #include "platform/base/translation.h"
+#include "platform/base/written_date.h"
 #include "platform/files/replacement.h"
 #include "platform/files/system_files.h"
 #include "settings/data_files.h"
@@ -30,11 +31,13 @@ int fieldsIn(std::string_view line) {
     return fields;
 }
 
-/// A day with all its fields and, behind the last separator, its date's key.
+/// A day with all its fields and, behind the last separator, its date's key. What is no date has none.
 bool isWholeDay(std::string_view line) {
-    const std::size_t key = line.rfind(DataFiles::fieldSeparator);
-    return fieldsIn(line) == fieldsOfDay && !hasLostBlocks(line) &&
-           isNumber(line.substr(key + DataFiles::fieldSeparator.size()));
+    if (fieldsIn(line) != fieldsOfDay || hasLostBlocks(line))
+        return false;
+    const std::string_view date = line.substr(0, line.find(DataFiles::fieldSeparator));
+    const std::string_view key = line.substr(line.rfind(DataFiles::fieldSeparator) + DataFiles::fieldSeparator.size());
+    return isNumber(key) || !WrittenDate::in(date);
 }
 
 struct Days {
@@ -116,6 +119,8 @@ bool tableIsUnreadable() {
     return SystemFiles::kindOf(path) == SystemFiles::Kind::file && !SystemFiles::read(path);
 }
 
+bool isWholeTable(const std::string& table) { return daysIn(table).damaged == 0; }
+
 std::vector<Copy> findFullerCopies(const Date& today) {
     using UnsavedFiles::UserFile;
     std::vector<Copy> copies;
@@ -146,7 +151,7 @@ std::string restore(const Copy& copy, const std::string& whyNotKept) {
     std::string why = whyNotKept;
     try {
         if (why.empty())
-            writeFile(copy.file.place->AbsolutePath(), *content);
+            writeFile(copy.file.place->AbsolutePath(), *content, Replacement::Recorded::always);
     } catch (const IOException& failure) {
         why = failure.why();
     }

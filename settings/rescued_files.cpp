@@ -125,7 +125,7 @@ std::optional<Failure> putInPlace(const Rescued& file) {
     const UnsavedFiles::UserFile target{file.what, file.name, GetFolderItem(file.place), false};
     try {
         UnsavedFiles::backUpCurrent(file.place, *content);
-        writeFile(file.place, *content);
+        writeFile(file.place, *content, Replacement::Recorded::always);
     } catch (const IOException& failure) { // it is shown all the same, and saved as soon as that is possible
         UnsavedFiles::addUnsaved(target, *content, failure.why());
         const std::string keptAt = settle(file);

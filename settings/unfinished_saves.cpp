@@ -4,6 +4,7 @@
 #include "platform/files/replacement.h"
 #include "platform/files/save_record.h"
 #include "platform/files/system_files.h"
+#include "settings/data_files.h"
 #include "settings/unsaved_files.h"
 
 namespace tallyvane::UnfinishedSaves {
@@ -21,8 +22,16 @@ std::string finish(const FolderItem& folder, const FolderItem& file, const SaveR
     const Fingerprint print = Fingerprint::of(present);
     const bool isDamaged = !present.empty() && print != record.before && print != Fingerprint::of(record.content);
     std::string keptAt = isDamaged ? keepDamaged(folder, file, present) : "";
-    writeFile(record.path, record.content);
+    writeFile(record.path, record.content, Replacement::Recorded::always);
     return keptAt;
+}
+
+/// The file's path within the application's folder; just its name if it is elsewhere.
+std::string nameAmongFiles(const FolderItem& file) {
+    const std::optional<FolderItem> folder = DataFiles::applicationFolder();
+    const std::string beginning = folder ? folder->AbsolutePath() + "/" : "/";
+    const std::string& path = file.AbsolutePath();
+    return path.starts_with(beginning) && folder ? path.substr(beginning.size()) : file.Name();
 }
 
 /// A place where nothing, or a file that can be read, stands.
@@ -37,9 +46,12 @@ bool canBeFinished(const FolderItem& file) {
 std::vector<Finished> finishAll(const std::function<bool(const std::optional<FolderItem>& folder)>& mayWriteIn) {
     std::vector<Finished> finished;
     for (const std::string& path : SaveRecords::all()) {
-        const std::optional<SaveRecord> record = SaveRecord::in(SystemFiles::read(path).value_or(""));
+        const std::optional<std::string> text = SystemFiles::read(path);
+        if (!text)
+            continue; // a later start may be able to
+        const std::optional<SaveRecord> record = SaveRecord::in(*text);
         if (!record) {
-            static_cast<void>(SystemFiles::remove(path)); // cut off before the file was touched
+            static_cast<void>(SystemFiles::remove(path));
             continue;
         }
         const std::optional<FolderItem> file = GetFolderItem(record->path);
@@ -50,7 +62,7 @@ std::vector<Finished> finishAll(const std::function<bool(const std::optional<Fol
             if (const std::string keptAt = finish(*folder, *file, *record); !keptAt.empty())
                 finished.push_back({record->path, keptAt});
         } catch (const IOException& failure) {
-            UnsavedFiles::addUnsaved({file->Name(), file->Name(), file}, record->content, failure.why());
+            UnsavedFiles::addUnsaved({file->Name(), nameAmongFiles(*file), file}, record->content, failure.why());
         }
     }
     return finished;

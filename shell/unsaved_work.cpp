@@ -3,6 +3,7 @@
 #include <array>
 
 #include "platform/base/date.h"
+#include "platform/base/number.h"
 #include "platform/base/translation.h"
 #include "platform/desktop/desktop.h"
 #include "platform/files/system_files.h"
@@ -85,8 +86,13 @@ void setAside(const std::vector<RescuedFiles::Rescued>& files) {
 /// What is damaged, and what the copy holds.
 std::string describe(const DamagedFiles::Copy& copy) {
     if (copy.file.name == DataFiles::dayTable)
-        return tr("The file with your days is empty or cut off: it holds %1 whole days. The copy of %2 holds %3 days.",
-                  {std::to_string(copy.daysOfTable), copy.day.ShortDate(), std::to_string(copy.days)});
+        return copy.daysOfTable == 1
+                   ? tr("The file with your days is empty or cut off: it holds 1 whole day. The copy of %1 holds %2 "
+                        "days.",
+                        {copy.day.ShortDate(), Grouped(copy.days)})
+                   : tr("The file with your days is empty or cut off: it holds %1 whole days. The copy of %2 holds %3 "
+                        "days.",
+                        {Grouped(copy.daysOfTable), copy.day.ShortDate(), Grouped(copy.days)});
     return tr("%1: the file is empty or cut off. The copy of %2 holds more.", {copy.file.what, copy.day.ShortDate()});
 }
 

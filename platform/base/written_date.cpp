@@ -1,5 +1,7 @@
 #include "platform/base/written_date.h"
 
+#include <algorithm>
+
 #include "platform/base/text.h"
 
 namespace tallyvane {
@@ -8,6 +10,7 @@ namespace {
 
 constexpr std::size_t longYear = 4;
 constexpr std::size_t shortYear = 2;
+constexpr std::size_t longestSeparator = 4; // bytes: a blank and a sign, or one of other scripts
 
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
@@ -36,7 +39,15 @@ std::optional<WrittenDate> WrittenDate::in(std::string_view text) {
         rest.remove_prefix(digits);
         date.separators_[i + 1] = takeSeparator(rest);
     }
-    return rest.empty() ? std::optional(date) : std::nullopt;
+    const bool hasWords = std::any_of(date.separators_.begin(), date.separators_.end(),
+                                      [](const std::string& separator) { return separator.size() > longestSeparator; });
+    return rest.empty() && !hasWords ? std::optional(date) : std::nullopt;
+}
+
+bool WrittenDate::isAlike(const WrittenDate& other) const {
+    return separators_ == other.separators_ &&
+           std::equal(numbers_.begin(), numbers_.end(), other.numbers_.begin(),
+                      [](const Number& a, const Number& b) { return a.value == b.value; });
 }
 
 WrittenDate::Fields WrittenDate::fieldsIn(DateOrder order) const {
@@ -62,8 +73,7 @@ std::optional<Date> WrittenDate::as(DateOrder order) const {
     const auto [year, month, day] = fieldsIn(order);
     if (month.digits > 2 || day.digits > 2)
         return std::nullopt;
-    const bool isYearLast = order == DateOrder::dayMonthYear || order == DateOrder::monthDayYear;
-    if (year.digits == shortYear && isYearLast)
+    if (year.digits == shortYear)
         return nearestDay(year.value, month.value, day.value);
     if (year.digits != longYear || !Date::isDay(year.value, month.value, day.value))
         return std::nullopt;

@@ -28,8 +28,9 @@ Difference differenceOf(const std::string& before, const std::string& after) {
 }
 
 /// Turns the file from one content into another and sees it to the disk.
-void overwrite(PlainFile& file, const std::string& before, const std::string& after) {
-    const Difference range = differenceOf(before, after);
+void overwrite(PlainFile& file, const std::string& before, const std::string& after, const Difference& range) {
+    if (after.size() > before.size())
+        file.reserve(after.size());
     file.write(std::string_view(after).substr(range.begin, range.end - range.begin), range.begin);
     if (after.size() < before.size())
         file.cut(after.size());
@@ -46,7 +47,8 @@ void restore(PlainFile& file, const std::string& content) {
 } // namespace
 
 Replacement::Replacement(std::unique_ptr<PlainFile> file, std::string path, Recorded recorded)
-    : file_(std::move(file)), path_(std::move(path)), isRecorded_(recorded == Recorded::always || !file_->isNew()) {}
+    : file_(std::move(file)), path_(std::move(path)), isRecorded_(recorded == Recorded::always || !file_->isNew()),
+      wasRecorded_(SaveRecords::isKept(path_)) {}
 
 std::unique_ptr<Replacement> Replacement::open(const std::string& path, Recorded recorded, std::string* why) {
     std::unique_ptr<PlainFile> file = PlainFile::openOrMake(path, why);
@@ -61,28 +63,18 @@ Replacement::~Replacement() {
 }
 
 void Replacement::overwriteOrRestore(const std::string& before, const std::string& after) {
+    // What a failed flush has not taken counts as written all the same, so nothing is left out after one.
+    const Difference range = wasRecorded_ ? Difference{0, after.size()} : differenceOf(before, after);
     try {
-        overwrite(*file_, before, after);
+        overwrite(*file_, before, after, range);
     } catch (const IOException& failure) {
         try {
             restore(*file_, before);
         } catch (const IOException&) { // the record stays
             throw failure;
         }
-        SaveRecords::drop(path_);
-        throw;
-    }
-}
-
-/// Reserves the room that a longer text takes; without it the save ends here, and leaves neither room nor record.
-void Replacement::reserve(std::size_t before, std::size_t after) {
-    if (after <= before)
-        return;
-    try {
-        file_->reserve(after);
-    } catch (const IOException&) {
-        SaveRecords::drop(path_);
-        file_->cut(before); // gives back what could be reserved
+        if (!wasRecorded_) // else what was put back is no whole table
+            SaveRecords::drop(path_);
         throw;
     }
 }
@@ -91,10 +83,9 @@ void Replacement::replace(const std::string& text) {
     const std::optional<std::string> before = file_->read();
     if (!before)
         throw IOException("can't read the file that is to be replaced: " + path_, tr("it is unreadable or too large"));
-    if (before != text || file_->isNew() || SaveRecords::isKept(path_)) {
+    if (before != text || file_->isNew() || wasRecorded_) {
         if (isRecorded_)
             SaveRecords::keep({path_, Fingerprint::of(*before), text});
-        reserve(before->size(), text.size());
         overwriteOrRestore(*before, text);
         isReplaced_ = true;
         if (file_->isNew() && !SystemFiles::flushFolderOf(path_))

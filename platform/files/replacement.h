@@ -35,18 +35,17 @@ public:
 
 private:
     Replacement(std::unique_ptr<PlainFile> file, std::string path, Recorded recorded);
-    void reserve(std::size_t before, std::size_t after);
     void overwriteOrRestore(const std::string& before, const std::string& after);
 
     std::unique_ptr<PlainFile> file_;
     std::string path_;
     bool isRecorded_;
+    bool wasRecorded_; // an earlier save has left a record: nobody knows what of it the disk has taken
     bool isReplaced_ = false;
 };
 
 /// Replaces the content of a file by `text`; creates the file if there is none. Throws IOException when it can't be
 /// opened, and as Replacement::replace does.
-void writeFile(const std::string& path, const std::string& text,
-               Replacement::Recorded recorded = Replacement::Recorded::always);
+void writeFile(const std::string& path, const std::string& text, Replacement::Recorded recorded);
 
 } // namespace tallyvane

@@ -94,6 +94,14 @@ std::string& folder() {
     return path;
 }
 
+/// Whether a file of that name is a record, or what a save left of one.
+bool isNameOfRecord(std::string_view name) {
+    if (name.ends_with(partEnding))
+        name.remove_suffix(partEnding.size());
+    return name.starts_with(nameBeginning) &&
+           name.find_first_not_of("0123456789abcdef", nameBeginning.size()) == std::string_view::npos;
+}
+
 std::string recordPath(const std::string& path) {
     return folder() + "/" + std::string(nameBeginning) + hex(XXH3_64bits(path.data(), path.size()));
 }
@@ -108,9 +116,13 @@ void keep(const SaveRecord& record) {
     const std::string path = recordPath(record.path);
     const std::string part = path + std::string(partEnding);
     static_cast<void>(SystemFiles::remove(part)); // of a save that was cut off
-    const std::unique_ptr<PlainFile> file = PlainFile::openOrMake(part);
+    std::string why;
+    const std::unique_ptr<PlainFile> file = PlainFile::openOrMake(part, &why);
+    if (!file && !SystemFiles::canWriteIn(folder()))
+        return;
     if (!file)
-        return; // a folder that is not there or can't be written in
+        throw IOException("can't make the record of a save", why);
+    const bool wasKept = isKept(record.path);
     try {
         const std::string text = record.text();
         file->write(text, 0);
@@ -121,6 +133,8 @@ void keep(const SaveRecord& record) {
             throw IOException("can't enter the record of the save into its folder");
     } catch (const IOException&) {
         static_cast<void>(SystemFiles::remove(part));
+        if (!wasKept) // else the file may be half written, and the record is what can mend it
+            static_cast<void>(SystemFiles::remove(path));
         throw;
     }
 }
@@ -138,9 +152,9 @@ std::vector<std::string> all() {
     std::vector<std::string> paths;
     for (const std::string& name : folder().empty() ? std::vector<std::string>{} : SystemFiles::namesIn(folder())) {
         const std::string path = folder() + "/" + name;
-        if (name.starts_with(nameBeginning) && !name.ends_with(partEnding))
+        if (isNameOfRecord(name) && !name.ends_with(partEnding))
             paths.push_back(path);
-        else if (name.starts_with(nameBeginning))
+        else if (isNameOfRecord(name))
             static_cast<void>(SystemFiles::remove(path)); // what it was to save is untouched
     }
     return paths;

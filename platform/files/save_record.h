@@ -39,7 +39,7 @@ namespace SaveRecords {
 void useFolder(const std::string& path);
 
 /// Writes the record and sees it to the disk, in place of an older one of the same file. Throws IOException when the
-/// disk fails; nothing is done where there is no folder to write in.
+/// disk fails; nothing is done where the folder is not there or not to be written in.
 void keep(const SaveRecord& record);
 /// Whether there is a record for the file of that path.
 bool isKept(const std::string& path);

@@ -21,6 +21,9 @@ Kind kindOf(const std::string& path);
 /// missed by whoever writes there.
 void makeFolders(const std::string& path);
 
+/// Whether files can be made in a folder, as far as its rights and its disk's tell.
+[[nodiscard]] bool canWriteIn(const std::string& folder);
+
 /// Leaves a folder to its owner alone, if that is who runs the program: one that came from another computer may be open
 /// to all.
 void closeToOthers(const std::string& folder);

@@ -54,6 +54,8 @@ void makeFolders(const std::string& path) {
     static_cast<void>(makeFolder(path));
 }
 
+bool canWriteIn(const std::string& folder) { return !hasNul(folder) && ::access(folder.c_str(), W_OK | X_OK) == 0; }
+
 void closeToOthers(const std::string& folder) {
     struct stat status {};
     if (!hasNul(folder) && ::stat(folder.c_str(), &status) == 0 && status.st_uid == ::geteuid() &&
@@ -108,7 +110,7 @@ bool moveOver(const std::string& from, const std::string& to) { return ::rename(
 bool flushFolderOf(const std::string& path) {
     const int folder = ::open(path.substr(0, path.rfind('/') + 1).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (folder < 0)
-        return true; // a folder that may be written but not read
+        return errno == EACCES; // it may be written but not read
     const bool flushed = flush(folder) || errno == EINVAL; // some disks know no such thing
     ::close(folder);
     return flushed;

@@ -28,7 +28,7 @@ QNetworkRequest requestFor(const std::string& address) {
 }
 
 bool isOnTheSameServer(const QUrl& target, const QUrl& origin) {
-    constexpr int usualPort = 80;
+    const int usualPort = origin.scheme() == QStringLiteral("https") ? 443 : 80;
     return target.scheme() == origin.scheme() && target.host() == origin.host() &&
            target.port(usualPort) == origin.port(usualPort);
 }

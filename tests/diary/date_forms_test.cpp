@@ -1,8 +1,8 @@
 #include "diary/date_forms.h"
 
+#include "diary/date_key.h"
 #include "diary/date_question.h"
 #include "diary/day_table.h"
-#include "diary/sort_keys.h"
 #include "support/diary_desk.h"
 
 namespace tallyvane {
@@ -26,15 +26,16 @@ protected:
         for (const Day& day : days) {
             table_.AddRow(day.text);
             if (day.key)
-                table_.Cell(table_.LastIndex(), DayTable::firstKey, SortKeys::dateKey(*day.key));
+                table_.Cell(table_.LastIndex(), DayTable::firstKey, DateKey::of(*day.key));
         }
     }
+    DateForms::Findings findings() const { return DateForms::find(DateForms::rowsOf(table_)); }
     /// What the findings would write, row by row: "" for a row that stays.
     Texts rewritten(const std::vector<Day>& days) {
         fill(days);
         Texts texts(days.size());
-        for (const auto& [row, day] : DateForms::find(table_).otherForm)
-            texts[static_cast<std::size_t>(row)] = day.isoDate();
+        for (const DateForms::MeantDay& meant : findings().otherForm)
+            texts[static_cast<std::size_t>(meant.row)] = meant.day.isoDate();
         return texts;
     }
 };
@@ -62,6 +63,7 @@ TEST_F(DateFormsTest, TheKeyTellsWhatATextMeant) {
         {"leading zeros are no other form", {{"04/03/2026", april3}}, {""}},
         {"but go along", {{"04/03/2026", april3}, {"20/5/2026", may20}}, {"2026-04-03", "2026-05-20"}},
         {"no dates", {{"holiday", april3}, {"", april3}, {"1/2", april3}, {"1.2.3.4", april3}}, {"", "", "", ""}},
+        {"words of the user's", {{"3/4/2026 (fasting)", april3}}, {""}},
         {"beyond all calendars", {{"3/4/99999", april3}, {"99999999999/4/3", april3}}, {"", ""}},
     };
     for (const Row& row : rows)
@@ -81,13 +83,16 @@ TEST_F(DateFormsTest, TextsWithoutAKeyAreReadTogether) {
               (Texts{"", "2026-04-03", "2026-04-20"}));
     EXPECT_EQ(rewritten({{"20/4/2026", none}, {"4/20/2026", none}}), (Texts{"", ""})) << "fits no order";
 
+    using Days = std::vector<DateForms::MeantDay>;
     fill({{"3/4/2026", none}, {"5/4/2026", none}});
-    const DateForms::Findings twoWays = DateForms::find(table_);
-    EXPECT_TRUE(twoWays.otherForm.empty());
-    EXPECT_EQ(twoWays.twoWays.one, (std::vector<DateForms::MeantDay>{{0, Date(2026, 4, 3)}, {1, Date(2026, 4, 5)}}));
-    EXPECT_EQ(twoWays.twoWays.other, (std::vector<DateForms::MeantDay>{{0, Date(2026, 3, 4)}, {1, Date(2026, 5, 4)}}));
+    EXPECT_TRUE(findings().otherForm.empty());
+    EXPECT_EQ(findings().ways,
+              (std::vector<Days>{{{0, "3/4/2026", Date(2026, 4, 3)}, {1, "5/4/2026", Date(2026, 4, 5)}},
+                                 {{0, "3/4/2026", Date(2026, 3, 4)}, {1, "5/4/2026", Date(2026, 5, 4)}}}));
+    fill({{"26-04-03", none}});
+    EXPECT_EQ(findings().ways.size(), 2U) << "2003 or 2026";
     fill({{"3/3/2026", none}, {"5/5/2026", none}});
-    EXPECT_TRUE(DateForms::find(table_).isEmpty()) << "the same day in both";
+    EXPECT_TRUE(findings().isEmpty()) << "the same day in both";
 }
 
 TEST_F(DateFormsTest, TheUserIsAskedWithAnExample) {
@@ -96,7 +101,7 @@ TEST_F(DateFormsTest, TheUserIsAskedWithAnExample) {
     const auto ask = [this](std::optional<std::size_t> answer) {
         toolkit_.questions.clear();
         toolkit_.answers = {answer};
-        return DateQuestion::ask(table_, DateForms::find(table_));
+        return DateQuestion::ask(findings());
     };
     EXPECT_EQ(ask(0)->size(), 2U);
     EXPECT_EQ(toolkit_.questions, Texts{"2 dates were written in another form: 4/3/2026 is 2026-04-03. Show them in "
@@ -106,17 +111,41 @@ TEST_F(DateFormsTest, TheUserIsAskedWithAnExample) {
 
     fill({{"3/4/2026", std::nullopt}, {"5/4/2026", std::nullopt}});
     EXPECT_TRUE(ask(0)->empty()) << "they read so here";
-    EXPECT_EQ(toolkit_.questions, Texts{"2 dates can be read in two ways: 3/4/2026 may be 2026-04-03 or 2026-03-04. "
-                                        "Which is it?"});
-    EXPECT_EQ(ask(1), (std::vector<DateForms::MeantDay>{{0, Date(2026, 3, 4)}, {1, Date(2026, 5, 4)}}));
+    EXPECT_EQ(toolkit_.questions,
+              Texts{"2 dates can be read in several ways. What is 3/4/2026?\n2026-04-03\n2026-03-04"});
+    EXPECT_EQ(ask(1)->size(), 2U);
     EXPECT_FALSE(ask(std::nullopt));
+}
+
+TEST_F(DateFormsTest, WhatIsLeftAsItIsKeepsItsDay) {
+    const std::string file = asSaved("2/1/2026@#@5\n2/2/2026@#@6\n2/13/2026@#@7\n");
+    DateSource::setShortPattern("dd/MM/yyyy");
+    write(applicationFile("7VXData"), file);
+    Window1& window = open();
+    const auto savedDays = [&] {
+        window.doSortColumns();
+        window.saveData();
+        Texts found;
+        TextInputStream lines(read(applicationFile("7VXData")));
+        while (!lines.EndOfFile()) {
+            const std::string line(lines.ReadLine());
+            found.push_back(line.substr(0, line.find('@')) + line.substr(line.rfind('#')));
+        }
+        return found;
+    };
+    const Texts want{"2/1/2026#@063905500800", "2/2/2026#@063905587200", "2/13/2026#@063906537600"};
+    EXPECT_EQ(savedDays(), want) << "left alone";
+    window.rewriteDates(window.datesFound.otherForm);
+    EXPECT_EQ(table_.Cell(0, 0), "01/02/2026");
+    menuBar_.choose("EditUndo", &window);
+    EXPECT_EQ(savedDays(), want) << "undone";
 }
 
 TEST_F(DateFormsTest, EveryDesktopShowsTheSameDaysAndTheFirstItsOwnFile) {
     std::string file;
     for (int day = 1; day <= 28; ++day)
         file += "2/" + std::to_string(day) + "/2026@#@5.5@#@@#@@#@@#@@#@@#@@#@5.5@#@@#@" +
-                SortKeys::dateKey(Date(2026, 2, day)) + "\n";
+                DateKey::of(Date(2026, 2, day)) + "\n";
     write(applicationFile("7VXData"), file);
     for (const char* pattern : {"dd/MM/yyyy", "dd.MM.yy", "yyyy-MM-dd", "yyyy/MM/dd", "d MMM yyyy", "M/d/yy"}) {
         SCOPED_TRACE(pattern);

@@ -1,5 +1,7 @@
 #include "diary/sort_keys.h"
 
+#include "diary/date_key.h"
+
 #include "support/diary_desk.h"
 
 namespace tallyvane {
@@ -19,11 +21,11 @@ TEST_F(SortKeysTest, KeysOfValues) {
 }
 
 TEST_F(SortKeysTest, DateKeysSortAsTheDaysDo) {
-    const std::string early = SortKeys::dateKey(Date(1, 1, 1));
+    const std::string early = DateKey::of(Date(1, 1, 1));
     EXPECT_EQ(early, "000000000000");
-    EXPECT_LT(SortKeys::dateKey(Date(999, 12, 31)), SortKeys::dateKey(Date(1991, 4, 9)));
-    EXPECT_LT(SortKeys::dateKey(Date(1991, 4, 9)), SortKeys::dateKey(Date(1991, 4, 21)));
-    EXPECT_EQ(SortKeys::dateKey(Date(9999, 12, 31)).size(), early.size());
+    EXPECT_LT(DateKey::of(Date(999, 12, 31)), DateKey::of(Date(1991, 4, 9)));
+    EXPECT_LT(DateKey::of(Date(1991, 4, 9)), DateKey::of(Date(1991, 4, 21)));
+    EXPECT_EQ(DateKey::of(Date(9999, 12, 31)).size(), early.size());
 }
 
 TEST_F(SortKeysTest, AHeadingSortsAndTheNextPressTurnsItsOwnOrderRound) {

@@ -129,7 +129,7 @@ TEST_F(ExchangeTest, LinesBecomeRows) {
 TEST_F(ExchangeTest, AnImportIsUndoneAsOneStep) {
     table_.AddRow("1/1/2026");
     ListHistory history(table_);
-    write(path(), "1/2/2026,5\n1/3/2026,6\n");
+    write(path(), "1/13/2026,5\n1/14/2026,6\n");
     import();
     EXPECT_EQ(history.undoName(), "Import of 2 Days");
     history.undo();
@@ -138,6 +138,22 @@ TEST_F(ExchangeTest, AnImportIsUndoneAsOneStep) {
     history.redo();
     EXPECT_EQ(columnOf(table_, 1), (Texts{"", "5", "6"}));
     EXPECT_EQ(table_.SelectedCount(), 2);
+}
+
+TEST_F(ExchangeTest, DatesOfAnotherDesktopAreAskedAbout) {
+    write(path(), "3/4/2026,5\n20/4/2026,6\n");
+    toolkit_.answers = {0};
+    import();
+    EXPECT_EQ(toolkit_.questions,
+              Texts{"2 dates were written in another form: 3/4/2026 is 2026-04-03. Show them in your form?"});
+    EXPECT_EQ(columnOf(table_, 0), (Texts{"4/3/2026", "4/20/2026"}));
+    toolkit_.answers = {1};
+    import();
+    EXPECT_EQ(columnOf(table_, 0), (Texts{"4/3/2026", "4/20/2026", "3/4/2026", "20/4/2026"})) << "left as they are";
+    write(path(), "3/4/2026,5\n5/4/2026,6\n");
+    toolkit_.answers.clear();
+    import();
+    EXPECT_EQ(table_.ListCount(), 4) << "the program was ended: nobody knows what they mean";
 }
 
 TEST_F(ExchangeTest, WhatCannotBeReadChangesNothing) {

@@ -38,6 +38,8 @@ protected:
     std::filesystem::path table() const { return folder_ / "days" / "7VXData"; }
     UnsavedFiles::UserFile userFile() const { return {"Your days", "7VXData", GetFolderItem(table().string()), false}; }
 
+    void replace(const std::string& text) const { writeFile(table().string(), text, Replacement::Recorded::always); }
+
     /// What the next start reads; "" for no file.
     std::string afterStart() const {
         static_cast<void>(UnfinishedSaves::finishAll([](const auto&) { return true; }));
@@ -82,7 +84,7 @@ TEST_F(PowerCutsTest, EverySaveIsFoundDoneOrNotBegun) {
             std::filesystem::remove(table());
         else
             write(table(), row.old);
-        states += tryAll(row.old, row.fresh, [&] { writeFile(table().string(), row.fresh); });
+        states += tryAll(row.old, row.fresh, [&] { replace(row.fresh); });
     }
     std::cout << states << " states of a save\n";
 }
@@ -94,7 +96,7 @@ TEST_F(PowerCutsTest, WithoutARecordTheCheckFindsMixtures) {
     write(table(), old);
     std::size_t mixtures = 0;
     PowerCuts cuts(folder_);
-    writeFile(table().string(), fresh);
+    replace(fresh);
     cuts.visit([&](bool) { mixtures += read(table()) != old && read(table()) != fresh; });
     EXPECT_GT(mixtures, 0U) << "a check that finds nothing here checks nothing";
 }
@@ -111,7 +113,7 @@ TEST_F(PowerCutsTest, AFailedSaveLeavesTheOldTableOrTheNew) {
         PowerCuts cuts(folder_);
         {
             const FailingDisk disk(call, afterBytes, once);
-            EXPECT_THROW(writeFile(table().string(), fresh), IOException);
+            EXPECT_THROW(replace(fresh), IOException);
         }
         states += cuts.visit([&](bool) {
             const std::string found = afterStart();
@@ -127,6 +129,35 @@ TEST_F(PowerCutsTest, AFailedSaveLeavesTheOldTableOrTheNew) {
             fail(Call::write, bytes, once);
     }
     std::cout << states << " states of a failed save\n";
+}
+
+TEST_F(PowerCutsTest, AfterASaveThatCouldNotBePutBackTheNextOneIsAsSafe) {
+    const Texts texts{days(10, "5.5"), days(10, "7.7"), days(11, "8.8")};
+    std::size_t states = 0;
+    for (const bool failsAgain : {false, true})
+        for (const auto call : {FailingDisk::Call::write, FailingDisk::Call::flush}) {
+            SCOPED_TRACE(failsAgain * 10 + static_cast<int>(call));
+            write(table(), texts[0]);
+            static_cast<void>(afterStart());
+            PowerCuts cuts(folder_);
+            {
+                const FailingDisk disk(call, call == FailingDisk::Call::write ? 850 : 2, false);
+                EXPECT_THROW(replace(texts[1]), IOException);
+            }
+            if (failsAgain) {
+                const FailingDisk disk(FailingDisk::Call::reserve);
+                EXPECT_THROW(replace(texts[2]), IOException);
+            } else {
+                replace(texts[2]);
+            }
+            std::size_t wrong = 0;
+            states += cuts.visit([&](bool isAfterEnd) {
+                const std::string found = afterStart();
+                wrong += isAfterEnd ? found != texts[2] : std::find(texts.begin(), texts.end(), found) == texts.end();
+            });
+            EXPECT_EQ(wrong, 0U);
+        }
+    std::cout << states << " states of a save after a failed one\n";
 }
 
 TEST_F(PowerCutsTest, AStartThatIsCutOffIsMadeGoodByTheNext) {

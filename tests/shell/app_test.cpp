@@ -190,7 +190,7 @@ TEST_F(AppTest, AnUnwritableFolderIsReportedOnlyAtTheEnd) {
 
 TEST_F(AppTest, AFileOfTheCommandLineIsOfferedForImport) {
     const std::string path = (folder_ / "meter.csv").string();
-    write(path, "11/1/2026,5\n11/2/2026,7\n");
+    write(path, "11/13/2026,5\n11/14/2026,7\n");
     app_.offerForImport(path);
     app_.Event_Open();
     EXPECT_EQ(app_.windows().importing, nullptr) << "until the main window is there";

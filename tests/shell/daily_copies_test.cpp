@@ -38,7 +38,7 @@ TEST_F(DailyCopiesTest, TheUserIsAskedBeforeACopyComesBack) {
         app.Event_Open();
         EXPECT_EQ(
             toolkit_.questions,
-            Texts{"The file with your days is empty or cut off: it holds 1 whole days. The copy of 11/20/2026 holds "
+            Texts{"The file with your days is empty or cut off: it holds 1 whole day. The copy of 11/20/2026 holds "
                   "3 days. Do you want it back in its place? What the file holds now is kept as \u201c7VXData "
                   "damaged 2026-11-22\u201d."});
         EXPECT_EQ(read(applicationFile("7VXData damaged 2026-11-22")), cut);

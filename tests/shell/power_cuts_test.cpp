@@ -23,10 +23,14 @@ protected:
                 found[entry.path().string()] = read(entry.path());
         return found;
     }
-    /// Notes what each file holds between two saves; "" also for one that is not there.
+    /// Notes what each file holds between two saves; "" for one that is not there yet.
     void noteVersions() {
-        for (const auto& [path, content] : files())
+        const bool isFirst = versions_.empty();
+        for (const auto& [path, content] : files()) {
+            if (!isFirst && !versions_.contains(path))
+                versions_[path].insert("");
             versions_[path].insert(content);
+        }
     }
 
     std::map<std::string, std::set<std::string>> versions_;
@@ -74,13 +78,12 @@ TEST_F(RunPowerCutsTest, NoFileIsEverFoundHalfSaved) {
     const auto atTheEnd = files();
     const std::size_t states = cuts.visit([&](bool isAfterEnd) {
         SaveRecords::useFolder((folder_ / "Tallyvane").string());
-        EXPECT_TRUE(UnfinishedSaves::finishAll([](const auto&) { return true; }).size() < 2);
+        static_cast<void>(UnfinishedSaves::finishAll([](const auto&) { return true; }));
         SaveRecords::useFolder("");
         const auto found = files();
-        for (const auto& [path, content] : found)
-            if (path.find("damaged") == std::string::npos && path.find("unfinished") == std::string::npos)
-                if (!content.empty() && !versions_[path].contains(content))
-                    wrong.insert(path);
+        for (const auto& [path, contents] : versions_)
+            if (!contents.contains(found.contains(path) ? found.at(path) : ""))
+                wrong.insert(path);
         for (const auto& [path, content] : atTheEnd)
             if (isAfterEnd && (!found.contains(path) || found.at(path) != content))
                 wrong.insert(path + " after the end");

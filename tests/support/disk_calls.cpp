@@ -95,8 +95,12 @@ int ftruncate(int file, off_t size) noexcept {
 }
 
 int fsync(int file) {
-    if (!isAllowed(DiskCall::Kind::flush))
+    if (!isAllowed(DiskCall::Kind::flush)) {
+        if (done)
+            done({DiskCall::Kind::failedFlush, pathOf(file), {}, 0, {}});
+        errno = ENOSPC;
         return -1;
+    }
     return told(skipsFlushes ? 0 : ::syscall(SYS_fsync, file), [&] {
         return DiskCall{DiskCall::Kind::flush, pathOf(file), {}, 0, {}};
     });

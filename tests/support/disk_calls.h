@@ -9,7 +9,7 @@
 namespace tallyvane {
 
 struct DiskCall {
-    enum class Kind { make, makeFolder, reserve, write, cut, flush, move, remove };
+    enum class Kind { make, makeFolder, reserve, write, cut, flush, failedFlush, move, remove };
 
     Kind kind{};
     std::string path;
@@ -22,7 +22,7 @@ namespace DiskCalls {
 
 /// How many of so many bytes the call may take; 0 lets it fail with "no space left", also one without bytes.
 extern std::function<std::size_t(DiskCall::Kind kind, std::size_t bytes)> allowance;
-/// Hears of each call that has succeeded.
+/// Hears of each call that has succeeded, and of flushes that have failed.
 extern std::function<void(const DiskCall& call)> done;
 /// Leaves flushes out, where nobody pulls a plug.
 extern bool skipsFlushes;

@@ -118,16 +118,19 @@ std::vector<PowerCuts::Part> PowerCuts::partsOf(const DiskCall& call, std::size_
     }
 }
 
+/// A flush after one that has failed says nothing of what was written before that: the system takes it for done.
 bool PowerCuts::isFlushed(std::size_t event, std::size_t end) const {
     const Event& changed = events_[event];
     const std::string folder = folderOf(changed.call.kind == Kind::move ? changed.call.to : changed.call.path);
-    return std::any_of(events_.begin() + static_cast<std::ptrdiff_t>(event) + 1,
-                       events_.begin() + static_cast<std::ptrdiff_t>(end), [&](const Event& later) {
-                           if (later.call.kind != Kind::flush)
-                               return false;
-                           return changesName(changed.call.kind) ? later.call.path == folder
-                                                                 : later.file == changed.file;
-                       });
+    for (std::size_t i = event + 1; i < end; ++i) {
+        const Event& later = events_[i];
+        const bool isOfIt = changesName(changed.call.kind) ? later.call.path == folder : later.file == changed.file;
+        if (isOfIt && later.call.kind == Kind::flush)
+            return true;
+        if (isOfIt && later.call.kind == Kind::failedFlush)
+            return false;
+    }
+    return false;
 }
 
 void PowerCuts::layOut(const Disk& disk) const {

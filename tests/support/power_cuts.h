@@ -16,7 +16,8 @@ namespace tallyvane {
 /// builds every state in which a cut at any moment can leave them. A disk promises this: what was flushed is there, a
 /// sector of 512 bytes is old or new, and a rename has happened or has not. It promises no order: of all that was not
 /// flushed, any part may be there, sector by sector; a length may be there without the bytes, which then are zeros, or
-/// the bytes without the length; a name is there for sure once its folder was flushed.
+/// the bytes without the length; a name is there for sure once its folder was flushed. What a flush that failed should
+/// have brought is left to chance, also after a later flush.
 class PowerCuts {
 public:
     /// Of that folder, with all that stands in it now.
