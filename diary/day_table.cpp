@@ -3,9 +3,9 @@
 #include "platform/base/text.h"
 #include "platform/base/translation.h"
 #include "platform/files/text_output_stream.h"
+#include "settings/damaged_files.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
-#include "settings/unsaved_files.h"
 
 namespace tallyvane::DayTable {
 
@@ -52,6 +52,20 @@ std::string nameOfAdding(const Date& day) { return tr("New Day %1", {day.ShortDa
 void save(const Listbox& table) { UnsavedFiles::save(userFile(), textOf(table)); }
 
 void setBaseline(const Listbox& table) { UnsavedFiles::setBaseline(userFile(), textOf(table)); }
+
+std::optional<UnsavedFiles::OutsideChange> changedOutside() {
+    std::optional<UnsavedFiles::OutsideChange> change = UnsavedFiles::changedOutside(userFile());
+    return change && DamagedFiles::isWholeTable(change->there) ? change : std::nullopt;
+}
+
+void acceptOutside(const Listbox& table, const UnsavedFiles::OutsideChange& change, bool saysTheSame) {
+    UnsavedFiles::acceptOutside(userFile(), change, textOf(table), saysTheSame);
+}
+
+std::string keepOutside(const UnsavedFiles::OutsideChange& change) {
+    const std::string name = std::string(DataFiles::dayTable) + " of another program " + Date().isoDate();
+    return UnsavedFiles::writeNewCopy(*StartupGlobals::gDataFolder, name, change.there).path;
+}
 
 bool load(Listbox& table) {
     std::optional<TextInputStream> stream = UnsavedFiles::openText(userFile());

@@ -6,6 +6,7 @@
 
 #include "platform/base/date.h"
 #include "platform/controls/listbox.h"
+#include "settings/unsaved_files.h"
 
 namespace tallyvane::DayTable {
 
@@ -39,6 +40,14 @@ std::string nameOfAdding(const Date& day);
 /// file can't be opened, the rows wait among the unsaved files; so they do when the disk fails, which throws
 /// IOException and leaves the old file whole.
 void save(const Listbox& table);
+
+/// Days that another program has put into the file since it was read or saved; nothing while it is no whole table.
+[[nodiscard]] std::optional<UnsavedFiles::OutsideChange> changedOutside();
+/// They are in the table now. `saysTheSame`: it holds nothing else.
+void acceptOutside(const Listbox& table, const UnsavedFiles::OutsideChange& change, bool saysTheSame);
+/// Keeps the file as another program wrote it, in a dated copy beside it, whose path is returned. Throws IOException
+/// when the disk fails.
+std::string keepOutside(const UnsavedFiles::OutsideChange& change);
 
 /// Sets the table, as it was just read, as the baseline: saving it unchanged never replaces a newer file.
 void setBaseline(const Listbox& table);

@@ -65,8 +65,61 @@ void Window1::saveChanged() {
 }
 
 void Window1::saveData() {
-    if (!datesAwaitAnswer)
-        DayTable::save(ListBox1);
+    if (datesAwaitAnswer)
+        return;
+    try {
+        bringInChanges();
+    } catch (const IOException&) { // no room for a copy: the save meets the same disk, and keeps what it can't write
+    }
+    DayTable::save(ListBox1);
+}
+
+void Window1::bringInChanges() {
+    const auto change = datesAwaitAnswer ? std::nullopt : DayTable::changedOutside();
+    if (!change)
+        return;
+    ListBox1.closeCell();
+    const DayMerge::Result joined = DayMerge::join(change->base, DayMerge::daysOf(ListBox1), change->there);
+    if (!joined.isAsHere) {
+        ListBox1.beginStep(tr("Changes of Another Program"));
+        DayMerge::apply(joined, ListBox1);
+        doSortColumns();
+        showDaysAnew();
+    }
+    if (!joined.conflicts.empty())
+        DayTable::keepOutside(*change);
+    DayTable::acceptOutside(ListBox1, *change, joined.isAsThere);
+    if (joined.daysBroughtIn > 0)
+        notes_.tell(joined.daysBroughtIn == 1
+                        ? tr("Another program changed the diary: 1 day brought in")
+                        : tr("Another program changed the diary: %1 days brought in", {Grouped(joined.daysBroughtIn)}));
+    if (!joined.conflicts.empty())
+        showConflicts(joined.conflicts);
+}
+
+void Window1::showConflicts(const std::vector<DayMerge::Conflict>& conflicts) {
+    if (!conflictWindow_ || !conflictWindow_->isOpen()) {
+        conflictWindow_ = std::make_unique<ConflictWindow>();
+        conflictWindow_->nameOfColumn = [this](int column) { return columnName(column); };
+        conflictWindow_->takeOther = [this](const DayMerge::Conflict& conflict) { return takeOther(conflict); };
+    }
+    conflictWindow_->add(conflicts);
+    conflictWindow_->Show();
+}
+
+bool Window1::takeOther(const DayMerge::Conflict& conflict) {
+    const std::optional<Date> day = ParseDate(conflict.date);
+    const std::vector<int> rows = day ? Finding::rowsOf(ListBox1, *day) : std::vector<int>{};
+    for (const int row : rows) {
+        if (ListBox1.Cell(row, conflict.column) != conflict.here)
+            continue;
+        ListBox1.beginStep(tr("Value of Another Program"));
+        ListBox1.Cell(row, conflict.column, conflict.there);
+        doSortColumns();
+        showDaysAnew();
+        return true;
+    }
+    return false;
 }
 
 void Window1::rewriteDates(const std::vector<DateForms::MeantDay>& days) {
@@ -74,13 +127,15 @@ void Window1::rewriteDates(const std::vector<DateForms::MeantDay>& days) {
     DateForms::rewrite(ListBox1, days);
     doSortColumns();
     showBoldDays();
+    if (const std::optional<int> newest = Finding::newestRow(ListBox1))
+        ListBox1.ScrollPosition(*newest);
     notes_.update();
 }
 
 void Window1::getData() {
     if (!DayTable::load(ListBox1))
         return;
-    datesFound = DateForms::find(ListBox1); // by the keys in the file
+    datesFound = DateForms::find(DateForms::rowsOf(ListBox1)); // by the keys in the file
     doAverages();
     doSortColumns();
 }

@@ -7,7 +7,9 @@
 
 #include "auto_button/auto_button.h"
 #include "diary/averages.h"
+#include "diary/conflict_window.h"
 #include "diary/date_forms.h"
+#include "diary/day_merge.h"
 #include "diary/day_table.h"
 #include "diary/finding.h"
 #include "diary/search.h"
@@ -94,6 +96,9 @@ public:
     void saveChanged();
     void saveData();
     void getData();
+    /// Brings in what another program has changed in the file, as a step of its own, and says so in the line beside the
+    /// journal's tab.
+    void bringInChanges();
     /// Writes these days in the user's form, as a step of its own.
     void rewriteDates(const std::vector<DateForms::MeantDay>& days);
     void saveLogs();
@@ -153,6 +158,8 @@ private:
     MenuHandlers daysMenu();
     bool goToDay(const Date& day);
     bool goToHit(const Search::Hit& hit);
+    void showConflicts(const std::vector<DayMerge::Conflict>& conflicts);
+    bool takeOther(const DayMerge::Conflict& conflict);
     void selectPeriod(const Finding::Period& period);
     void selectRows(const std::vector<bool>& rows);
     void showBoldDays();
@@ -174,6 +181,7 @@ private:
     std::unique_ptr<DateWindow> dateWindow_;
     std::unique_ptr<GoToDayWindow> goToDayWindow_;
     std::unique_ptr<FindWindow> findWindow_;
+    std::unique_ptr<ConflictWindow> conflictWindow_;
     StripNotes notes_{StripLine, ListBox1, history_};
     int wantedTableGrowth_ = 0; // as the table was dragged, also while the window has no room for it
     int daysShownBold_ = 0; // how many rows there were when the calendar was told of its bold days

@@ -22,6 +22,9 @@ struct Copy {
 /// Whether the table is there and can't be read, so that nobody knows what it holds.
 [[nodiscard]] bool tableIsUnreadable();
 
+/// Whether each line of a table is a day with its eleven fields and its key.
+[[nodiscard]] bool isWholeTable(const std::string& table);
+
 /// For the table, and for the two files of journal and logs: the newest copy that holds more than a file that is not
 /// whole. Of a table more whole days count, each with its eleven fields and its key; of the others more text. Copies
 /// dated after today are tried last. None for the table while the user's data folder is missing; copies of a table in

@@ -1,12 +1,12 @@
 #include "settings/unsaved_files.h"
 
 #include <algorithm>
-#include <functional>
 #include <map>
 
 #include "platform/base/date.h"
 #include "platform/base/translation.h"
 #include "platform/files/replacement.h"
+#include "platform/files/save_record.h"
 #include "platform/files/system_files.h"
 #include "settings/data_files.h"
 
@@ -17,8 +17,9 @@ namespace {
 /// What is known of a file since it was read or saved.
 struct Known {
     std::string text; // that a save would write if nothing has changed
-    std::optional<std::size_t> onDisk; // hash of what stood at its place; nothing for what was not there or unreadable
+    std::optional<std::string> onDisk; // what stood at its place; nothing for what was not there or unreadable
     bool hasChangedHere = false; // since the start
+    bool saysTheSame = false; // the text says what stands there, if in another form
 };
 
 struct State {
@@ -45,12 +46,12 @@ const Known* knownOf(const UserFile& file) {
     return found == state().known.end() ? nullptr : &found->second;
 }
 
-std::size_t hashOf(const std::string& text) { return std::hash<std::string>()(text); }
-
-std::optional<std::size_t> hashAt(const std::optional<FolderItem>& place) {
-    const std::optional<std::string> content = place ? SystemFiles::read(place->AbsolutePath()) : std::nullopt;
-    return content ? std::optional(hashOf(*content)) : std::nullopt;
+std::optional<std::string> contentAt(const std::optional<FolderItem>& place) {
+    return place ? SystemFiles::read(place->AbsolutePath()) : std::nullopt;
 }
+
+/// A save of it has failed, and so has the way back.
+bool isHalfSaved(const UserFile& file) { return file.place && SaveRecords::isKept(file.place->AbsolutePath()); }
 
 /// Makes the text the content of a file. Why that can't be, for the user; nothing when it is done. Throws IOException
 /// when writing fails.
@@ -93,23 +94,42 @@ UserFile UserFile::ofInnerFolder(std::string what, std::string_view name) {
 
 void setBaseline(const UserFile& file, const std::string& text) {
     if (waitingFor(keyOf(file)) == state().waiting.end()) // an unsaved text is not the baseline: the disk lacks it
-        state().known[keyOf(file)] = {text, hashAt(file.place), false};
+        state().known[keyOf(file)] = {text, contentAt(file.place)};
+}
+
+std::optional<OutsideChange> changedOutside(const UserFile& file) {
+    const Known* known = knownOf(file);
+    if (known == nullptr || !known->onDisk || isHalfSaved(file))
+        return std::nullopt;
+    std::optional<std::string> there = contentAt(file.place);
+    if (!there || there->empty() || there == known->onDisk)
+        return std::nullopt;
+    return OutsideChange{*known->onDisk, std::move(*there)};
+}
+
+void acceptOutside(const UserFile& file, const OutsideChange& change, const std::string& text, bool saysTheSame) {
+    Known& known = state().known[keyOf(file)];
+    known.text = saysTheSame ? text : change.there;
+    known.onDisk = change.there;
+    known.saysTheSame = saysTheSame;
 }
 
 bool save(const UserFile& file, const std::string& text) {
     const Known* known = knownOf(file);
     const bool hasChanged = known == nullptr || known->text != text;
-    const std::optional<std::size_t> onDisk = hashAt(file.place);
+    const std::optional<std::string> onDisk = contentAt(file.place);
     const bool placeHasChanged = known != nullptr && known->onDisk != onDisk;
-    const bool isForeign = onDisk && (known == nullptr || placeHasChanged); // content neither read nor written here
+    const bool isHalf = isHalfSaved(file);
+    const bool isForeign = onDisk && !isHalf && (known == nullptr || placeHasChanged); // neither read nor written here
     const bool hasChangedHere = hasChanged || known->hasChangedHere;
-    if (isForeign && !hasChangedHere && onDisk != hashOf("")) {
+    const bool isDone = !hasChanged && !placeHasChanged && !isHalf && (onDisk == text || known->saysTheSame);
+    if (isDone || (isForeign && !hasChangedHere && onDisk != "")) {
         forget(file);
         return true;
     }
     const bool isLost = hasChanged || placeHasChanged; // if it can't be written
     try {
-        if (beforeWriting && onDisk != hashOf(text))
+        if (beforeWriting && onDisk != text)
             beforeWriting();
         if (file.makesFolders && file.place)
             SystemFiles::makeFolders(folderOf(file.place->AbsolutePath()));
@@ -121,7 +141,7 @@ bool save(const UserFile& file, const std::string& text) {
         else
             forget(file);
         if (!why)
-            state().known[keyOf(file)] = {text, hashOf(text), hasChangedHere};
+            state().known[keyOf(file)] = {text, text, hasChangedHere};
         return !why;
     } catch (const IOException& failure) {
         if (isLost)
@@ -132,7 +152,7 @@ bool save(const UserFile& file, const std::string& text) {
 
 bool saveIfChanged(const UserFile& file, const std::string& text) {
     const Known* known = knownOf(file);
-    if (known == nullptr || known->text != text)
+    if (known == nullptr || known->text != text || isHalfSaved(file))
         return save(file, text);
     forget(file); // the unsaved change was undone
     return true;
@@ -170,7 +190,7 @@ std::optional<FolderItem> saveInto(const FolderItem& folder, const std::string& 
     const std::string list = target->AbsolutePath() + "/" + std::string(listName);
     bool isAnySafe = false;
     try {
-        writeFile(list, listOf(files));
+        writeFile(list, listOf(files), Replacement::Recorded::unlessNew);
     } catch (const IOException&) {
         SystemFiles::removeEmptyFolder(target->AbsolutePath());
         return std::nullopt;
@@ -179,7 +199,7 @@ std::optional<FolderItem> saveInto(const FolderItem& folder, const std::string& 
         const std::string path = target->AbsolutePath() + "/" + unsaved.file.name;
         SystemFiles::makeFolders(folderOf(path));
         try {
-            writeFile(path, unsaved.text);
+            writeFile(path, unsaved.text, Replacement::Recorded::unlessNew);
             forget(unsaved.file);
             isAnySafe = true;
         } catch (const IOException&) { // it goes on waiting
@@ -207,7 +227,7 @@ NewCopy writeNewCopy(const FolderItem& folder, const std::string& name, const st
             return {place->AbsolutePath(), false};
         if (place->Exists())
             continue;
-        writeFile(place->AbsolutePath(), text);
+        writeFile(place->AbsolutePath(), text, Replacement::Recorded::unlessNew); // what is copied is still whole
         return {place->AbsolutePath(), true};
     }
 }

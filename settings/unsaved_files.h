@@ -41,12 +41,24 @@ struct Unsaved {
 /// here, and otherwise keeps it in a copy beside the file.
 void setBaseline(const UserFile& file, const std::string& text);
 
+/// What another program has made of a file since it was read or saved here.
+struct OutsideChange {
+    std::string base; // what was read or saved
+    std::string there; // what stands there now
+};
+/// Nothing for a file that stands as it was, is away, empty or can't be read, or that was never read.
+[[nodiscard]] std::optional<OutsideChange> changedOutside(const UserFile& file);
+/// What stands there was brought in. `text` is what a save would write now; where that says nothing but what stands
+/// there, in whatever form, it is not written.
+void acceptOutside(const UserFile& file, const OutsideChange& change, const std::string& text, bool saysTheSame);
+
 /// Called before a save writes anything; null for nothing to do.
 extern std::function<void()> beforeWriting;
 
-/// Replaces the file's content by the text; true when that is done or not needed. Returns false if the file can't be
-/// opened, throws IOException if writing fails. Either way the text is then unsaved, unless neither it nor the file has
-/// changed since the file was last read or saved.
+/// Replaces the file's content by the text; true when that is done or not needed. Nothing is written where neither the
+/// text nor the file has changed. Returns false if the file can't be opened, throws IOException if writing fails.
+/// Either way the text is then unsaved, unless neither it nor the file has changed since the file was last read or
+/// saved.
 bool save(const UserFile& file, const std::string& text);
 /// The same, but nothing for a text that has not changed since it was read or saved.
 bool saveIfChanged(const UserFile& file, const std::string& text);

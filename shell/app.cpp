@@ -110,6 +110,7 @@ void App::Event_Open() {
         UnsavedWork::reportUnreadable();
         reportKeptJournal();
         askAboutDates();
+        watchTable();
         startMessagesShown_ = true;
         showOffer();
         offerForImport(std::exchange(fileToImport_, ""));
@@ -240,12 +241,23 @@ void App::askAboutDates() {
     Window1& window = *windows_.main;
     if (!window.datesAwaitAnswer)
         return;
-    const auto days = DateQuestion::ask(window.ListBox1, window.datesFound);
+    const auto days = DateQuestion::ask(window.datesFound);
     if (!days)
         return;
     window.datesAwaitAnswer = false;
     if (!days->empty())
         window.rewriteDates(*days);
+}
+
+/// What another program changes is brought in when it is seen, but not under the user's fingers.
+void App::watchTable() {
+    const std::string path = Snapshots::tablePath();
+    if (path.empty())
+        return;
+    tableWatch_ = FileWatches::current().start(path, [this] {
+        if (windows_.main->isOpen() && windows_.main->ListBox1.openRow() < 0)
+            windows_.main->bringInChanges();
+    });
 }
 
 /// The offer belongs to the main window, and waits until that is there.

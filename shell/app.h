@@ -9,6 +9,7 @@
 #include "exchange/export_window.h"
 #include "exchange/import_window.h"
 #include "graphwindow/graf_thing_window.h"
+#include "platform/files/file_watch.h"
 #include "platform/files/folder_item.h"
 #include "platform/files/system_files.h"
 #include "platform/windows/menus.h"
@@ -97,6 +98,7 @@ private:
     void reportMissingDataFolder();
     void reportKeptJournal();
     void askAboutDates();
+    void watchTable();
     void offerNewVersion(std::function<void()> done);
     void showOffer();
     void wakeFirstAndQuit();
@@ -110,6 +112,7 @@ private:
     bool askingAboutUnsaved_ = false;
     bool endsWithoutQuestion_ = false;
     std::vector<std::unique_ptr<SystemFiles::FolderLock>> folderLocks_;
+    std::unique_ptr<FileWatch> tableWatch_; // null where files can't be watched
     std::vector<UnfinishedSaves::Finished> finishedSaves_; // of the run before
     std::string fileToImport_; // a path that waits for the main window; "" for none
     bool startMessagesShown_ = false; // the splash window, with all that had to be told

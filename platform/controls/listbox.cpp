@@ -306,9 +306,13 @@ void Listbox::Sort() {
         const int compared = compareTexts(rows_[index(a)].cells[column], rows_[index(b)].cells[column]);
         return descending ? compared > 0 : compared < 0;
     });
+    arrange(std::move(order));
+    bringIntoView(ListIndex());
+}
+
+void Listbox::arrange(std::vector<int> order) {
     const bool isSorted = std::is_sorted(order.begin(), order.end());
     reorder(order);
-    bringIntoView(ListIndex());
     if (recorder_ != nullptr && !isSorted)
         recorder_->rowsReordered(std::move(order));
 }

@@ -173,6 +173,8 @@ public:
     void putRows(TakenRows taken);
     /// Gives row i the place of row order[i]; each row stands once in the order.
     void reorder(const std::vector<int>& order);
+    /// The same as a change that can be undone.
+    void arrange(std::vector<int> order);
     std::uint64_t revision(int row) const { return rows_[index(row)].revision; }
 
     // Selection

@@ -9,6 +9,7 @@ QtToolkit::QtToolkit() {
     Desktop::use(&desktop);
     Bitmaps::use(&bitmaps);
     FileDialogs::use(&fileDialogs);
+    FileWatches::use(&fileWatches);
     Printers::use(&printers);
     Downloads::use(&downloads);
     WindowSystem::use(&windowSystem);
@@ -18,6 +19,7 @@ void QtToolkit::uninstall() {
     Desktop::use(nullptr);
     Bitmaps::use(nullptr);
     FileDialogs::use(nullptr);
+    FileWatches::use(nullptr);
     Printers::use(nullptr);
     Downloads::use(nullptr);
     WindowSystem::use(nullptr);

@@ -4,6 +4,7 @@
 #include "platform/qt/qt_bitmap.h"
 #include "platform/qt/qt_desktop.h"
 #include "platform/qt/qt_file_dialogs.h"
+#include "platform/qt/qt_file_watches.h"
 #include "platform/qt/qt_printers.h"
 #include "platform/qt/qt_window_system.h"
 
@@ -24,6 +25,7 @@ public:
     QtDesktop desktop;
     QtBitmaps bitmaps;
     QtFileDialogs fileDialogs;
+    QtFileWatches fileWatches;
     QtPrinters printers;
     HttpDownloads downloads;
     QtWindowSystem windowSystem;

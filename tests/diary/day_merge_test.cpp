@@ -1,0 +1,198 @@
+#include "diary/day_merge.h"
+
+#include <algorithm>
+#include <random>
+
+#include "diary/conflict_window.h"
+#include "diary/day_table.h"
+#include "diary/sort_keys.h"
+#include "settings/unsaved_files.h"
+#include "support/diary_desk.h"
+
+namespace tallyvane {
+
+namespace {
+
+class DayMergeTest : public DiaryDesk {
+protected:
+    /// A file of the table: "5 1.1 2.2" is the fifth of January with two readings.
+    static std::string file(const Texts& days) {
+        std::string lines;
+        for (const std::string& day : days)
+            lines += "1/" + ReplaceAll(day.substr(0, day.find(' ')), " ", "") + "/2026@#@" +
+                     ReplaceAll(day.find(' ') == std::string::npos ? "" : day.substr(day.find(' ') + 1), " ", "@#@") +
+                     "\n";
+        return asSaved(lines);
+    }
+    /// The days of a result, in the same short form; an empty reading is "-".
+    static Texts shown(const std::vector<DayMerge::Joined>& days) {
+        Texts texts;
+        for (const DayMerge::Joined& joined : days) {
+            std::string text = std::to_string(ParseDate(joined.day[0])->Day());
+            for (int column = 1; column <= 2; ++column)
+                if (const std::string& reading = joined.day[static_cast<std::size_t>(column)]; !reading.empty())
+                    text += " " + reading;
+            texts.push_back(text);
+        }
+        return texts;
+    }
+    static DayMerge::Result join(const Texts& base, const Texts& here, const Texts& there) {
+        return DayMerge::join(file(base), DayMerge::daysIn(file(here)), file(there));
+    }
+};
+
+TEST_F(DayMergeTest, WhatOneSideHasChangedIsTaken) {
+    struct Row {
+        const char* name;
+        Texts base, here, there, want;
+        int daysBroughtIn;
+    };
+    const std::vector<Row> rows{
+        {"nothing", {"1 5", "2 6"}, {"1 5", "2 6"}, {"1 5", "2 6"}, {"1 5", "2 6"}, 0},
+        {"a reading there", {"1 5", "2 6"}, {"1 5", "2 6"}, {"1 5 7", "2 6"}, {"1 5 7", "2 6"}, 1},
+        {"a reading here", {"1 5"}, {"1 5 7"}, {"1 5"}, {"1 5 7"}, 0},
+        {"other readings of a day", {"1 5 6"}, {"1 8 6"}, {"1 5 9"}, {"1 8 9"}, 1},
+        {"the same on both sides", {"1 5"}, {"1 7"}, {"1 7"}, {"1 7"}, 0},
+        {"a day there, a day here", {"1 5"}, {"1 5", "2 6"}, {"1 5", "3 7"}, {"1 5", "2 6", "3 7"}, 1},
+        {"a day in the middle", {"1 5", "9 6"}, {"1 5", "9 6"}, {"1 5", "4 7", "9 6"}, {"1 5", "4 7", "9 6"}, 1},
+        {"a day on top", {"2 5"}, {"2 5"}, {"3 7", "2 5"}, {"3 7", "2 5"}, 1},
+        {"taken out there", {"1 5", "2 6"}, {"1 5", "2 6"}, {"2 6"}, {"2 6"}, 1},
+        {"taken out here", {"1 5", "2 6"}, {"2 6"}, {"1 5", "2 6"}, {"2 6"}, 0},
+        {"taken out there, changed here", {"1 5"}, {"1 7"}, {}, {"1 7"}, 0},
+        {"taken out here, changed there", {"1 5"}, {}, {"1 7"}, {"1 7"}, 1},
+        {"a date twice", {"1 5", "1 6"}, {"1 5", "1 6"}, {"1 5", "1 8"}, {"1 5", "1 8"}, 1},
+        {"the same day added on both sides", {}, {"1 5"}, {"1 5"}, {"1 5"}, 0},
+        {"sorted there", {"1 5", "2 6"}, {"1 5", "2 6"}, {"2 6", "1 5"}, {"2 6", "1 5"}, 0},
+        {"sorted here", {"1 5", "2 6"}, {"2 6", "1 5"}, {"1 5", "2 6"}, {"2 6", "1 5"}, 0},
+        {"sorted here, added there", {"1 5", "2 6"}, {"2 6", "1 5"}, {"1 5", "2 6", "3 7"}, {"2 6", "3 7", "1 5"}, 1},
+    };
+    for (const Row& row : rows) {
+        const DayMerge::Result result = join(row.base, row.here, row.there);
+        EXPECT_EQ(shown(result.days), row.want) << row.name;
+        EXPECT_EQ(result.daysBroughtIn, row.daysBroughtIn) << row.name;
+        EXPECT_TRUE(result.conflicts.empty()) << row.name;
+        EXPECT_EQ(result.isAsHere, row.want == row.here) << row.name;
+        EXPECT_EQ(result.isAsThere, row.want == row.there) << row.name;
+    }
+}
+
+TEST_F(DayMergeTest, OnlyACellThatWasChangedOnBothSidesIsAConflict) {
+    const DayMerge::Result result = join({"1 5 6"}, {"1 7 6"}, {"1 8 9"});
+    EXPECT_EQ(shown(result.days), Texts{"1 7 9"});
+    EXPECT_EQ(result.conflicts, (std::vector<DayMerge::Conflict>{{"1/1/2026", 1, "7", "8"}}));
+    EXPECT_FALSE(result.isAsThere);
+}
+
+TEST_F(DayMergeTest, TwoProgramsComeToTheSameDaysAndLoseNone) {
+    std::mt19937 random(17); // NOLINT(cert-msc51-cpp): the same days at each run
+    const auto number = [&random](int below) { return static_cast<int>(random() % static_cast<unsigned>(below)); };
+    for (int round = 0; round < 500; ++round) {
+        Texts base;
+        for (int day = 1; day <= 6; ++day)
+            base.push_back(std::to_string(day * 2) + " " + std::to_string(100 + day));
+        std::map<std::string, int> typed; // readings that nobody has taken out
+        const auto change = [&](Texts days, int side) {
+            for (int i = 0; i < 3; ++i) {
+                const std::string reading = std::to_string(1000 * (side + 1) + 10 * round % 900 + i);
+                const auto at = days.begin() + number(static_cast<int>(days.size()) + 1);
+                if (const int kind = number(4); kind == 0 && at != days.end())
+                    days.erase(at);
+                else if (kind == 1)
+                    std::reverse(days.begin(), days.end());
+                else
+                    days.insert(at, std::to_string(1 + 2 * number(14)) + " " + reading);
+            }
+            return days;
+        };
+        const Texts one = change(base, 0);
+        const Texts other = change(base, 1);
+        const Texts here = shown(join(base, one, other).days);
+        const Texts there = shown(join(base, other, one).days);
+        std::map<std::string, std::string> conflicts;
+        if (join(base, one, other).conflicts.empty()) {
+            EXPECT_EQ(here, there) << "round " << round;
+        }
+        for (const Texts& side : {one, other})
+            for (const std::string& day : side)
+                if (std::find(base.begin(), base.end(), day) == base.end()) {
+                    const std::string reading = day.substr(day.find(' ') + 1);
+                    const auto holds = [&](const std::string& joined) {
+                        return joined.find(reading) != std::string::npos;
+                    };
+                    const auto conflictsNow = join(base, one, other).conflicts;
+                    const bool isInConflict =
+                        std::any_of(conflictsNow.begin(), conflictsNow.end(),
+                                    [&](const DayMerge::Conflict& conflict) { return conflict.there == reading; });
+                    EXPECT_TRUE(isInConflict || std::any_of(here.begin(), here.end(), holds)) << round << ": " << day;
+                }
+    }
+}
+
+TEST_F(DayMergeTest, AnotherProgramsDaysComeIntoTheWindowAsAStep) {
+    write(applicationFile("7VXData"), file({"1 5", "2 6", "3 7"}));
+    open();
+    const auto row = [this](int r) { return table_.Cell(r, 0) + " " + table_.Cell(r, 1) + " " + table_.Cell(r, 2); };
+    table_.EditCell(0, 2);
+    table_.userTyped("5.5", 3, 0);
+    table_.closeCell();
+    const std::string there = file({"9 4", "1 5", "2 6 8"});
+    write(applicationFile("7VXData"), there);
+    window1_.bringInChanges();
+    EXPECT_EQ(table_.ListCount(), 3);
+    EXPECT_EQ(row(0), "1/9/2026 4 ");
+    EXPECT_EQ(row(1), "1/1/2026 5 5.5");
+    EXPECT_EQ(row(2), "1/2/2026 6 8");
+    EXPECT_EQ(table_.Cell(2, DayTable::averageColumn), "7.0");
+    EXPECT_EQ(window1_.StripLine.Text(), "Another program changed the diary: 3 days brought in");
+    EXPECT_EQ(read(applicationFile("7VXData")), there) << "written with the next save";
+    window1_.saveData();
+    EXPECT_EQ(DayMerge::daysIn(read(applicationFile("7VXData"))), DayMerge::daysOf(table_));
+    EXPECT_FALSE(std::filesystem::exists(applicationFile("7VXData before 2026-11-22"))) << "nothing is lost: no copy";
+    menuBar_.choose("EditUndo", &window1_);
+    EXPECT_EQ(table_.ListCount(), 3);
+    EXPECT_EQ(row(0), "1/1/2026 5 5.5");
+    EXPECT_EQ(row(2), "1/3/2026 7 ");
+}
+
+TEST_F(DayMergeTest, NothingIsWrittenWhereNothingHasChanged) {
+    write(applicationFile("7VXData"), file({"1 5", "2 6"}));
+    open();
+    window1_.saveData();
+    const std::string there = ReplaceAll(file({"1 5", "2 6", "4 7"}), "\n", "\r\n"); // in its own form
+    write(applicationFile("7VXData"), there);
+    window1_.saveData();
+    EXPECT_EQ(table_.ListCount(), 3);
+    window1_.saveData();
+    EXPECT_EQ(read(applicationFile("7VXData")), there) << "two programs would write it to and fro";
+    write(applicationFile("7VXData"), there.substr(0, there.size() / 2)); // still being written
+    window1_.bringInChanges();
+    EXPECT_EQ(table_.ListCount(), 3);
+}
+
+TEST_F(DayMergeTest, TheUserPicksBetweenTwoValuesOfACell) {
+    write(applicationFile("7VXData"), file({"1 5", "2 6"}));
+    open();
+    for (int row = 0; row < 2; ++row) {
+        table_.EditCell(row, 1);
+        table_.userTyped("7", 1, 0);
+    }
+    const std::string there = file({"1 8", "2 9"});
+    write(applicationFile("7VXData"), there);
+    window1_.saveData();
+    EXPECT_EQ(table_.Cell(0, 1), "7") << "the value here stands";
+    EXPECT_EQ(read(applicationFile("7VXData of another program 2026-11-22")), there);
+    auto& window = dynamic_cast<ConflictWindow&>(*Window::openWindows().back());
+    ASSERT_EQ(window.ListBox1.ListCount(), 2);
+    EXPECT_EQ(window.ListBox1.Cell(0, 1), "Before Breakfast");
+    window.PushButton2_Action();
+    EXPECT_EQ(table_.Cell(0, 1), "8");
+    EXPECT_EQ(table_.Cell(0, DayTable::averageColumn), "8.0");
+    window.PushButton1_Action();
+    EXPECT_FALSE(window.isOpen());
+    EXPECT_EQ(table_.Cell(1, 1), "7");
+    menuBar_.choose("EditUndo", &window1_);
+    EXPECT_EQ(table_.Cell(0, 1), "7");
+}
+
+} // namespace
+} // namespace tallyvane
