@@ -16,6 +16,7 @@
 #include "exchange/export_data.h"
 #include "exchange/import_reader.h"
 #include "platform/base/text.h"
+#include "platform/files/save_record.h"
 #include "platform/qt/print_job.h"
 #include "platform/qt/qt_toolkit.h"
 #include "reports/diary_report.h"
@@ -105,6 +106,33 @@ void write_plain(benchmark::State& state) {
     state.counters["bytes"] = static_cast<double>(text.size());
 }
 
+/// A save of the table in which every byte behind the first day is new, with its record.
+void save_days(benchmark::State& state) {
+    bench::settleFolder(bench::bigFile(lines));
+    SaveRecords::useFolder(SpecialFolder::ApplicationData->AbsolutePath());
+    Listbox table(DayTable::columnCount);
+    if (!DayTable::load(table))
+        state.SkipWithError("no table");
+    bool isLonger = false;
+    for (auto _ : state) {
+        table.Cell(0, DayTable::firstReading, std::exchange(isLonger, !isLonger) ? "5.6" : "12.6");
+        DayTable::save(table);
+    }
+    SaveRecords::useFolder("");
+}
+
+/// The same bytes written and seen to the disk twice, in place.
+void write_plain_twice(benchmark::State& state) {
+    const std::string& text = bench::bigFile(lines);
+    for (auto _ : state)
+        for (const char* name : {"plain 1", "plain 2"}) {
+            const int file = ::open(pathOf(name).c_str(), O_CREAT | O_WRONLY, 0600);
+            if (::write(file, text.data(), text.size()) != static_cast<ssize_t>(text.size()) || ::fsync(file) != 0)
+                state.SkipWithError("the plain file could not be written");
+            ::close(file);
+        }
+}
+
 std::size_t peakMemory() {
     rusage usage{};
     ::getrusage(RUSAGE_SELF, &usage);
@@ -168,5 +196,7 @@ BENCHMARK(read_plain)->Unit(benchmark::kMillisecond);
 BENCHMARK(import_lines)->Unit(benchmark::kMillisecond);
 BENCHMARK(write_plain)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(export_lines)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(write_plain_twice)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(save_days)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 } // namespace

@@ -19,6 +19,7 @@ ConflictWindow::ConflictWindow() {
         {&PushButton2, {178, 274, 190, 30}, lockLeft | lockBottom},
         {&PushButton3, {438, 274, 106, 30}, lockBottomRight},
     });
+    StaticText1.Multiline(true);
     StaticText1.Text(
         tr("These were changed here and by another program. What is here stands until you take the other value."));
     ListBox1.ColumnWidths("25%,35%,20%,20%");

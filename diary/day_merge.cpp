@@ -10,6 +10,7 @@
 #include "diary/day_table.h"
 #include "platform/base/text.h"
 #include "platform/files/text_input_stream.h"
+#include "settings/damaged_files.h"
 #include "settings/data_files.h"
 
 namespace tallyvane::DayMerge {
@@ -105,6 +106,7 @@ public:
                 kept.push_back(here_.order[static_cast<std::size_t>(day.row)]);
         const auto removed = static_cast<int>(here_.order.size() - kept.size());
         result_.daysBroughtIn += removed;
+        result_.takesDaysAway = removed > 0;
         result_.isAsHere = result_.daysBroughtIn == 0 && kept == here_.order;
         result_.isAsThere = result_.isAsThere && joinedIds_ == there_.order;
         return std::move(result_);
@@ -188,6 +190,15 @@ std::vector<Day> daysIn(const std::string& file) {
             cell = fields.next();
     }
     return days;
+}
+
+bool isReadyToJoin(const std::string& base, const std::string& there) {
+    if (DamagedFiles::isWholeTable(there))
+        return true;
+    const Side before = sideOf(daysIn(base));
+    const Side after = sideOf(daysIn(there));
+    return there.ends_with('\n') && there.find('\0') == std::string::npos &&
+           std::all_of(before.order.begin(), before.order.end(), [&](const Id& id) { return after.has(id); });
 }
 
 Result join(const std::string& base, const std::vector<Day>& here, const std::string& there) {

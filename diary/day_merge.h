@@ -32,9 +32,14 @@ struct Result {
     std::vector<Joined> days;
     int daysBroughtIn = 0; // that came, went or have changed
     std::vector<Conflict> conflicts;
+    bool takesDaysAway = false; // from here
     bool isAsHere = true; // nothing came in, and the order stays
     bool isAsThere = true; // nothing here but what stands there
 };
+
+/// Whether another version of a file is to be joined: each line is a whole day; or, as an editor leaves them, some lack
+/// fields, and no day of the base is missing. Else it may be half written.
+[[nodiscard]] bool isReadyToJoin(const std::string& base, const std::string& there);
 
 /// The days of the table, and of a file of it.
 std::vector<Day> daysOf(const Listbox& table);

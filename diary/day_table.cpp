@@ -2,6 +2,7 @@
 
 #include "platform/base/text.h"
 #include "platform/base/translation.h"
+#include "platform/files/system_files.h"
 #include "platform/files/text_output_stream.h"
 #include "settings/damaged_files.h"
 #include "settings/data_files.h"
@@ -22,6 +23,12 @@ std::string textOf(const Listbox& table) {
     for (int row = 0; row < table.ListCount(); ++row)
         rows.WriteFields(table.cells(row).first(savedColumns), DataFiles::fieldSeparator);
     return rows.text();
+}
+
+/// In a dated file beside the table.
+void keepBeside(const std::string& what, const std::string& content) {
+    const std::string name = std::string(DataFiles::dayTable) + what + Date().isoDate();
+    UnsavedFiles::writeNewCopy(*StartupGlobals::gDataFolder, name, content);
 }
 
 } // namespace
@@ -53,18 +60,38 @@ void save(const Listbox& table) { UnsavedFiles::save(userFile(), textOf(table));
 
 void setBaseline(const Listbox& table) { UnsavedFiles::setBaseline(userFile(), textOf(table)); }
 
-std::optional<UnsavedFiles::OutsideChange> changedOutside() {
-    std::optional<UnsavedFiles::OutsideChange> change = UnsavedFiles::changedOutside(userFile());
-    return change && DamagedFiles::isWholeTable(change->there) ? change : std::nullopt;
-}
+std::optional<UnsavedFiles::OutsideChange> changedOutside() { return UnsavedFiles::changedOutside(userFile()); }
 
 void acceptOutside(const Listbox& table, const UnsavedFiles::OutsideChange& change, bool saysTheSame) {
     UnsavedFiles::acceptOutside(userFile(), change, textOf(table), saysTheSame);
 }
 
-std::string keepOutside(const UnsavedFiles::OutsideChange& change) {
-    const std::string name = std::string(DataFiles::dayTable) + " of another program " + Date().isoDate();
-    return UnsavedFiles::writeNewCopy(*StartupGlobals::gDataFolder, name, change.there).path;
+void keepOutside(const UnsavedFiles::OutsideChange& change) { keepBeside(" of another program ", change.there); }
+
+void keepBefore(const UnsavedFiles::OutsideChange& change) { keepBeside(" before ", change.base); }
+
+std::optional<ConflictCopy> conflictCopy() {
+    const std::optional<FolderItem>& folder = StartupGlobals::gDataFolder;
+    for (const std::string& name : folder ? SystemFiles::namesIn(folder->AbsolutePath()) : std::vector<std::string>{}) {
+        const bool isCopy =
+            name.starts_with(DataFiles::dayTable) &&
+            (name.find("sync-conflict") != std::string::npos || name.find("conflicted copy") != std::string::npos);
+        if (!isCopy)
+            continue;
+        const std::string path = folder->AbsolutePath() + "/" + name;
+        std::optional<std::string> content = SystemFiles::read(path);
+        if (content && !content->empty() && DamagedFiles::isWholeTable(*content))
+            return ConflictCopy{path, std::move(*content)};
+    }
+    return std::nullopt;
+}
+
+std::string baseOfConflictCopy() { return UnsavedFiles::lastShared(userFile()); }
+
+void putAway(const ConflictCopy& copy) {
+    const std::string name = std::string(DataFiles::dayTable) + " brought in " + Date().isoDate();
+    if (const auto place = DataFiles::freePlace(*StartupGlobals::gDataFolder, name))
+        static_cast<void>(SystemFiles::rename(copy.path, place->AbsolutePath())); // else it is offered again
 }
 
 bool load(Listbox& table) {

@@ -41,13 +41,27 @@ std::string nameOfAdding(const Date& day);
 /// IOException and leaves the old file whole.
 void save(const Listbox& table);
 
-/// Days that another program has put into the file since it was read or saved; nothing while it is no whole table.
+/// What another program has made of the file since it was read or saved.
 [[nodiscard]] std::optional<UnsavedFiles::OutsideChange> changedOutside();
-/// They are in the table now. `saysTheSame`: it holds nothing else.
+/// It is in the table now. `saysTheSame`: the table holds nothing else.
 void acceptOutside(const Listbox& table, const UnsavedFiles::OutsideChange& change, bool saysTheSame);
-/// Keeps the file as another program wrote it, in a dated copy beside it, whose path is returned. Throws IOException
-/// when the disk fails.
-std::string keepOutside(const UnsavedFiles::OutsideChange& change);
+/// Keep the file as another program wrote it, and as it was before, in a dated file beside it. Throw IOException when
+/// the disk fails.
+void keepOutside(const UnsavedFiles::OutsideChange& change);
+void keepBefore(const UnsavedFiles::OutsideChange& change);
+
+/// Another version of the table, which a synchroniser has left beside it, since it was changed on two computers at
+/// once.
+struct ConflictCopy {
+    std::string path;
+    std::string content;
+};
+/// The first one that is a whole table: of names as "7VXData.sync-conflict-...", "7VXData (conflicted copy ...)".
+[[nodiscard]] std::optional<ConflictCopy> conflictCopy();
+/// The content on which table and copy are joined; "" for none.
+[[nodiscard]] std::string baseOfConflictCopy();
+/// Gives it a name by which it is not found again.
+void putAway(const ConflictCopy& copy);
 
 /// Sets the table, as it was just read, as the baseline: saving it unchanged never replaces a newer file.
 void setBaseline(const Listbox& table);

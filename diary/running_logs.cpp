@@ -33,6 +33,20 @@ void save() { UnsavedFiles::save(userFile(), logRecord()); }
 
 void saveIfChanged() { UnsavedFiles::saveIfChanged(userFile(), logRecord()); }
 
+bool bringInChanges(const std::function<void(std::string)>& showJournal) {
+    const std::optional<std::string> joined = UnsavedFiles::joinOutside(userFile(), logRecord(), joinLogRecords);
+    if (!joined)
+        return false;
+    TextInputStream stream(*joined);
+    const LogRecord record = readLogRecord(stream);
+    Globals::gExercise = withLineEnds(record.exercise);
+    Globals::gFood = withLineEnds(record.food);
+    Globals::gMedication = withLineEnds(record.medication);
+    if (const std::string journal = withLineEnds(record.journal); journal != Globals::gJournal)
+        showJournal(journal);
+    return true;
+}
+
 void setBaseline() { UnsavedFiles::setBaseline(userFile(), logRecord()); }
 
 std::string load(const std::function<void(std::string)>& showJournal) {

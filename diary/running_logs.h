@@ -11,6 +11,9 @@ namespace tallyvane::RunningLogs {
 void save();
 /// The same, but nothing if they have not changed since they were read or saved.
 void saveIfChanged();
+/// Joins the globals with what another program has made of the file, and shows the journal if it has changed. False
+/// when there was nothing to bring in.
+bool bringInChanges(const std::function<void(std::string)>& showJournal);
 /// Sets the globals, as they were just read, as the baseline.
 void setBaseline();
 

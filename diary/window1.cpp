@@ -60,6 +60,7 @@ void Window1::saveAll() {
 }
 
 void Window1::saveChanged() {
+    bringInLogs();
     saveEach({[this] { saveData(); }, [] { RunningLogs::saveIfChanged(); }});
     AutosaveTimer.Mode(Timer::ModeMultiple); // restarts the five minutes
 }
@@ -76,19 +77,37 @@ void Window1::saveData() {
 
 void Window1::bringInChanges() {
     const auto change = datesAwaitAnswer ? std::nullopt : DayTable::changedOutside();
-    if (!change)
+    if (!change || !DayMerge::isReadyToJoin(change->base, change->there))
         return;
+    const DayMerge::Result joined = join(change->base, change->there);
+    if (joined.takesDaysAway)
+        DayTable::keepBefore(*change); // what was typed here must not end with the history
+    if (!joined.conflicts.empty())
+        DayTable::keepOutside(*change);
+    DayTable::acceptOutside(ListBox1, *change, joined.isAsThere);
+    tellOf(joined);
+}
+
+void Window1::bringIn(const DayTable::ConflictCopy& copy) {
+    const DayMerge::Result joined = join(DayTable::baseOfConflictCopy(), copy.content);
+    DayTable::putAway(copy);
+    tellOf(joined);
+}
+
+/// Joins the table with another version of it, on a common base, as a step of its own.
+DayMerge::Result Window1::join(const std::string& base, const std::string& there) {
     ListBox1.closeCell();
-    const DayMerge::Result joined = DayMerge::join(change->base, DayMerge::daysOf(ListBox1), change->there);
+    DayMerge::Result joined = DayMerge::join(base, DayMerge::daysOf(ListBox1), there);
     if (!joined.isAsHere) {
         ListBox1.beginStep(tr("Changes of Another Program"));
         DayMerge::apply(joined, ListBox1);
         doSortColumns();
         showDaysAnew();
     }
-    if (!joined.conflicts.empty())
-        DayTable::keepOutside(*change);
-    DayTable::acceptOutside(ListBox1, *change, joined.isAsThere);
+    return joined;
+}
+
+void Window1::tellOf(const DayMerge::Result& joined) {
     if (joined.daysBroughtIn > 0)
         notes_.tell(joined.daysBroughtIn == 1
                         ? tr("Another program changed the diary: 1 day brought in")
@@ -140,7 +159,15 @@ void Window1::getData() {
     doSortColumns();
 }
 
-void Window1::saveLogs() { RunningLogs::save(); }
+void Window1::saveLogs() {
+    bringInLogs();
+    RunningLogs::save();
+}
+
+void Window1::bringInLogs() {
+    if (RunningLogs::bringInChanges([this](const std::string& journal) { JournalFld.Text(journal); }))
+        notes_.tell(tr("Another program changed the journal or the logs: its lines were brought in"));
+}
 
 void Window1::getLogs() {
     keptJournal = RunningLogs::load([this](const std::string& journal) { JournalFld.Text(journal); });

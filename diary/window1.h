@@ -99,6 +99,10 @@ public:
     /// Brings in what another program has changed in the file, as a step of its own, and says so in the line beside the
     /// journal's tab.
     void bringInChanges();
+    /// Joins the table with a version that a synchroniser has left beside it.
+    void bringIn(const DayTable::ConflictCopy& copy);
+    /// The same for journal and logs.
+    void bringInLogs();
     /// Writes these days in the user's form, as a step of its own.
     void rewriteDates(const std::vector<DateForms::MeantDay>& days);
     void saveLogs();
@@ -158,6 +162,8 @@ private:
     MenuHandlers daysMenu();
     bool goToDay(const Date& day);
     bool goToHit(const Search::Hit& hit);
+    DayMerge::Result join(const std::string& base, const std::string& there);
+    void tellOf(const DayMerge::Result& joined);
     void showConflicts(const std::vector<DayMerge::Conflict>& conflicts);
     bool takeOther(const DayMerge::Conflict& conflict);
     void selectPeriod(const Finding::Period& period);

@@ -10,6 +10,7 @@
 #include "platform/windows/wiring.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
+#include "settings/line_merge.h"
 #include "settings/list_colors.h"
 #include "settings/unsaved_files.h"
 
@@ -133,7 +134,10 @@ void fileWindow::getFileList() {
     std::optional<TextInputStream> stream = UnsavedFiles::openText(userFile());
     if (!stream)
         return;
-    std::string_view text = stream->ReadAll();
+    appendEntries(stream->ReadAll());
+}
+
+void fileWindow::appendEntries(std::string_view text) {
     text = text.substr(0, text.find_last_not_of("\r\n") + 1); // the line end behind the last target
     for (FieldWalk entries(text, DataFiles::entrySeparator); !entries.atEnd();) {
         FieldWalk parts(entries.next(), DataFiles::subfieldSeparator);
@@ -158,7 +162,25 @@ std::string fileWindow::textOfList() const {
     return list.text();
 }
 
+/// Joins the entries with what another program has made of their file.
+void fileWindow::bringInChanges() {
+    const std::string mark(DataFiles::entrySeparator);
+    const auto join = [&mark](const std::string& base, const std::string& here, const std::string& there) {
+        const auto entriesOf = [&mark](const std::string& text) {
+            return partsOf(text.substr(0, text.find_last_not_of("\r\n") + 1), mark);
+        };
+        return joinedBy(mergeLines(entriesOf(base), entriesOf(here), entriesOf(there)), mark) + EndOfLine;
+    };
+    const std::optional<std::string> joined = UnsavedFiles::joinOutside(userFile(), textOfList(), join);
+    if (!joined)
+        return;
+    ListBox1.beginStep(tr("Changes of Another Program"));
+    ListBox1.DeleteAllRows();
+    appendEntries(*joined);
+}
+
 bool fileWindow::saveFileList() {
+    bringInChanges();
     if (ListBox1.ListCount() == 0) {
         UnsavedFiles::forget(userFile()); // what waits has been removed since
         return false;

@@ -45,6 +45,8 @@ public:
     void PushButton1_Action() { Close(); }
 
 private:
+    void appendEntries(std::string_view text);
+    void bringInChanges();
     void addFile(const FolderItem& file);
     void addLink(const std::string& link);
     std::string textOfList() const;

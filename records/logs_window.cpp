@@ -66,10 +66,11 @@ std::array<logsWindow::Page, 3> logsWindow::pages() {
 }
 
 void logsWindow::getLogs() {
-    std::optional<TextInputStream> stream = UnsavedFiles::openText(userFile());
-    if (!stream)
-        return;
-    const LogRecord record = readLogRecord(*stream);
+    if (std::optional<TextInputStream> stream = UnsavedFiles::openText(userFile()))
+        show(readLogRecord(*stream));
+}
+
+void logsWindow::show(const LogRecord& record) {
     // Showing a text also puts it, with its line ends, into its global; an empty one changes nothing.
     Globals::gExercise = record.exercise;
     ExerciseFld.Text(withLineEnds(record.exercise));
@@ -79,14 +80,28 @@ void logsWindow::getLogs() {
     MedicationFld.Text(withLineEnds(record.medication));
 }
 
+void logsWindow::bringInChanges() {
+    const std::optional<std::string> joined = UnsavedFiles::joinOutside(userFile(), logRecord(), joinLogRecords);
+    if (!joined)
+        return;
+    TextInputStream stream(*joined);
+    show(readLogRecord(stream));
+}
+
 void logsWindow::Event_Open() {
     getLogs();
     UnsavedFiles::setBaseline(userFile(), logRecord());
 }
 
-void logsWindow::saveChanged() { UnsavedFiles::saveIfChanged(userFile(), logRecord()); }
+void logsWindow::saveChanged() {
+    bringInChanges();
+    UnsavedFiles::saveIfChanged(userFile(), logRecord());
+}
 
-void logsWindow::saveLogs() { UnsavedFiles::save(userFile(), logRecord()); }
+void logsWindow::saveLogs() {
+    bringInChanges();
+    UnsavedFiles::save(userFile(), logRecord());
+}
 
 void logsWindow::saveToDisk(const TextArea& field, const std::string& prompt) {
     for (const Page& candidate : pages())

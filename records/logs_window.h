@@ -4,6 +4,7 @@
 
 #include "auto_button/auto_button.h"
 #include "platform/windows/window.h"
+#include "settings/log_record.h"
 
 namespace tallyvane {
 
@@ -24,6 +25,8 @@ public:
     /// Loads the saved texts into fields and globals; without a file both stay as they are. The journal is not touched.
     void getLogs();
     void saveLogs();
+    /// Joins the logs with what another program has made of their file.
+    void bringInChanges();
     /// Saves if the texts have changed since they were read or saved.
     void saveChanged();
     void saveToDisk(const TextArea& field, const std::string& prompt);
@@ -39,6 +42,7 @@ public:
     void PushButton1_Action() { Close(); }
 
 private:
+    void show(const LogRecord& record);
     /// What belongs to a page of TabPanel1.
     struct Page {
         TextArea* field;

@@ -1,28 +1,25 @@
 #include "records/row_file.h"
 
+#include <utility>
+
 #include "platform/base/text.h"
+#include "platform/base/translation.h"
 #include "platform/files/text_output_stream.h"
 #include "settings/data_files.h"
 #include "settings/unsaved_files.h"
 
 namespace tallyvane::RowFile {
 
-bool load(Listbox& list, std::string_view name, bool replace) {
-    std::optional<TextInputStream> stream = UnsavedFiles::openText(UnsavedFiles::UserFile::ofApplication({}, name));
-    if (!stream)
-        return false;
-    if (replace)
-        list.DeleteAllRows();
+namespace {
+
+void appendRows(Listbox& list, TextInputStream stream) {
     do {
-        FieldWalk fields(stream->ReadLine(), DataFiles::fieldSeparator);
+        FieldWalk fields(stream.ReadLine(), DataFiles::fieldSeparator);
         list.AddRow(fields.next());
         for (int column = 1; column < list.ColumnCount(); ++column)
             list.Cell(list.LastIndex(), column, fields.next());
-    } while (!stream->EndOfFile());
-    return true;
+    } while (!stream.EndOfFile());
 }
-
-namespace {
 
 std::string textOf(const Listbox& list) {
     TextWriter rows;
@@ -34,8 +31,25 @@ std::string textOf(const Listbox& list) {
 
 } // namespace
 
-void save(const Listbox& list, const std::string& what, std::string_view name) {
-    UnsavedFiles::save(UnsavedFiles::UserFile::ofApplication(what, name), textOf(list));
+bool load(Listbox& list, std::string_view name, bool replace) {
+    std::optional<TextInputStream> stream = UnsavedFiles::openText(UnsavedFiles::UserFile::ofApplication({}, name));
+    if (!stream)
+        return false;
+    if (replace)
+        list.DeleteAllRows();
+    appendRows(list, std::move(*stream));
+    return true;
+}
+
+void save(Listbox& list, const std::string& what, std::string_view name) {
+    const UnsavedFiles::UserFile file = UnsavedFiles::UserFile::ofApplication(what, name);
+    if (auto joined = UnsavedFiles::joinOutside(file, textOf(list), UnsavedFiles::joinLines)) {
+        list.beginStep(tr("Changes of Another Program"));
+        list.DeleteAllRows();
+        if (!joined->empty())
+            appendRows(list, TextInputStream(std::move(*joined)));
+    }
+    UnsavedFiles::save(file, textOf(list));
 }
 
 void setBaseline(const Listbox& list, const std::string& what, std::string_view name) {

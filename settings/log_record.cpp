@@ -1,8 +1,12 @@
 #include "settings/log_record.h"
 
+#include <array>
+#include <tuple>
+
 #include "platform/base/text.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
+#include "settings/line_merge.h"
 
 namespace tallyvane {
 
@@ -22,6 +26,23 @@ std::string logRecord() {
         record += ReplaceAll(*log, EndOfLine, DataFiles::lineEndMark);
     }
     return record + EndOfLine;
+}
+
+std::string joinLogRecords(const std::string& base, const std::string& here, const std::string& there) {
+    const std::string mark(DataFiles::lineEndMark);
+    const auto fieldsOf = [](const std::string& text) {
+        TextInputStream stream(text);
+        const LogRecord record = readLogRecord(stream);
+        return std::array{record.exercise, record.food, record.journal, record.medication};
+    };
+    const auto [ofBase, ofHere, ofThere] = std::tuple(fieldsOf(base), fieldsOf(here), fieldsOf(there));
+    TextWriter joined;
+    std::array<std::string, 4> fields;
+    for (std::size_t i = 0; i < fields.size(); ++i)
+        fields[i] =
+            joinedBy(mergeLines(partsOf(ofBase[i], mark), partsOf(ofHere[i], mark), partsOf(ofThere[i], mark)), mark);
+    joined.WriteFields(fields, DataFiles::fieldSeparator);
+    return joined.text();
 }
 
 std::string withLineEnds(const std::string& field) { return ReplaceAll(field, DataFiles::lineEndMark, EndOfLine); }

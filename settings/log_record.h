@@ -19,6 +19,8 @@ struct LogRecord {
 LogRecord readLogRecord(TextInputStream& stream);
 /// The record of the four globals, with its line end.
 std::string logRecord();
+/// Joins two versions of a record, line by line in each log, as UnsavedFiles::Join.
+std::string joinLogRecords(const std::string& base, const std::string& here, const std::string& there);
 /// A field with real line ends.
 std::string withLineEnds(const std::string& field);
 

@@ -9,6 +9,7 @@
 #include "platform/files/save_record.h"
 #include "platform/files/system_files.h"
 #include "settings/data_files.h"
+#include "settings/line_merge.h"
 
 namespace tallyvane::UnsavedFiles {
 
@@ -20,6 +21,7 @@ struct Known {
     std::optional<std::string> onDisk; // what stood at its place; nothing for what was not there or unreadable
     bool hasChangedHere = false; // since the start
     bool saysTheSame = false; // the text says what stands there, if in another form
+    std::vector<std::string> shared; // the contents that came from outside, the last two
 };
 
 struct State {
@@ -94,7 +96,7 @@ UserFile UserFile::ofInnerFolder(std::string what, std::string_view name) {
 
 void setBaseline(const UserFile& file, const std::string& text) {
     if (waitingFor(keyOf(file)) == state().waiting.end()) // an unsaved text is not the baseline: the disk lacks it
-        state().known[keyOf(file)] = {text, contentAt(file.place)};
+        state().known[keyOf(file)] = {text, contentAt(file.place), false, false, {contentAt(file.place).value_or("")}};
 }
 
 std::optional<OutsideChange> changedOutside(const UserFile& file) {
@@ -111,7 +113,39 @@ void acceptOutside(const UserFile& file, const OutsideChange& change, const std:
     Known& known = state().known[keyOf(file)];
     known.text = saysTheSame ? text : change.there;
     known.onDisk = change.there;
+    known.shared = {known.shared.empty() ? "" : known.shared.back(), change.there};
     known.saysTheSame = saysTheSame;
+}
+
+std::string lastShared(const UserFile& file) {
+    const Known* known = knownOf(file);
+    if (known == nullptr || known->shared.empty())
+        return "";
+    const bool hasComeSince = known->shared.size() > 1;
+    return hasComeSince || known->onDisk != known->shared.front() ? known->shared.front() : "";
+}
+
+std::optional<std::string> joinOutside(const UserFile& file, const std::string& text, const Join& join) {
+    const std::optional<OutsideChange> change = changedOutside(file);
+    if (!change)
+        return std::nullopt;
+    std::string joined = join(change->base, text, change->there);
+    acceptOutside(file, *change, joined, joined == join(change->there, change->there, change->there));
+    return joined == text ? std::nullopt : std::optional(std::move(joined));
+}
+
+std::string joinLines(const std::string& base, const std::string& here, const std::string& there) {
+    const auto linesOf = [](const std::string& text) {
+        std::vector<std::string> lines;
+        TextInputStream stream(text);
+        while (!stream.EndOfFile())
+            lines.emplace_back(stream.ReadLine());
+        return lines;
+    };
+    TextWriter joined;
+    for (const std::string& line : mergeLines(linesOf(base), linesOf(here), linesOf(there)))
+        joined.WriteLine(line);
+    return joined.text();
 }
 
 bool save(const UserFile& file, const std::string& text) {
@@ -141,7 +175,8 @@ bool save(const UserFile& file, const std::string& text) {
         else
             forget(file);
         if (!why)
-            state().known[keyOf(file)] = {text, text, hasChangedHere};
+            state().known[keyOf(file)] = {text, text, hasChangedHere, false,
+                                          known == nullptr ? std::vector<std::string>{} : known->shared};
         return !why;
     } catch (const IOException& failure) {
         if (isLost)

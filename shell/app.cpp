@@ -1,5 +1,6 @@
 #include "shell/app.h"
 
+#include <algorithm>
 #include <exception>
 #include <utility>
 
@@ -254,10 +255,30 @@ void App::watchTable() {
     const std::string path = Snapshots::tablePath();
     if (path.empty())
         return;
+    bringInChanges(); // a copy in conflict may be there from before
     tableWatch_ = FileWatches::current().start(path, [this] {
         if (windows_.main->isOpen() && windows_.main->ListBox1.openRow() < 0)
-            windows_.main->bringInChanges();
+            bringInChanges();
     });
+}
+
+void App::bringInChanges() {
+    Window1& window = *windows_.main;
+    if (window.datesAwaitAnswer || askingAboutCopy_)
+        return;
+    window.bringInChanges();
+    const std::optional<DayTable::ConflictCopy> copy = DayTable::conflictCopy();
+    if (!copy || std::find(copiesLeft_.begin(), copiesLeft_.end(), copy->path) != copiesLeft_.end())
+        return;
+    const ScopedFlag asking(askingAboutCopy_); // the watch goes on
+    const Answer answer = Ask(tr("Your days were changed on two computers at once. One version is open here, the other "
+                                 "one is \u201c%1\u201d. Do you want to bring its days in?",
+                                 {copy->path}),
+                              tr("Bring Them In"), tr("Not Now"));
+    if (answer == Answer::yes)
+        window.bringIn(*copy);
+    else
+        copiesLeft_.push_back(copy->path); // until the next start
 }
 
 /// The offer belongs to the main window, and waits until that is there.

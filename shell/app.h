@@ -99,6 +99,7 @@ private:
     void reportKeptJournal();
     void askAboutDates();
     void watchTable();
+    void bringInChanges();
     void offerNewVersion(std::function<void()> done);
     void showOffer();
     void wakeFirstAndQuit();
@@ -110,8 +111,10 @@ private:
     bool showingException_ = false;
     bool failedSaveReported_ = false; // since the last save that succeeded
     bool askingAboutUnsaved_ = false;
+    bool askingAboutCopy_ = false;
     bool endsWithoutQuestion_ = false;
     std::vector<std::unique_ptr<SystemFiles::FolderLock>> folderLocks_;
+    std::vector<std::string> copiesLeft_; // in conflict, which the user does not want now
     std::unique_ptr<FileWatch> tableWatch_; // null where files can't be watched
     std::vector<UnfinishedSaves::Finished> finishedSaves_; // of the run before
     std::string fileToImport_; // a path that waits for the main window; "" for none

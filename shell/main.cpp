@@ -1,5 +1,6 @@
 #include <iostream>
 
+#include "platform/files/system_files.h"
 #include "platform/qt/program.h"
 #include "shell/app.h"
 #include "shell/command_line.h"
@@ -26,6 +27,7 @@ int main(int argc, char** argv) {
         std::cout << (early.help ? CommandLine::helpText() : CommandLine::versionText());
         return 0;
     }
+    SystemFiles::hideMemory();
     // As wide as the editor of headings, as high as the main window, with frames, menus and toolbar.
     constexpr Rect largestWindow{0, 0, 930, 660};
     QtProgram program(argc, argv, largestWindow);

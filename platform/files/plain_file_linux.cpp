@@ -29,9 +29,16 @@ auto withoutSignals(Call call) {
     return result;
 }
 
+/// A link that somebody else has put there, and that may lead anywhere.
+bool isForeignLink(const std::string& path) {
+    struct stat status {};
+    return ::lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode) && status.st_uid != ::geteuid() &&
+           status.st_uid != 0;
+}
+
 /// Opens a plain file; -1 otherwise. O_NONBLOCK keeps a pipe of that name from holding the program up.
 int openPlain(const std::string& path, int flags) {
-    if (path.find('\0') != std::string::npos)
+    if (path.find('\0') != std::string::npos || isForeignLink(path))
         return -1;
     const int file = ::open(path.c_str(), flags | O_CLOEXEC | O_NONBLOCK, ownerOnly);
     struct stat status {};
@@ -43,6 +50,8 @@ int openPlain(const std::string& path, int flags) {
 
 /// Why a file can't be opened for writing, after an attempt that ended with that error.
 std::string obstacleAt(const std::string& path, int error) {
+    if (isForeignLink(path))
+        return tr("a link of another user stands there");
     struct stat status {};
     if (::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode))
         return tr("a folder of that name stands there");

@@ -85,7 +85,7 @@ void Replacement::replace(const std::string& text) {
         throw IOException("can't read the file that is to be replaced: " + path_, tr("it is unreadable or too large"));
     if (before != text || file_->isNew() || wasRecorded_) {
         if (isRecorded_)
-            SaveRecords::keep({path_, Fingerprint::of(*before), text});
+            SaveRecords::keep(path_, Fingerprint::of(*before), text);
         overwriteOrRestore(*before, text);
         isReplaced_ = true;
         if (file_->isNew() && !SystemFiles::flushFolderOf(path_))

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 
 #include "platform/files/plain_file.h"
 #include "platform/files/system_files.h"
@@ -52,21 +53,29 @@ std::optional<Fingerprint> fingerprintIn(std::string_view line) {
     return length && high && low ? std::optional(Fingerprint{*length, *high, *low}) : std::nullopt;
 }
 
+/// All of a record but the content, which follows.
+std::string headOf(const std::string& path, const Fingerprint& before, std::string_view content) {
+    std::string head;
+    head.append(textOf(before)).append("\n");
+    head.append(textOf(Fingerprint::of(content))).append("\n");
+    head.append(std::to_string(path.size())).append("\n").append(path).append("\n"); // a path may hold line ends
+    return std::string(title).append(textOf(Fingerprint::of(head, content))).append("\n").append(head);
+}
+
 } // namespace
+
+Fingerprint Fingerprint::of(std::string_view first, std::string_view second) {
+    const std::unique_ptr<XXH3_state_t, XXH_errorcode (*)(XXH3_state_t*)> state(XXH3_createState(), XXH3_freeState);
+    XXH3_128bits_reset(state.get());
+    XXH3_128bits_update(state.get(), first.data(), first.size());
+    XXH3_128bits_update(state.get(), second.data(), second.size());
+    const XXH128_hash_t hash = XXH3_128bits_digest(state.get());
+    return {first.size() + second.size(), hash.high64, hash.low64};
+}
 
 Fingerprint Fingerprint::of(std::string_view content) {
     const XXH128_hash_t hash = XXH3_128bits(content.data(), content.size());
     return {content.size(), hash.high64, hash.low64};
-}
-
-std::string SaveRecord::text() const {
-    std::string rest;
-    rest.reserve(content.size() + path.size() + 200);
-    rest.append(textOf(before)).append("\n");
-    rest.append(textOf(Fingerprint::of(content))).append("\n");
-    rest.append(std::to_string(path.size())).append("\n").append(path).append("\n"); // a path may hold line ends
-    rest.append(content);
-    return std::string(title).append(textOf(Fingerprint::of(rest))).append("\n").append(rest);
 }
 
 std::optional<SaveRecord> SaveRecord::in(std::string_view text) {
@@ -110,10 +119,10 @@ std::string recordPath(const std::string& path) {
 
 void useFolder(const std::string& path) { folder() = path; }
 
-void keep(const SaveRecord& record) {
+void keep(const std::string& savedPath, const Fingerprint& before, std::string_view content) {
     if (folder().empty())
         return;
-    const std::string path = recordPath(record.path);
+    const std::string path = recordPath(savedPath);
     const std::string part = path + std::string(partEnding);
     static_cast<void>(SystemFiles::remove(part)); // of a save that was cut off
     std::string why;
@@ -122,11 +131,11 @@ void keep(const SaveRecord& record) {
         return;
     if (!file)
         throw IOException("can't make the record of a save", why);
-    const bool wasKept = isKept(record.path);
+    const bool wasKept = isKept(savedPath);
     try {
-        const std::string text = record.text();
-        file->write(text, 0);
-        file->cut(text.size());
+        const std::string head = headOf(savedPath, before, content);
+        file->write(head, 0);
+        file->write(content, head.size());
         file->flush();
         file->close();
         if (!SystemFiles::moveOver(part, path) || !SystemFiles::flushFolderOf(path))

@@ -18,6 +18,8 @@ struct Fingerprint {
     std::uint64_t low = 0;
 
     static Fingerprint of(std::string_view content);
+    /// Of one behind the other.
+    static Fingerprint of(std::string_view first, std::string_view second);
     bool operator==(const Fingerprint&) const = default;
 };
 
@@ -26,9 +28,7 @@ struct SaveRecord {
     Fingerprint before; // of the empty text for a file that was not there
     std::string content; // that the file is to hold
 
-    /// The text of the record's file.
-    std::string text() const;
-    /// The record in a file's text; nothing when that is not whole.
+    /// The record in its file's text; nothing when that is not whole.
     static std::optional<SaveRecord> in(std::string_view text);
     bool operator==(const SaveRecord&) const = default;
 };
@@ -40,7 +40,7 @@ void useFolder(const std::string& path);
 
 /// Writes the record and sees it to the disk, in place of an older one of the same file. Throws IOException when the
 /// disk fails; nothing is done where the folder is not there or not to be written in.
-void keep(const SaveRecord& record);
+void keep(const std::string& path, const Fingerprint& before, std::string_view content);
 /// Whether there is a record for the file of that path.
 bool isKept(const std::string& path);
 /// Takes the record for the file of that path away, if there is one.

@@ -24,6 +24,9 @@ void makeFolders(const std::string& path);
 /// Whether files can be made in a folder, as far as its rights and its disk's tell.
 [[nodiscard]] bool canWriteIn(const std::string& folder);
 
+/// Keeps the memory of this process, in which the diary is, out of core dumps and from other programs of the user.
+void hideMemory();
+
 /// Leaves a folder to its owner alone, if that is who runs the program: one that came from another computer may be open
 /// to all.
 void closeToOthers(const std::string& folder);

@@ -5,6 +5,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/prctl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -55,6 +56,8 @@ void makeFolders(const std::string& path) {
 }
 
 bool canWriteIn(const std::string& folder) { return !hasNul(folder) && ::access(folder.c_str(), W_OK | X_OK) == 0; }
+
+void hideMemory() { ::prctl(PR_SET_DUMPABLE, 0); }
 
 void closeToOthers(const std::string& folder) {
     struct stat status {};

@@ -6,6 +6,8 @@
 #include "diary/conflict_window.h"
 #include "diary/day_table.h"
 #include "diary/sort_keys.h"
+#include "settings/data_files.h"
+#include "settings/globals.h"
 #include "settings/unsaved_files.h"
 #include "support/diary_desk.h"
 
@@ -90,7 +92,6 @@ TEST_F(DayMergeTest, TwoProgramsComeToTheSameDaysAndLoseNone) {
         Texts base;
         for (int day = 1; day <= 6; ++day)
             base.push_back(std::to_string(day * 2) + " " + std::to_string(100 + day));
-        std::map<std::string, int> typed; // readings that nobody has taken out
         const auto change = [&](Texts days, int side) {
             for (int i = 0; i < 3; ++i) {
                 const std::string reading = std::to_string(1000 * (side + 1) + 10 * round % 900 + i);
@@ -108,8 +109,8 @@ TEST_F(DayMergeTest, TwoProgramsComeToTheSameDaysAndLoseNone) {
         const Texts other = change(base, 1);
         const Texts here = shown(join(base, one, other).days);
         const Texts there = shown(join(base, other, one).days);
-        std::map<std::string, std::string> conflicts;
-        if (join(base, one, other).conflicts.empty()) {
+        const std::vector<DayMerge::Conflict> conflicts = join(base, one, other).conflicts;
+        if (conflicts.empty()) {
             EXPECT_EQ(here, there) << "round " << round;
         }
         for (const Texts& side : {one, other})
@@ -119,9 +120,8 @@ TEST_F(DayMergeTest, TwoProgramsComeToTheSameDaysAndLoseNone) {
                     const auto holds = [&](const std::string& joined) {
                         return joined.find(reading) != std::string::npos;
                     };
-                    const auto conflictsNow = join(base, one, other).conflicts;
                     const bool isInConflict =
-                        std::any_of(conflictsNow.begin(), conflictsNow.end(),
+                        std::any_of(conflicts.begin(), conflicts.end(),
                                     [&](const DayMerge::Conflict& conflict) { return conflict.there == reading; });
                     EXPECT_TRUE(isInConflict || std::any_of(here.begin(), here.end(), holds)) << round << ": " << day;
                 }
@@ -147,7 +147,7 @@ TEST_F(DayMergeTest, AnotherProgramsDaysComeIntoTheWindowAsAStep) {
     EXPECT_EQ(read(applicationFile("7VXData")), there) << "written with the next save";
     window1_.saveData();
     EXPECT_EQ(DayMerge::daysIn(read(applicationFile("7VXData"))), DayMerge::daysOf(table_));
-    EXPECT_FALSE(std::filesystem::exists(applicationFile("7VXData before 2026-11-22"))) << "nothing is lost: no copy";
+    EXPECT_EQ(read(applicationFile("7VXData before 2026-11-22")), file({"1 5", "2 6", "3 7"})) << "the third is gone";
     menuBar_.choose("EditUndo", &window1_);
     EXPECT_EQ(table_.ListCount(), 3);
     EXPECT_EQ(row(0), "1/1/2026 5 5.5");
@@ -167,6 +167,40 @@ TEST_F(DayMergeTest, NothingIsWrittenWhereNothingHasChanged) {
     write(applicationFile("7VXData"), there.substr(0, there.size() / 2)); // still being written
     window1_.bringInChanges();
     EXPECT_EQ(table_.ListCount(), 3);
+}
+
+TEST_F(DayMergeTest, ACopyInConflictIsJoinedOnWhatBothSidesHadBefore) {
+    const auto path = [this](const char* name) { return applicationFile(name); };
+    for (const char* name :
+         {"7VXData.sync-conflict-20261123-220000-ABCDEFG", "7VXData (conflicted copy 2026-11-23 220000)",
+          "7VXData (Jane's conflicted copy 2026-11-23)"}) {
+        write(path(name), file({"1 5"}));
+        StartupGlobals::gDataFolder = DataFiles::applicationFolder();
+        ASSERT_TRUE(DayTable::conflictCopy()) << name;
+        DayTable::putAway(*DayTable::conflictCopy());
+        EXPECT_FALSE(DayTable::conflictCopy()) << name;
+    }
+    EXPECT_TRUE(std::filesystem::exists(path("7VXData brought in 2026-11-22 3")));
+
+    // What was saved here has lost, and stands in the copy; the other computer's table has come in its place.
+    write(path("7VXData"), file({"1 5", "2 6", "3 7"}));
+    open();
+    table_.EditCell(0, 2);
+    table_.userTyped("9", 1, 0);
+    window1_.saveData();
+    write(path("7VXData.sync-conflict-1"), read(path("7VXData")));
+    write(path("7VXData"), file({"1 5", "2 8", "4 4"}));
+    window1_.bringInChanges();
+    EXPECT_EQ(table_.Cell(0, 2), "") << "as the synchroniser has it";
+    window1_.bringIn(*DayTable::conflictCopy());
+    EXPECT_EQ(shown(DayMerge::join("", DayMerge::daysOf(table_), file({})).days), (Texts{"1 5 9", "2 8", "4 4"}));
+}
+
+TEST_F(DayMergeTest, ACopyOfWhichNothingIsKnownTakesNothingAway) {
+    write(applicationFile("7VXData"), file({"1 5", "2 6"}));
+    open();
+    window1_.bringIn({applicationFile("7VXData.sync-conflict-1"), file({"1 5 7", "3 8"})});
+    EXPECT_EQ(shown(DayMerge::join("", DayMerge::daysOf(table_), file({})).days), (Texts{"1 5 7", "2 6", "3 8"}));
 }
 
 TEST_F(DayMergeTest, TheUserPicksBetweenTwoValuesOfACell) {

@@ -31,6 +31,18 @@ TEST_F(RunningLogsTest, LogsComeBackAsTheyWereSaved) {
     EXPECT_EQ(read(applicationFile("QVXLogData")), file);
 }
 
+TEST_F(RunningLogsTest, LinesOfAnotherProgramAreJoined) {
+    write(applicationFile("QVXLogData"), "@#@@#@monday$%$tuesday@#@\n");
+    open();
+    window1_.JournalFld.Text("monday\ntuesday\nwednesday");
+    write(applicationFile("QVXLogData"), "walk@#@@#@sunday$%$monday$%$tuesday@#@\n");
+    window1_.saveChanged();
+    EXPECT_EQ(window1_.JournalFld.Text(), "sunday\nmonday\ntuesday\nwednesday");
+    EXPECT_EQ(read(applicationFile("QVXLogData")), "walk@#@@#@sunday$%$monday$%$tuesday$%$wednesday@#@\n");
+    EXPECT_FALSE(std::filesystem::exists(applicationFile("QVXLogData before 2026-11-22")))
+        << "nothing is lost: no copy";
+}
+
 TEST_F(RunningLogsTest, FewerFieldsGiveEmptyLogsAndAJournalFileWins) {
     write(applicationFile("QVXLogData"), "walk@#@soup@#@logged\nsecond line");
     write(applicationFile("Tallyvane Journal"), "from the\r\nfile");

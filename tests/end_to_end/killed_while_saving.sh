@@ -32,7 +32,7 @@ awk -v days="$days" 'BEGIN {
 start_and_end() {
     setsid "$program" 2>/dev/null &
     pid=$!
-    until readlink /proc/"$pid"/fd/* 2>/dev/null | grep -qx "$folder"; do sleep 0.01; done
+    until grep -q "FLOCK.*:$(stat -c %i "$folder") " /proc/locks; do sleep 0.01; done
     kill -TERM "$pid"
 }
 

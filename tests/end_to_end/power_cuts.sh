@@ -51,7 +51,7 @@ mkdir -m 700 "$folder"
 start_and_end() {
     "$program" 2>/dev/null &
     pid=$!
-    until readlink /proc/"$pid"/fd/* 2>/dev/null | grep -qx "$folder"; do sleep 0.01; done
+    until grep -q "FLOCK.*:$(stat -c %i "$folder") " /proc/locks; do sleep 0.01; done
     kill -TERM "$pid"
 }
 

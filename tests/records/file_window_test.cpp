@@ -38,6 +38,15 @@ TEST_F(FileWindowTest, EntriesAreReadAndWrittenAgain) {
     EXPECT_EQ(read(list()), content);
 }
 
+TEST_F(FileWindowTest, LinksOfAnotherProgramAreJoined) {
+    openWith("Guide@@@www.example.org\n");
+    files_.ListBox1.AddRow("Jane");
+    files_.ListBox1.Cell(1, 1, "jane@example.org");
+    write(list(), "News@@@www.example.com###Guide@@@www.example.org\n");
+    files_.Close();
+    EXPECT_EQ(read(list()), "News@@@www.example.com###Guide@@@www.example.org###Jane@@@jane@example.org\n");
+}
+
 TEST_F(FileWindowTest, FilesComeByDialogAndByDrop) {
     const FolderItem file = fileNamed("my notes.txt");
     files_.Show();

@@ -91,6 +91,17 @@ TEST_F(InfoWindowTest, AnEmptyFileIsOneEmptyRow) {
     EXPECT_EQ(columnOf(info_.ListBox2, 0), Texts{""});
 }
 
+TEST_F(InfoWindowTest, WhatAnotherProgramWroteIsJoined) {
+    openWith("Doctor@#@Dr A@#@@#@@#@\nNurse@#@B@#@@#@@#@\n", "Aspirin@#@100@#@\n");
+    info_.EditField2.userChanged("Dr Z", 4, 0);
+    write(applicationFile("QVXContacts"), "Doctor@#@Dr A@#@@#@@#@\nNurse@#@B@#@@#@@#@\nEyes@#@C@#@@#@@#@\n");
+    write(applicationFile("QVXMedications"), "");
+    info_.Close();
+    EXPECT_EQ(read(applicationFile("QVXContacts")), "Doctor@#@Dr Z@#@@#@@#@\nNurse@#@B@#@@#@@#@\nEyes@#@C@#@@#@@#@\n");
+    EXPECT_EQ(columnOf(info_.ListBox1, 0), (Texts{"Doctor", "Nurse", "Eyes"}));
+    EXPECT_EQ(read(applicationFile("QVXMedications")), "Aspirin@#@100@#@\n") << "an emptied file is no change to join";
+}
+
 TEST_F(InfoWindowTest, DetailsFollowTheSelectionAndTheList) {
     openWith("Doctor@#@Dr A@#@@#@@#@\nNurse@#@B@#@@#@@#@\n", "");
     info_.EditField2.userChanged("Dr Z", 4, 0);

@@ -40,6 +40,16 @@ TEST_F(LogsWindowTest, TextsComeBackAsTheyWereAndTheJournalIsLeftAlone) {
     EXPECT_EQ(read(file()), "walk@#@bread$%$butter@#@today's@#@pills\n");
 }
 
+TEST_F(LogsWindowTest, LinesOfAnotherProgramAreJoined) {
+    write(file(), "walk@#@bread$%$milk@#@@#@pills\n");
+    logs_.Show();
+    logs_.FoodFld.Text("bread\nmilk\neggs");
+    write(file(), "walk$%$swim@#@tea$%$bread$%$milk@#@@#@pills\n");
+    logs_.saveChanged();
+    EXPECT_EQ(logs_.FoodFld.Text(), "tea\nbread\nmilk\neggs");
+    EXPECT_EQ(read(file()), "walk$%$swim@#@tea$%$bread$%$milk$%$eggs@#@@#@pills\n");
+}
+
 TEST_F(LogsWindowTest, AShortRecordGivesEmptyTexts) {
     write(file(), "walk\n");
     Globals::gMedication = "before";

@@ -167,7 +167,7 @@ TEST_F(PowerCutsTest, AStartThatIsCutOffIsMadeGoodByTheNext) {
     for (const std::string& found : {old, mixture, fresh, std::string()}) {
         std::filesystem::remove_all(folder_ / "days");
         write(table(), found);
-        SaveRecords::keep({table().string(), Fingerprint::of(old), fresh});
+        SaveRecords::keep(table().string(), Fingerprint::of(old), fresh);
         tryAll(fresh, fresh, [this] { EXPECT_NE(afterStart(), ""); });
     }
 }
