@@ -236,6 +236,7 @@ void apply(const Result& result, Listbox& table) {
     }
     const int first = table.ListCount();
     std::vector<DateForms::DatedRow> dates;
+    dates.reserve(fresh.size());
     for (const Day& day : fresh)
         dates.push_back({day[DayTable::dateColumn], day[DayTable::firstKey]});
     table.AddRows(std::move(fresh));

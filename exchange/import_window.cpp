@@ -100,6 +100,7 @@ void importWindow::continueReading(ImportReader::Milliseconds time) {
 /// Appends the rows and selects them, which raises Change and so updates the averages.
 void importWindow::appendRows(std::vector<ImportReader::Row> rows) {
     std::vector<DateForms::DatedRow> dates;
+    dates.reserve(rows.size());
     for (const ImportReader::Row& row : rows)
         dates.push_back({row.front(), ""});
     const DateForms::Findings found = DateForms::find(dates);

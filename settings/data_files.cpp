@@ -15,7 +15,7 @@ std::string numbered(const std::string& name, int number) {
 
 std::optional<FolderItem> freePlace(const FolderItem& folder, const std::string& name) {
     for (int number = 1;; ++number) {
-        const std::optional<FolderItem> place = folder.Child(numbered(name, number));
+        std::optional<FolderItem> place = folder.Child(numbered(name, number));
         if (!place || !place->Exists())
             return place;
     }

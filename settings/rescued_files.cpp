@@ -95,7 +95,8 @@ void keep() {
                    SystemFiles::read(before.keptAt) == unsaved.text;
         });
     };
-    const std::vector files(UnsavedFiles::all()); // forget changes the list
+    const std::vector<UnsavedFiles::Unsaved>& all = UnsavedFiles::all();
+    const std::vector files(all.begin(), all.end()); // forget changes the list
     for (const UnsavedFiles::Unsaved& unsaved : files)
         if (isKept(unsaved))
             UnsavedFiles::forget(unsaved.file);

@@ -8,9 +8,7 @@
 
 #include "platform/files/io_exception.h"
 
-namespace tallyvane {
-
-namespace SystemFiles {
+namespace tallyvane::SystemFiles {
 
 enum class Kind { none, file, folder, other };
 
@@ -79,5 +77,4 @@ private:
     int file_;
 };
 
-} // namespace SystemFiles
-} // namespace tallyvane
+} // namespace tallyvane::SystemFiles
