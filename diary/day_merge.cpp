@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "diary/date_forms.h"
+#include "diary/date_key.h"
 #include "diary/day_table.h"
 #include "platform/base/text.h"
 #include "platform/files/text_input_stream.h"
@@ -29,9 +30,10 @@ struct Side {
     bool has(const Id& id) const { return days.contains(id); }
 };
 
-const std::string& nameOf(const Day& day) {
+std::string nameOf(const Day& day) {
     const std::string& key = day[DayTable::firstKey];
-    return key.empty() ? day[DayTable::dateColumn] : key;
+    const std::optional<Date> date = key.empty() ? ParseDate(day[DayTable::dateColumn]) : std::nullopt;
+    return date ? DateKey::of(*date) : key.empty() ? day[DayTable::dateColumn] : key;
 }
 
 Side sideOf(const std::vector<Day>& days) {

@@ -73,9 +73,10 @@ void keepBefore(const UnsavedFiles::OutsideChange& change) { keepBeside(" before
 std::optional<ConflictCopy> conflictCopy() {
     const std::optional<FolderItem>& folder = StartupGlobals::gDataFolder;
     for (const std::string& name : folder ? SystemFiles::namesIn(folder->AbsolutePath()) : std::vector<std::string>{}) {
-        const bool isCopy =
-            name.starts_with(DataFiles::dayTable) &&
-            (name.find("sync-conflict") != std::string::npos || name.find("conflicted copy") != std::string::npos);
+        const std::string table(DataFiles::dayTable);
+        const bool isOfTable = name.starts_with(table + ".") || name.starts_with(table + " ("); // and of no other copy
+        const bool isCopy = isOfTable && (name.find("sync-conflict") != std::string::npos ||
+                                          name.find("conflicted copy") != std::string::npos);
         if (!isCopy)
             continue;
         const std::string path = folder->AbsolutePath() + "/" + name;
@@ -85,8 +86,6 @@ std::optional<ConflictCopy> conflictCopy() {
     }
     return std::nullopt;
 }
-
-std::string baseOfConflictCopy() { return UnsavedFiles::lastShared(userFile()); }
 
 void putAway(const ConflictCopy& copy) {
     const std::string name = std::string(DataFiles::dayTable) + " brought in " + Date().isoDate();

@@ -58,8 +58,6 @@ struct ConflictCopy {
 };
 /// The first one that is a whole table: of names as "7VXData.sync-conflict-...", "7VXData (conflicted copy ...)".
 [[nodiscard]] std::optional<ConflictCopy> conflictCopy();
-/// The content on which table and copy are joined; "" for none.
-[[nodiscard]] std::string baseOfConflictCopy();
 /// Gives it a name by which it is not found again.
 void putAway(const ConflictCopy& copy);
 

@@ -79,32 +79,34 @@ void Window1::bringInChanges() {
     const auto change = datesAwaitAnswer ? std::nullopt : DayTable::changedOutside();
     if (!change || !DayMerge::isReadyToJoin(change->base, change->there))
         return;
-    const DayMerge::Result joined = join(change->base, change->there);
+    const DayMerge::Result joined = DayMerge::join(change->base, DayMerge::daysOf(ListBox1), change->there);
     if (joined.takesDaysAway)
         DayTable::keepBefore(*change); // what was typed here must not end with the history
     if (!joined.conflicts.empty())
         DayTable::keepOutside(*change);
+    show(joined);
     DayTable::acceptOutside(ListBox1, *change, joined.isAsThere);
     tellOf(joined);
 }
 
+/// What both sides had before is not known: days and readings of both stay, and nothing is taken away.
 void Window1::bringIn(const DayTable::ConflictCopy& copy) {
-    const DayMerge::Result joined = join(DayTable::baseOfConflictCopy(), copy.content);
+    const DayMerge::Result joined = DayMerge::join("", DayMerge::daysOf(ListBox1), copy.content);
+    show(joined);
+    saveData(); // before the copy is out of sight
     DayTable::putAway(copy);
     tellOf(joined);
 }
 
-/// Joins the table with another version of it, on a common base, as a step of its own.
-DayMerge::Result Window1::join(const std::string& base, const std::string& there) {
+/// The table as it was joined, as a step of its own.
+void Window1::show(const DayMerge::Result& joined) {
     ListBox1.closeCell();
-    DayMerge::Result joined = DayMerge::join(base, DayMerge::daysOf(ListBox1), there);
-    if (!joined.isAsHere) {
-        ListBox1.beginStep(tr("Changes of Another Program"));
-        DayMerge::apply(joined, ListBox1);
-        doSortColumns();
-        showDaysAnew();
-    }
-    return joined;
+    if (joined.isAsHere)
+        return;
+    ListBox1.beginStep(tr("Changes of Another Program"));
+    DayMerge::apply(joined, ListBox1);
+    doSortColumns();
+    showDaysAnew();
 }
 
 void Window1::tellOf(const DayMerge::Result& joined) {
@@ -165,8 +167,11 @@ void Window1::saveLogs() {
 }
 
 void Window1::bringInLogs() {
-    if (RunningLogs::bringInChanges([this](const std::string& journal) { JournalFld.Text(journal); }))
+    if (RunningLogs::bringInChanges([this](const std::string& journal) { JournalFld.Text(journal); })) {
+        if (logsBroughtIn)
+            logsBroughtIn();
         notes_.tell(tr("Another program changed the journal or the logs: its lines were brought in"));
+    }
 }
 
 void Window1::getLogs() {

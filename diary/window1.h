@@ -72,6 +72,8 @@ public:
     std::function<void(const UsualLimits::Limits& limits)> offerLimits;
     /// Shows a line of a log; false when it is not there.
     std::function<bool(const Search::Hit& hit)> showLogLine;
+    /// The logs have other texts now, which another program wrote.
+    std::function<void()> logsBroughtIn;
     /// Five minutes have gone without a save.
     std::function<void()> autosave;
 
@@ -162,7 +164,7 @@ private:
     MenuHandlers daysMenu();
     bool goToDay(const Date& day);
     bool goToHit(const Search::Hit& hit);
-    DayMerge::Result join(const std::string& base, const std::string& there);
+    void show(const DayMerge::Result& joined);
     void tellOf(const DayMerge::Result& joined);
     void showConflicts(const std::vector<DayMerge::Conflict>& conflicts);
     bool takeOther(const DayMerge::Conflict& conflict);

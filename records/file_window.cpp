@@ -241,9 +241,9 @@ void fileWindow::BevelButton2_Action() {
     deleteEmptyList();
 }
 
-/// An empty list leaves no file, once there was one.
+/// An empty list leaves no file, once there was one; but what another program has put there stays.
 void fileWindow::deleteEmptyList() {
-    if (ListBox1.ListCount() == 0 && listFile)
+    if (ListBox1.ListCount() == 0 && listFile && !UnsavedFiles::changedOutside(userFile()))
         listFile->Delete();
 }
 

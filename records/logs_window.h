@@ -4,6 +4,7 @@
 
 #include "auto_button/auto_button.h"
 #include "platform/windows/window.h"
+#include "settings/globals.h"
 #include "settings/log_record.h"
 
 namespace tallyvane {
@@ -25,6 +26,8 @@ public:
     /// Loads the saved texts into fields and globals; without a file both stay as they are. The journal is not touched.
     void getLogs();
     void saveLogs();
+    /// Shows the globals.
+    void showGlobals() { show({Globals::gExercise, Globals::gFood, Globals::gJournal, Globals::gMedication}); }
     /// Joins the logs with what another program has made of their file.
     void bringInChanges();
     /// Saves if the texts have changed since they were read or saved.

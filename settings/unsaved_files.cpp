@@ -21,7 +21,6 @@ struct Known {
     std::optional<std::string> onDisk; // what stood at its place; nothing for what was not there or unreadable
     bool hasChangedHere = false; // since the start
     bool saysTheSame = false; // the text says what stands there, if in another form
-    std::vector<std::string> shared; // the contents that came from outside, the last two
 };
 
 struct State {
@@ -96,7 +95,7 @@ UserFile UserFile::ofInnerFolder(std::string what, std::string_view name) {
 
 void setBaseline(const UserFile& file, const std::string& text) {
     if (waitingFor(keyOf(file)) == state().waiting.end()) // an unsaved text is not the baseline: the disk lacks it
-        state().known[keyOf(file)] = {text, contentAt(file.place), false, false, {contentAt(file.place).value_or("")}};
+        state().known[keyOf(file)] = {text, contentAt(file.place)};
 }
 
 std::optional<OutsideChange> changedOutside(const UserFile& file) {
@@ -113,21 +112,13 @@ void acceptOutside(const UserFile& file, const OutsideChange& change, const std:
     Known& known = state().known[keyOf(file)];
     known.text = saysTheSame ? text : change.there;
     known.onDisk = change.there;
-    known.shared = {known.shared.empty() ? "" : known.shared.back(), change.there};
     known.saysTheSame = saysTheSame;
-}
-
-std::string lastShared(const UserFile& file) {
-    const Known* known = knownOf(file);
-    if (known == nullptr || known->shared.empty())
-        return "";
-    const bool hasComeSince = known->shared.size() > 1;
-    return hasComeSince || known->onDisk != known->shared.front() ? known->shared.front() : "";
 }
 
 std::optional<std::string> joinOutside(const UserFile& file, const std::string& text, const Join& join) {
     const std::optional<OutsideChange> change = changedOutside(file);
-    if (!change)
+    const bool isCutOff = change && !change->there.ends_with('\n') && !change->there.ends_with('\r');
+    if (!change || isCutOff)
         return std::nullopt;
     std::string joined = join(change->base, text, change->there);
     acceptOutside(file, *change, joined, joined == join(change->there, change->there, change->there));
@@ -175,8 +166,7 @@ bool save(const UserFile& file, const std::string& text) {
         else
             forget(file);
         if (!why)
-            state().known[keyOf(file)] = {text, text, hasChangedHere, false,
-                                          known == nullptr ? std::vector<std::string>{} : known->shared};
+            state().known[keyOf(file)] = {text, text, hasChangedHere};
         return !why;
     } catch (const IOException& failure) {
         if (isLost)

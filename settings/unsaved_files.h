@@ -52,10 +52,6 @@ struct OutsideChange {
 /// there, in whatever form, it is not written.
 void acceptOutside(const UserFile& file, const OutsideChange& change, const std::string& text, bool saysTheSame);
 
-/// The last content of a file that this program and others surely shared: what was read at the start, or what another
-/// program wrote, before the last change on either side. "" where none is known.
-[[nodiscard]] std::string lastShared(const UserFile& file);
-
 /// Joins a text with what another program has made of its file: `join` gets the common base, the text and what stands
 /// there. The joined text, if it is another than the text; it then counts as brought in, and is to be shown and saved.
 using Join = std::function<std::string(const std::string& base, const std::string& here, const std::string& there)>;

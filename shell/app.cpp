@@ -182,6 +182,10 @@ void App::wireWindows(Window1& window) {
         windows_.prefs->useLimits(limits);
     };
     window.autosave = [this] { Event_Deactivate(); };
+    window.logsBroughtIn = [this] {
+        if (windows_.logs && windows_.logs->isOpen())
+            windows_.logs->showGlobals();
+    };
     window.showLogs = [this] { showSingle(windows_.logs); };
     window.showLogLine = [this](const Search::Hit& hit) {
         showSingle(windows_.logs);
@@ -266,7 +270,11 @@ void App::bringInChanges() {
     Window1& window = *windows_.main;
     if (window.datesAwaitAnswer || askingAboutCopy_)
         return;
-    window.bringInChanges();
+    try {
+        window.bringInChanges();
+    } catch (const IOException&) { // no room for a copy: the next save tries again, and tells
+        return;
+    }
     const std::optional<DayTable::ConflictCopy> copy = DayTable::conflictCopy();
     if (!copy || std::find(copiesLeft_.begin(), copiesLeft_.end(), copy->path) != copiesLeft_.end())
         return;

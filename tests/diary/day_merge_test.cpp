@@ -193,7 +193,8 @@ TEST_F(DayMergeTest, ACopyInConflictIsJoinedOnWhatBothSidesHadBefore) {
     window1_.bringInChanges();
     EXPECT_EQ(table_.Cell(0, 2), "") << "as the synchroniser has it";
     window1_.bringIn(*DayTable::conflictCopy());
-    EXPECT_EQ(shown(DayMerge::join("", DayMerge::daysOf(table_), file({})).days), (Texts{"1 5 9", "2 8", "4 4"}));
+    EXPECT_EQ(shown(DayMerge::join("", DayMerge::daysOf(table_), file({})).days),
+              (Texts{"1 5 9", "2 8", "3 7", "4 4"}));
 }
 
 TEST_F(DayMergeTest, ACopyOfWhichNothingIsKnownTakesNothingAway) {
