@@ -30,10 +30,13 @@ struct Side {
     bool has(const Id& id) const { return days.contains(id); }
 };
 
+/// The key of its day; where it has none, that of its date, or just that text.
 std::string nameOf(const Day& day) {
-    const std::string& key = day[DayTable::firstKey];
-    const std::optional<Date> date = key.empty() ? ParseDate(day[DayTable::dateColumn]) : std::nullopt;
-    return date ? DateKey::of(*date) : key.empty() ? day[DayTable::dateColumn] : key;
+    const std::string& text = day[DayTable::dateColumn];
+    if (const std::string& key = day[DayTable::firstKey]; !key.empty())
+        return key;
+    const std::optional<Date> date = ParseDate(text);
+    return date ? DateKey::of(*date) : text;
 }
 
 Side sideOf(const std::vector<Day>& days) {
@@ -75,15 +78,15 @@ bool isSameOrder(const Side& a, const Side& b) {
     return common(a, b) == common(b, a);
 }
 
-/// Joins the cells of a day that stands on both sides.
-Day joinCells(const Day& base, const Day& here, const Day& there, std::vector<Conflict>& conflicts) {
+/// Joins the cells of a day that stands on both sides; `row` is its place among those of its date.
+Day joinCells(const Day& base, const Day& here, const Day& there, int row, std::vector<Conflict>& conflicts) {
     Day joined = here;
     for (const int column : typedColumns()) {
         const auto at = static_cast<std::size_t>(column);
         if (here[at] == base[at])
             joined[at] = there[at];
         else if (there[at] != base[at] && there[at] != here[at])
-            conflicts.push_back({here[DayTable::dateColumn], column, here[at], there[at]});
+            conflicts.push_back({here[DayTable::dateColumn], row, column, here[at], there[at]});
     }
     if (areEqual(joined, there))
         joined[DayTable::averageColumn] = there[DayTable::averageColumn];
@@ -143,7 +146,7 @@ private:
         const bool isThere = there_.has(id);
         const Day& base = base_.has(id) ? base_.days[id] : none_;
         if (isHere && isThere) {
-            take(id, here_.rows[id], joinCells(base, here_.days[id], there_.days[id], result_.conflicts));
+            take(id, here_.rows[id], joinCells(base, here_.days[id], there_.days[id], id.second, result_.conflicts));
         } else if (isHere) {
             if (!base_.has(id) || !areEqual(base, here_.days[id])) // else it was taken out there
                 take(id, here_.rows[id], here_.days[id]);
@@ -205,6 +208,19 @@ bool isReadyToJoin(const std::string& base, const std::string& there) {
 
 Result join(const std::string& base, const std::vector<Day>& here, const std::string& there) {
     return Joining(daysIn(base), here, daysIn(there)).result();
+}
+
+bool takeOther(const Conflict& conflict, Listbox& table) {
+    int ofThatDate = 0;
+    for (int row = 0; row < table.ListCount(); ++row) {
+        if (table.Cell(row, DayTable::dateColumn) != conflict.date || ofThatDate++ != conflict.row)
+            continue;
+        const bool isAsShown = table.Cell(row, conflict.column) == conflict.here;
+        if (isAsShown)
+            table.Cell(row, conflict.column, conflict.there);
+        return isAsShown;
+    }
+    return false;
 }
 
 void apply(const Result& result, Listbox& table) {

@@ -15,6 +15,7 @@ using Day = std::vector<std::string>;
 /// A cell that was changed on both sides, to different texts. The one here stands.
 struct Conflict {
     std::string date;
+    int row = 0; // among those of that date
     int column = 0;
     std::string here;
     std::string there;
@@ -50,6 +51,10 @@ std::vector<Day> daysIn(const std::string& file);
 /// side has taken out and the other has changed stays. Averages and keys are computed cells, and no change. Both sides
 /// of two programs that join the same texts get the same days in the same order.
 Result join(const std::string& base, const std::vector<Day>& here, const std::string& there);
+
+/// Puts the value from there in the cell of a conflict, as a change of the step that was begun before. False, and
+/// nothing done, when the cell does not hold the value from here any more.
+[[nodiscard]] bool takeOther(const Conflict& conflict, Listbox& table);
 
 /// Brings the result into the table that went in as `here`, as changes of one step that was begun before.
 void apply(const Result& result, Listbox& table);

@@ -2,9 +2,7 @@
 
 #include "platform/base/text.h"
 #include "platform/base/translation.h"
-#include "platform/files/system_files.h"
 #include "platform/files/text_output_stream.h"
-#include "settings/damaged_files.h"
 #include "settings/data_files.h"
 #include "settings/globals.h"
 
@@ -69,29 +67,6 @@ void acceptOutside(const Listbox& table, const UnsavedFiles::OutsideChange& chan
 void keepOutside(const UnsavedFiles::OutsideChange& change) { keepBeside(" of another program ", change.there); }
 
 void keepBefore(const UnsavedFiles::OutsideChange& change) { keepBeside(" before ", change.base); }
-
-std::optional<ConflictCopy> conflictCopy() {
-    const std::optional<FolderItem>& folder = StartupGlobals::gDataFolder;
-    for (const std::string& name : folder ? SystemFiles::namesIn(folder->AbsolutePath()) : std::vector<std::string>{}) {
-        const std::string table(DataFiles::dayTable);
-        const bool isOfTable = name.starts_with(table + ".") || name.starts_with(table + " ("); // and of no other copy
-        const bool isCopy = isOfTable && (name.find("sync-conflict") != std::string::npos ||
-                                          name.find("conflicted copy") != std::string::npos);
-        if (!isCopy)
-            continue;
-        const std::string path = folder->AbsolutePath() + "/" + name;
-        std::optional<std::string> content = SystemFiles::read(path);
-        if (content && !content->empty() && DamagedFiles::isWholeTable(*content))
-            return ConflictCopy{path, std::move(*content)};
-    }
-    return std::nullopt;
-}
-
-void putAway(const ConflictCopy& copy) {
-    const std::string name = std::string(DataFiles::dayTable) + " brought in " + Date().isoDate();
-    if (const auto place = DataFiles::freePlace(*StartupGlobals::gDataFolder, name))
-        static_cast<void>(SystemFiles::rename(copy.path, place->AbsolutePath())); // else it is offered again
-}
 
 bool load(Listbox& table) {
     std::optional<TextInputStream> stream = UnsavedFiles::openText(userFile());

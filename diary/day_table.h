@@ -50,17 +50,6 @@ void acceptOutside(const Listbox& table, const UnsavedFiles::OutsideChange& chan
 void keepOutside(const UnsavedFiles::OutsideChange& change);
 void keepBefore(const UnsavedFiles::OutsideChange& change);
 
-/// Another version of the table, which a synchroniser has left beside it, since it was changed on two computers at
-/// once.
-struct ConflictCopy {
-    std::string path;
-    std::string content;
-};
-/// The first one that is a whole table: of names as "7VXData.sync-conflict-...", "7VXData (conflicted copy ...)".
-[[nodiscard]] std::optional<ConflictCopy> conflictCopy();
-/// Gives it a name by which it is not found again.
-void putAway(const ConflictCopy& copy);
-
 /// Sets the table, as it was just read, as the baseline: saving it unchanged never replaces a newer file.
 void setBaseline(const Listbox& table);
 

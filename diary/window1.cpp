@@ -75,74 +75,6 @@ void Window1::saveData() {
     DayTable::save(ListBox1);
 }
 
-void Window1::bringInChanges() {
-    const auto change = datesAwaitAnswer ? std::nullopt : DayTable::changedOutside();
-    if (!change || !DayMerge::isReadyToJoin(change->base, change->there))
-        return;
-    const DayMerge::Result joined = DayMerge::join(change->base, DayMerge::daysOf(ListBox1), change->there);
-    if (joined.takesDaysAway)
-        DayTable::keepBefore(*change); // what was typed here must not end with the history
-    if (!joined.conflicts.empty())
-        DayTable::keepOutside(*change);
-    show(joined);
-    DayTable::acceptOutside(ListBox1, *change, joined.isAsThere);
-    tellOf(joined);
-}
-
-/// What both sides had before is not known: days and readings of both stay, and nothing is taken away.
-void Window1::bringIn(const DayTable::ConflictCopy& copy) {
-    const DayMerge::Result joined = DayMerge::join("", DayMerge::daysOf(ListBox1), copy.content);
-    show(joined);
-    saveData(); // before the copy is out of sight
-    DayTable::putAway(copy);
-    tellOf(joined);
-}
-
-/// The table as it was joined, as a step of its own.
-void Window1::show(const DayMerge::Result& joined) {
-    ListBox1.closeCell();
-    if (joined.isAsHere)
-        return;
-    ListBox1.beginStep(tr("Changes of Another Program"));
-    DayMerge::apply(joined, ListBox1);
-    doSortColumns();
-    showDaysAnew();
-}
-
-void Window1::tellOf(const DayMerge::Result& joined) {
-    if (joined.daysBroughtIn > 0)
-        notes_.tell(joined.daysBroughtIn == 1
-                        ? tr("Another program changed the diary: 1 day brought in")
-                        : tr("Another program changed the diary: %1 days brought in", {Grouped(joined.daysBroughtIn)}));
-    if (!joined.conflicts.empty())
-        showConflicts(joined.conflicts);
-}
-
-void Window1::showConflicts(const std::vector<DayMerge::Conflict>& conflicts) {
-    if (!conflictWindow_ || !conflictWindow_->isOpen()) {
-        conflictWindow_ = std::make_unique<ConflictWindow>();
-        conflictWindow_->nameOfColumn = [this](int column) { return columnName(column); };
-        conflictWindow_->takeOther = [this](const DayMerge::Conflict& conflict) { return takeOther(conflict); };
-    }
-    conflictWindow_->add(conflicts);
-    conflictWindow_->Show();
-}
-
-bool Window1::takeOther(const DayMerge::Conflict& conflict) {
-    const std::optional<Date> day = ParseDate(conflict.date);
-    const std::vector<int> rows = day ? Finding::rowsOf(ListBox1, *day) : std::vector<int>{};
-    for (const int row : rows) {
-        if (ListBox1.Cell(row, conflict.column) != conflict.here)
-            continue;
-        ListBox1.beginStep(tr("Value of Another Program"));
-        ListBox1.Cell(row, conflict.column, conflict.there);
-        doSortColumns();
-        showDaysAnew();
-        return true;
-    }
-    return false;
-}
-
 void Window1::rewriteDates(const std::vector<DateForms::MeantDay>& days) {
     ListBox1.beginStep(tr("Dates in Your Form"));
     DateForms::rewrite(ListBox1, days);
@@ -164,14 +96,6 @@ void Window1::getData() {
 void Window1::saveLogs() {
     bringInLogs();
     RunningLogs::save();
-}
-
-void Window1::bringInLogs() {
-    if (RunningLogs::bringInChanges([this](const std::string& journal) { JournalFld.Text(journal); })) {
-        if (logsBroughtIn)
-            logsBroughtIn();
-        notes_.tell(tr("Another program changed the journal or the logs: its lines were brought in"));
-    }
 }
 
 void Window1::getLogs() {

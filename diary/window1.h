@@ -7,6 +7,7 @@
 
 #include "auto_button/auto_button.h"
 #include "diary/averages.h"
+#include "diary/conflict_copies.h"
 #include "diary/conflict_window.h"
 #include "diary/date_forms.h"
 #include "diary/day_merge.h"
@@ -102,7 +103,7 @@ public:
     /// journal's tab.
     void bringInChanges();
     /// Joins the table with a version that a synchroniser has left beside it.
-    void bringIn(const DayTable::ConflictCopy& copy);
+    void bringIn(const ConflictCopies::Copy& copy);
     /// The same for journal and logs.
     void bringInLogs();
     /// Writes these days in the user's form, as a step of its own.

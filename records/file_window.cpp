@@ -164,12 +164,9 @@ std::string fileWindow::textOfList() const {
 
 /// Joins the entries with what another program has made of their file.
 void fileWindow::bringInChanges() {
-    const std::string mark(DataFiles::entrySeparator);
-    const auto join = [&mark](const std::string& base, const std::string& here, const std::string& there) {
-        const auto entriesOf = [&mark](const std::string& text) {
-            return partsOf(text.substr(0, text.find_last_not_of("\r\n") + 1), mark);
-        };
-        return joinedBy(mergeLines(entriesOf(base), entriesOf(here), entriesOf(there)), mark) + EndOfLine;
+    const auto join = [](const std::string& base, const std::string& here, const std::string& there) {
+        const auto entriesOf = [](std::string_view text) { return text.substr(0, text.find_last_not_of("\r\n") + 1); };
+        return joinParts(entriesOf(base), entriesOf(here), entriesOf(there), DataFiles::entrySeparator) + EndOfLine;
     };
     const std::optional<std::string> joined = UnsavedFiles::joinOutside(userFile(), textOfList(), join);
     if (!joined)

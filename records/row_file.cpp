@@ -6,6 +6,7 @@
 #include "platform/base/translation.h"
 #include "platform/files/text_output_stream.h"
 #include "settings/data_files.h"
+#include "settings/line_merge.h"
 #include "settings/unsaved_files.h"
 
 namespace tallyvane::RowFile {
@@ -43,7 +44,7 @@ bool load(Listbox& list, std::string_view name, bool replace) {
 
 void save(Listbox& list, const std::string& what, std::string_view name) {
     const UnsavedFiles::UserFile file = UnsavedFiles::UserFile::ofApplication(what, name);
-    if (auto joined = UnsavedFiles::joinOutside(file, textOf(list), UnsavedFiles::joinLines)) {
+    if (auto joined = UnsavedFiles::joinOutside(file, textOf(list), joinLines)) {
         list.beginStep(tr("Changes of Another Program"));
         list.DeleteAllRows();
         if (!joined->empty())

@@ -1,6 +1,5 @@
 #include "settings/damaged_files.h"
 
-#include <algorithm>
 #include <string_view>
 
 #include "platform/base/number.h"
@@ -23,13 +22,7 @@ bool hasLineEnd(std::string_view text) { return text.ends_with('\n') || text.end
 
 bool hasLostBlocks(std::string_view text) { return text.find('\0') != std::string_view::npos; } // as a power cut leaves
 
-int fieldsIn(std::string_view line) {
-    int fields = 1;
-    for (std::size_t at = line.find(DataFiles::fieldSeparator); at != std::string_view::npos;
-         at = line.find(DataFiles::fieldSeparator, at + DataFiles::fieldSeparator.size()))
-        ++fields;
-    return fields;
-}
+int fieldsIn(std::string_view line) { return CountFields(line, DataFiles::fieldSeparator); }
 
 /// A day with all its fields and, behind the last separator, its date's key. What is no date has none.
 bool isWholeDay(std::string_view line) {
@@ -56,13 +49,16 @@ Days daysIn(const std::string& table) {
     return days;
 }
 
-/// How much text a record of logs holds; nothing for one that is not whole.
-std::optional<std::size_t> textIn(const std::string& logs) {
-    TextInputStream lines(logs);
-    const std::string_view line = lines.ReadLine();
-    if (!hasLineEnd(logs) || hasLostBlocks(logs) || fieldsIn(line) < fieldsOfLogs)
-        return std::nullopt;
-    return line.size() - (fieldsOfLogs - 1) * DataFiles::fieldSeparator.size();
+/// A record of logs with its four fields and its line end.
+bool isWholeRecord(const std::string& logs) {
+    return hasLineEnd(logs) && !hasLostBlocks(logs) && fieldsIn(TextInputStream(logs).ReadLine()) >= fieldsOfLogs;
+}
+
+/// Bytes of a record that are neither separators nor lost.
+std::size_t textIn(const std::string& logs) {
+    std::string text = ReplaceAll(logs, DataFiles::fieldSeparator, "");
+    std::erase_if(text, [](char c) { return c == '\0' || c == '\n' || c == '\r'; });
+    return text.size();
 }
 
 bool canBeRead(const std::string& path) {
@@ -103,12 +99,12 @@ std::optional<Copy> fullerLogs(const UnsavedFiles::UserFile& file, const Date& t
     if (!file.place || !canBeRead(file.place->AbsolutePath()))
         return std::nullopt;
     const std::string logs = contentOf(file.place->AbsolutePath());
-    if (textIn(logs))
+    if (isWholeRecord(logs))
         return std::nullopt;
-    return newestCopy(file, today, [&](const Snapshots::Set&, const Copy& copy) {
-        const std::size_t text = textIn(contentOf(copy.path)).value_or(0);
-        const auto zeros = static_cast<std::size_t>(std::count(logs.begin(), logs.end(), '\0'));
-        return text > 0 && text + (fieldsOfLogs - 1) * DataFiles::fieldSeparator.size() > logs.size() - zeros;
+    const std::size_t present = textIn(logs);
+    return newestCopy(file, today, [present](const Snapshots::Set&, const Copy& copy) {
+        const std::string record = contentOf(copy.path);
+        return isWholeRecord(record) && textIn(record) > present;
     });
 }
 

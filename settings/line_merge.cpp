@@ -5,6 +5,9 @@
 #include <span>
 #include <utility>
 
+#include "platform/base/text.h"
+#include "platform/files/text_output_stream.h"
+
 namespace tallyvane {
 
 namespace {
@@ -51,13 +54,18 @@ std::vector<int> matchesOf(const Lines& base, const Lines& other) {
 
 bool areEqual(Part a, Part b) { return std::equal(a.begin(), a.end(), b.begin(), b.end()); }
 
-/// What both sides have made of the same lines: one after the other, in the same order whoever joins them.
+/// What both sides have made of the same lines: one after the other, in the same order whoever joins them. A line that
+/// both have stands once.
 void appendBoth(Part one, Part other, Lines& joined) {
     if (std::lexicographical_compare(other.begin(), other.end(), one.begin(), one.end()))
         std::swap(one, other);
     joined.insert(joined.end(), one.begin(), one.end());
-    std::copy_if(other.begin(), other.end(), std::back_inserter(joined),
-                 [one](const std::string& line) { return std::find(one.begin(), one.end(), line) == one.end(); });
+    Lines shared(one.begin(), one.end()); // those that the other has not had yet
+    for (const std::string& line : other)
+        if (const auto found = std::find(shared.begin(), shared.end(), line); found != shared.end())
+            shared.erase(found);
+        else
+            joined.push_back(line);
 }
 
 void appendMerged(Part base, Part here, Part there, Lines& joined) {
@@ -98,22 +106,32 @@ std::vector<std::string> mergeLines(const Lines& base, const Lines& here, const 
     return joined;
 }
 
-std::vector<std::string> partsOf(const std::string& text, const std::string& mark) {
-    std::vector<std::string> parts;
-    std::size_t begin = 0;
-    for (std::size_t end = text.find(mark); end != std::string::npos; end = text.find(mark, begin)) {
-        parts.push_back(text.substr(begin, end - begin));
-        begin = end + mark.size();
-    }
-    parts.push_back(text.substr(begin));
-    return parts;
+std::string joinLines(const std::string& base, const std::string& here, const std::string& there) {
+    const auto linesOf = [](const std::string& text) {
+        Lines lines;
+        TextInputStream stream(text);
+        while (!stream.EndOfFile())
+            lines.emplace_back(stream.ReadLine());
+        return lines;
+    };
+    TextWriter joined;
+    for (const std::string& line : mergeLines(linesOf(base), linesOf(here), linesOf(there)))
+        joined.WriteLine(line);
+    return joined.text();
 }
 
-std::string joinedBy(const std::vector<std::string>& parts, const std::string& mark) {
-    std::string text;
-    for (std::size_t i = 0; i < parts.size(); ++i)
-        text.append(i == 0 ? "" : mark).append(parts[i]);
-    return text;
+std::string joinParts(std::string_view base, std::string_view here, std::string_view there, std::string_view mark) {
+    const auto partsOf = [mark](std::string_view text) {
+        Lines parts;
+        for (FieldWalk walk(text, mark); !walk.atEnd();)
+            parts.emplace_back(walk.next());
+        return parts;
+    };
+    std::string joined;
+    bool isFirst = true;
+    for (const std::string& part : mergeLines(partsOf(base), partsOf(here), partsOf(there)))
+        joined.append(std::exchange(isFirst, false) ? "" : mark).append(part);
+    return joined;
 }
 
 } // namespace tallyvane

@@ -29,7 +29,6 @@ std::string logRecord() {
 }
 
 std::string joinLogRecords(const std::string& base, const std::string& here, const std::string& there) {
-    const std::string mark(DataFiles::lineEndMark);
     const auto fieldsOf = [](const std::string& text) {
         TextInputStream stream(text);
         const LogRecord record = readLogRecord(stream);
@@ -39,8 +38,7 @@ std::string joinLogRecords(const std::string& base, const std::string& here, con
     TextWriter joined;
     std::array<std::string, 4> fields;
     for (std::size_t i = 0; i < fields.size(); ++i)
-        fields[i] =
-            joinedBy(mergeLines(partsOf(ofBase[i], mark), partsOf(ofHere[i], mark), partsOf(ofThere[i], mark)), mark);
+        fields[i] = joinParts(ofBase[i], ofHere[i], ofThere[i], DataFiles::lineEndMark);
     joined.WriteFields(fields, DataFiles::fieldSeparator);
     return joined.text();
 }

@@ -44,6 +44,7 @@ bool canBeFinished(const FolderItem& file) {
 } // namespace
 
 std::vector<Finished> finishAll(const std::function<bool(const std::optional<FolderItem>& folder)>& mayWriteIn) {
+    SaveRecords::removeParts();
     std::vector<Finished> finished;
     for (const std::string& path : SaveRecords::all()) {
         const std::optional<std::string> text = SystemFiles::read(path);

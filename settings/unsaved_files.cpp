@@ -9,7 +9,6 @@
 #include "platform/files/save_record.h"
 #include "platform/files/system_files.h"
 #include "settings/data_files.h"
-#include "settings/line_merge.h"
 
 namespace tallyvane::UnsavedFiles {
 
@@ -123,20 +122,6 @@ std::optional<std::string> joinOutside(const UserFile& file, const std::string& 
     std::string joined = join(change->base, text, change->there);
     acceptOutside(file, *change, joined, joined == join(change->there, change->there, change->there));
     return joined == text ? std::nullopt : std::optional(std::move(joined));
-}
-
-std::string joinLines(const std::string& base, const std::string& here, const std::string& there) {
-    const auto linesOf = [](const std::string& text) {
-        std::vector<std::string> lines;
-        TextInputStream stream(text);
-        while (!stream.EndOfFile())
-            lines.emplace_back(stream.ReadLine());
-        return lines;
-    };
-    TextWriter joined;
-    for (const std::string& line : mergeLines(linesOf(base), linesOf(here), linesOf(there)))
-        joined.WriteLine(line);
-    return joined.text();
 }
 
 bool save(const UserFile& file, const std::string& text) {

@@ -37,8 +37,8 @@ struct Unsaved {
 };
 
 /// Sets the baseline of a file that was just read: `text` is what a save would write as long as the user changes
-/// nothing. If another program changes the file later, a save leaves that content alone while nothing has been changed
-/// here, and otherwise keeps it in a copy beside the file.
+/// nothing. What another program writes later can be brought in (changedOutside). Where it was not, a save leaves it
+/// alone while nothing has been changed here, and otherwise keeps it in a copy beside the file.
 void setBaseline(const UserFile& file, const std::string& text);
 
 /// What another program has made of a file since it was read or saved here.
@@ -56,8 +56,6 @@ void acceptOutside(const UserFile& file, const OutsideChange& change, const std:
 /// there. The joined text, if it is another than the text; it then counts as brought in, and is to be shown and saved.
 using Join = std::function<std::string(const std::string& base, const std::string& here, const std::string& there)>;
 [[nodiscard]] std::optional<std::string> joinOutside(const UserFile& file, const std::string& text, const Join& join);
-/// A join of texts whose lines stand for themselves.
-std::string joinLines(const std::string& base, const std::string& here, const std::string& there);
 
 /// Called before a save writes anything; null for nothing to do.
 extern std::function<void()> beforeWriting;

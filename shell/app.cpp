@@ -1,6 +1,5 @@
 #include "shell/app.h"
 
-#include <algorithm>
 #include <exception>
 #include <utility>
 
@@ -19,6 +18,7 @@
 #include "settings/prefs_module.h"
 #include "settings/rescued_files.h"
 #include "settings/snapshots.h"
+#include "settings/unfinished_saves.h"
 #include "settings/unsaved_files.h"
 #include "shell/menu_bar1.h"
 #include "shell/unsaved_work.h"
@@ -91,7 +91,7 @@ void App::Event_Open() {
         SaveRecords::useFolder(folder->AbsolutePath());
     }
     const auto mayWriteIn = [this](const std::optional<FolderItem>& place) { return lock(place); };
-    finishedSaves_ = UnfinishedSaves::finishAll(mayWriteIn);
+    const std::vector<UnfinishedSaves::Finished> finished = UnfinishedSaves::finishAll(mayWriteIn);
     if (!UnsavedWork::offerRescued(mayWriteIn)) { // before anything is read
         Quit(1);
         return;
@@ -105,13 +105,14 @@ void App::Event_Open() {
     windows_.splash->VersionCheckSocket1.offer = [this](std::function<void()> done) {
         offerNewVersion(std::move(done));
     };
-    windows_.splash->handedOver = [this] {
+    windows_.splash->handedOver = [this, finished] {
         reportMissingDataFolder();
-        UnsavedWork::reportFinished(finishedSaves_);
+        UnsavedWork::reportFinished(finished);
         UnsavedWork::reportUnreadable();
         reportKeptJournal();
         askAboutDates();
-        watchTable();
+        outsideChanges_ = std::make_unique<OutsideChanges>(*windows_.main);
+        outsideChanges_->watch();
         startMessagesShown_ = true;
         showOffer();
         offerForImport(std::exchange(fileToImport_, ""));
@@ -252,41 +253,6 @@ void App::askAboutDates() {
     window.datesAwaitAnswer = false;
     if (!days->empty())
         window.rewriteDates(*days);
-}
-
-/// What another program changes is brought in when it is seen, but not under the user's fingers.
-void App::watchTable() {
-    const std::string path = Snapshots::tablePath();
-    if (path.empty())
-        return;
-    bringInChanges(); // a copy in conflict may be there from before
-    tableWatch_ = FileWatches::current().start(path, [this] {
-        if (windows_.main->isOpen() && windows_.main->ListBox1.openRow() < 0)
-            bringInChanges();
-    });
-}
-
-void App::bringInChanges() {
-    Window1& window = *windows_.main;
-    if (window.datesAwaitAnswer || askingAboutCopy_)
-        return;
-    try {
-        window.bringInChanges();
-    } catch (const IOException&) { // no room for a copy: the next save tries again, and tells
-        return;
-    }
-    const std::optional<DayTable::ConflictCopy> copy = DayTable::conflictCopy();
-    if (!copy || std::find(copiesLeft_.begin(), copiesLeft_.end(), copy->path) != copiesLeft_.end())
-        return;
-    const ScopedFlag asking(askingAboutCopy_); // the watch goes on
-    const Answer answer = Ask(tr("Your days were changed on two computers at once. One version is open here, the other "
-                                 "one is \u201c%1\u201d. Do you want to bring its days in?",
-                                 {copy->path}),
-                              tr("Bring Them In"), tr("Not Now"));
-    if (answer == Answer::yes)
-        window.bringIn(*copy);
-    else
-        copiesLeft_.push_back(copy->path); // until the next start
 }
 
 /// The offer belongs to the main window, and waits until that is there.

@@ -9,7 +9,6 @@
 #include "exchange/export_window.h"
 #include "exchange/import_window.h"
 #include "graphwindow/graf_thing_window.h"
-#include "platform/files/file_watch.h"
 #include "platform/files/folder_item.h"
 #include "platform/files/system_files.h"
 #include "platform/windows/menus.h"
@@ -18,9 +17,9 @@
 #include "records/logs_window.h"
 #include "settings/edit_headings.h"
 #include "settings/prefs_window.h"
-#include "settings/unfinished_saves.h"
 #include "shell/about_window.h"
 #include "shell/new_version_window.h"
+#include "shell/outside_changes.h"
 #include "shell/splash_window.h"
 #include "shell/toolbar1.h"
 
@@ -98,8 +97,6 @@ private:
     void reportMissingDataFolder();
     void reportKeptJournal();
     void askAboutDates();
-    void watchTable();
-    void bringInChanges();
     void offerNewVersion(std::function<void()> done);
     void showOffer();
     void wakeFirstAndQuit();
@@ -111,16 +108,13 @@ private:
     bool showingException_ = false;
     bool failedSaveReported_ = false; // since the last save that succeeded
     bool askingAboutUnsaved_ = false;
-    bool askingAboutCopy_ = false;
     bool endsWithoutQuestion_ = false;
     std::vector<std::unique_ptr<SystemFiles::FolderLock>> folderLocks_;
-    std::vector<std::string> copiesLeft_; // in conflict, which the user does not want now
-    std::unique_ptr<FileWatch> tableWatch_; // null where files can't be watched
-    std::vector<UnfinishedSaves::Finished> finishedSaves_; // of the run before
     std::string fileToImport_; // a path that waits for the main window; "" for none
     bool startMessagesShown_ = false; // the splash window, with all that had to be told
     std::function<void()> offerDone_; // of an offer that waits for the main window; empty for none
     Windows windows_;
+    std::unique_ptr<OutsideChanges> outsideChanges_; // null until the splash window has gone
 };
 
 } // namespace tallyvane

@@ -157,17 +157,25 @@ void drop(const std::string& path) {
         static_cast<void>(SystemFiles::flushFolderOf(recordPath(path))); // else it might come back with a power cut
 }
 
-std::vector<std::string> all() {
+namespace {
+
+/// The paths in the folder that end so.
+std::vector<std::string> pathsOfRecords(bool arePart) {
     std::vector<std::string> paths;
-    for (const std::string& name : folder().empty() ? std::vector<std::string>{} : SystemFiles::namesIn(folder())) {
-        const std::string path = folder() + "/" + name;
-        if (isNameOfRecord(name) && !name.ends_with(partEnding))
-            paths.push_back(path);
-        else if (isNameOfRecord(name))
-            static_cast<void>(SystemFiles::remove(path)); // what it was to save is untouched
-    }
+    for (const std::string& name : folder().empty() ? std::vector<std::string>{} : SystemFiles::namesIn(folder()))
+        if (isNameOfRecord(name) && name.ends_with(partEnding) == arePart)
+            paths.push_back(folder() + "/" + name);
     return paths;
 }
+
+} // namespace
+
+void removeParts() {
+    for (const std::string& path : pathsOfRecords(true))
+        static_cast<void>(SystemFiles::remove(path));
+}
+
+std::vector<std::string> all() { return pathsOfRecords(false); }
 
 } // namespace SaveRecords
 } // namespace tallyvane

@@ -46,7 +46,9 @@ bool isKept(const std::string& path);
 /// Takes the record for the file of that path away, if there is one.
 void drop(const std::string& path);
 
-/// The paths of the records that stand in the folder. Those that were never written to their end are taken away.
+/// Takes away what saves have left of records that were never written to their end: their files are untouched.
+void removeParts();
+/// The paths of the records that stand in the folder.
 [[nodiscard]] std::vector<std::string> all();
 
 } // namespace SaveRecords

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <random>
 
+#include "diary/conflict_copies.h"
 #include "diary/conflict_window.h"
 #include "diary/day_table.h"
 #include "diary/sort_keys.h"
@@ -81,8 +82,17 @@ TEST_F(DayMergeTest, WhatOneSideHasChangedIsTaken) {
 TEST_F(DayMergeTest, OnlyACellThatWasChangedOnBothSidesIsAConflict) {
     const DayMerge::Result result = join({"1 5 6"}, {"1 7 6"}, {"1 8 9"});
     EXPECT_EQ(shown(result.days), Texts{"1 7 9"});
-    EXPECT_EQ(result.conflicts, (std::vector<DayMerge::Conflict>{{"1/1/2026", 1, "7", "8"}}));
+    EXPECT_EQ(result.conflicts, (std::vector<DayMerge::Conflict>{{"1/1/2026", 0, 1, "7", "8"}}));
     EXPECT_FALSE(result.isAsThere);
+    const DayMerge::Result twins = join({"1 5", "1 5"}, {"1 5", "1 6"}, {"1 5", "1 7"});
+    EXPECT_EQ(twins.conflicts, (std::vector<DayMerge::Conflict>{{"1/1/2026", 1, 1, "6", "7"}})) << "of the second row";
+    table_.AddRow("1/1/2026");
+    table_.AddRow("1/1/2026");
+    for (const int row : {0, 1})
+        table_.Cell(row, 1, "6");
+    EXPECT_TRUE(DayMerge::takeOther(twins.conflicts[0], table_));
+    EXPECT_EQ(columnOf(table_, 1), (Texts{"6", "7"}));
+    EXPECT_FALSE(DayMerge::takeOther(twins.conflicts[0], table_)) << "it has another value now";
 }
 
 TEST_F(DayMergeTest, TwoProgramsComeToTheSameDaysAndLoseNone) {
@@ -176,9 +186,9 @@ TEST_F(DayMergeTest, ACopyInConflictIsJoinedOnWhatBothSidesHadBefore) {
           "7VXData (Jane's conflicted copy 2026-11-23)"}) {
         write(path(name), file({"1 5"}));
         StartupGlobals::gDataFolder = DataFiles::applicationFolder();
-        ASSERT_TRUE(DayTable::conflictCopy()) << name;
-        DayTable::putAway(*DayTable::conflictCopy());
-        EXPECT_FALSE(DayTable::conflictCopy()) << name;
+        ASSERT_TRUE(ConflictCopies::first({})) << name;
+        ConflictCopies::putAway(*ConflictCopies::first({}));
+        EXPECT_FALSE(ConflictCopies::first({})) << name;
     }
     EXPECT_TRUE(std::filesystem::exists(path("7VXData brought in 2026-11-22 3")));
 
@@ -192,7 +202,7 @@ TEST_F(DayMergeTest, ACopyInConflictIsJoinedOnWhatBothSidesHadBefore) {
     write(path("7VXData"), file({"1 5", "2 8", "4 4"}));
     window1_.bringInChanges();
     EXPECT_EQ(table_.Cell(0, 2), "") << "as the synchroniser has it";
-    window1_.bringIn(*DayTable::conflictCopy());
+    window1_.bringIn(*ConflictCopies::first({}));
     EXPECT_EQ(shown(DayMerge::join("", DayMerge::daysOf(table_), file({})).days),
               (Texts{"1 5 9", "2 8", "3 7", "4 4"}));
 }

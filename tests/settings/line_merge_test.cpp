@@ -25,6 +25,7 @@ TEST(LineMerge, WhatEitherSideHasWrittenIsKept) {
         {"at the same place", {"a"}, {"a", "y"}, {"a", "x"}, {"a", "x", "y"}},
         {"the same line changed", {"a", "b", "c"}, {"a", "bh", "c"}, {"a", "bt", "c"}, {"a", "bh", "bt", "c"}},
         {"changed here, taken out there", {"a", "b"}, {"a", "bh"}, {"a"}, {"a", "bh"}},
+        {"a line that is there already", {"a"}, {"a", "walk"}, {"a", "walk", "walk"}, {"a", "walk", "walk"}},
         {"from nothing", {""}, {"h"}, {"t"}, {"h", "t"}},
     };
     for (const Row& row : rows) {
