@@ -66,7 +66,7 @@ void Window1::saveChanged() {
 }
 
 void Window1::saveData() {
-    if (datesAwaitAnswer)
+    if (!datesInQuestion_.isEmpty())
         return;
     try {
         bringInChanges();
@@ -75,7 +75,10 @@ void Window1::saveData() {
     DayTable::save(ListBox1);
 }
 
-void Window1::rewriteDates(const std::vector<DateForms::MeantDay>& days) {
+void Window1::answerDates(std::vector<DateForms::MeantDay> days) { // of its own: they may be those in question
+    datesInQuestion_ = {};
+    if (days.empty())
+        return;
     ListBox1.beginStep(tr("Dates in Your Form"));
     DateForms::rewrite(ListBox1, days);
     doSortColumns();
@@ -88,7 +91,7 @@ void Window1::rewriteDates(const std::vector<DateForms::MeantDay>& days) {
 void Window1::getData() {
     if (!DayTable::load(ListBox1))
         return;
-    datesFound = DateForms::find(DateForms::rowsOf(ListBox1)); // by the keys in the file
+    datesInQuestion_ = DateForms::find(DateForms::rowsOf(ListBox1)); // by the keys in the file
     doAverages();
     doSortColumns();
 }

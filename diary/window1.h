@@ -80,10 +80,8 @@ public:
 
     /// The file in which a journal was kept at opening, since the file "Tallyvane Journal" took its place; "" for none.
     std::string keptJournal;
-    /// Dates that were found in another form at opening.
-    DateForms::Findings datesFound;
-    /// Nobody has answered yet what they mean: the table is not saved.
-    bool datesAwaitAnswer = false;
+    /// Dates that were found in another form at opening. Until the user has answered what they mean the table is not saved.
+    const DateForms::Findings& datesInQuestion() const { return datesInQuestion_; }
 
     void Event_Open() override;
     void Event_Close() override;
@@ -106,8 +104,8 @@ public:
     void bringIn(const ConflictCopies::Copy& copy);
     /// The same for journal and logs.
     void bringInLogs();
-    /// Writes these days in the user's form, as a step of its own.
-    void rewriteDates(const std::vector<DateForms::MeantDay>& days);
+    /// The user has answered: these days get the user's form, as a step of its own.
+    void answerDates(std::vector<DateForms::MeantDay> days);
     void saveLogs();
     void getLogs();
     /// Reads the details of a row's day into the four properties; they are empty for a day without any.
@@ -193,6 +191,7 @@ private:
     std::unique_ptr<ConflictWindow> conflictWindow_;
     StripNotes notes_{StripLine, ListBox1, history_};
     int wantedTableGrowth_ = 0; // as the table was dragged, also while the window has no room for it
+    DateForms::Findings datesInQuestion_;
     int daysShownBold_ = 0; // how many rows there were when the calendar was told of its bold days
     Date today_; // as the calendar last knew it
 };

@@ -8,7 +8,7 @@
 namespace tallyvane {
 
 void Window1::bringInChanges() {
-    const auto change = datesAwaitAnswer ? std::nullopt : DayTable::changedOutside();
+    const auto change = datesInQuestion_.isEmpty() ? DayTable::changedOutside() : std::nullopt;
     if (!change || !DayMerge::isReadyToJoin(change->base, change->there))
         return;
     const DayMerge::Result joined = DayMerge::join(change->base, DayMerge::daysOf(ListBox1), change->there);

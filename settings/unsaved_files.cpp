@@ -18,6 +18,7 @@ namespace {
 struct Known {
     std::string text; // that a save would write if nothing has changed
     std::optional<std::string> onDisk; // what stood at its place; nothing for what was not there or unreadable
+    bool wasAbsent = false; // nothing stood at its place
     bool hasChangedHere = false; // since the start
     bool saysTheSame = false; // the text says what stands there, if in another form
 };
@@ -94,17 +95,18 @@ UserFile UserFile::ofInnerFolder(std::string what, std::string_view name) {
 
 void setBaseline(const UserFile& file, const std::string& text) {
     if (waitingFor(keyOf(file)) == state().waiting.end()) // an unsaved text is not the baseline: the disk lacks it
-        state().known[keyOf(file)] = {text, contentAt(file.place)};
+        state().known[keyOf(file)] = {text, contentAt(file.place), file.place && !file.place->Exists()};
 }
 
 std::optional<OutsideChange> changedOutside(const UserFile& file) {
     const Known* known = knownOf(file);
-    if (known == nullptr || !known->onDisk || isHalfSaved(file))
+    const bool isBaseKnown = known != nullptr && (known->onDisk || known->wasAbsent);
+    if (!isBaseKnown || isHalfSaved(file))
         return std::nullopt;
     std::optional<std::string> there = contentAt(file.place);
     if (!there || there->empty() || there == known->onDisk)
         return std::nullopt;
-    return OutsideChange{*known->onDisk, std::move(*there)};
+    return OutsideChange{known->onDisk.value_or(""), std::move(*there)};
 }
 
 void acceptOutside(const UserFile& file, const OutsideChange& change, const std::string& text, bool saysTheSame) {
@@ -151,7 +153,7 @@ bool save(const UserFile& file, const std::string& text) {
         else
             forget(file);
         if (!why)
-            state().known[keyOf(file)] = {text, text, hasChangedHere};
+            state().known[keyOf(file)] = {text, text, false, hasChangedHere};
         return !why;
     } catch (const IOException& failure) {
         if (isLost)

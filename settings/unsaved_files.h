@@ -46,7 +46,8 @@ struct OutsideChange {
     std::string base; // what was read or saved
     std::string there; // what stands there now
 };
-/// Nothing for a file that stands as it was, is away, empty or can't be read, or that was never read.
+/// Nothing for a file that stands as it was, is away, empty or can't be read, or of which nobody knows what it was. One
+/// that was not there began as "".
 [[nodiscard]] std::optional<OutsideChange> changedOutside(const UserFile& file);
 /// What stands there was brought in. `text` is what a save would write now; where that says nothing but what stands
 /// there, in whatever form, it is not written.

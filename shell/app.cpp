@@ -170,7 +170,6 @@ void App::createMainWindow() {
     wireWindows(*window);
     wireMenus(*window);
     window->Open();
-    window->datesAwaitAnswer = !window->datesFound.isEmpty();
     window->Visible(false);
     window->Timer1.Mode(Timer::ModeSingle);
     windows_.main = std::move(window); // only now: a table that could not be loaded must never be saved
@@ -244,15 +243,9 @@ void App::reportKeptJournal() {
 
 /// Dates that another desktop has written. Until there is an answer the table is not saved.
 void App::askAboutDates() {
-    Window1& window = *windows_.main;
-    if (!window.datesAwaitAnswer)
-        return;
-    const auto days = DateQuestion::ask(window.datesFound);
-    if (!days)
-        return;
-    window.datesAwaitAnswer = false;
-    if (!days->empty())
-        window.rewriteDates(*days);
+    const DateForms::Findings& dates = windows_.main->datesInQuestion();
+    if (const auto days = dates.isEmpty() ? std::nullopt : DateQuestion::ask(dates))
+        windows_.main->answerDates(*days);
 }
 
 /// The offer belongs to the main window, and waits until that is there.

@@ -21,7 +21,7 @@ void OutsideChanges::watch() {
 }
 
 void OutsideChanges::bringIn() {
-    if (window_.datesAwaitAnswer || isAsking_)
+    if (!window_.datesInQuestion().isEmpty() || isAsking_)
         return;
     try {
         window_.bringInChanges();

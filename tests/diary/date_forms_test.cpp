@@ -134,8 +134,10 @@ TEST_F(DateFormsTest, WhatIsLeftAsItIsKeepsItsDay) {
         return found;
     };
     const Texts want{"2/1/2026#@063905500800", "2/2/2026#@063905587200", "2/13/2026#@063906537600"};
+    const std::vector<DateForms::MeantDay> found = window.datesInQuestion().otherForm;
+    window.answerDates({});
     EXPECT_EQ(savedDays(), want) << "left alone";
-    window.rewriteDates(window.datesFound.otherForm);
+    window.answerDates(found);
     EXPECT_EQ(table_.Cell(0, 0), "01/02/2026");
     menuBar_.choose("EditUndo", &window);
     EXPECT_EQ(savedDays(), want) << "undone";
@@ -154,8 +156,7 @@ TEST_F(DateFormsTest, EveryDesktopShowsTheSameDaysAndTheFirstItsOwnFile) {
         Window1 window(toolbar_, menuBar_);
         window.Open();
 
-        if (!window.datesFound.isEmpty())
-            window.rewriteDates(window.datesFound.otherForm);
+        window.answerDates(window.datesInQuestion().otherForm);
         for (int row = 0; row < 28; ++row)
             EXPECT_EQ(ParseDate(window.ListBox1.Cell(row, 0)), Date(2026, 2, row + 1));
         window.saveData();

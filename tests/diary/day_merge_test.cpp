@@ -214,6 +214,16 @@ TEST_F(DayMergeTest, ACopyOfWhichNothingIsKnownTakesNothingAway) {
     EXPECT_EQ(shown(DayMerge::join("", DayMerge::daysOf(table_), file({})).days), (Texts{"1 5 7", "2 6", "3 8"}));
 }
 
+TEST_F(DayMergeTest, ATableThatAppearsLaterIsJoinedWithWhatWasTypedBefore) {
+    open();
+    window1_.BevelButton1_Action();
+    table_.userTyped("5", 1, 0);
+    write(applicationFile("7VXData"), file({"1 5", "2 6"}));
+    window1_.saveData();
+    EXPECT_EQ(table_.ListCount(), 3);
+    EXPECT_EQ(DayMerge::daysIn(read(applicationFile("7VXData"))), DayMerge::daysOf(table_));
+}
+
 TEST_F(DayMergeTest, TheUserPicksBetweenTwoValuesOfACell) {
     write(applicationFile("7VXData"), file({"1 5", "2 6"}));
     open();

@@ -108,7 +108,7 @@ done
 # Killed in the middle of a write, after its first half: the next start brings it to its end, keeps what was there, and
 # says so.
 cp "$days" "$home/before"
-sed -i 's/@#@5\.5@#@/@#@5.5@#@/; s/$/\r/' "$days" # a form that is written anew from the first line on
+sed -i 's/$/\r/' "$days" # a form that is written anew from the first line on
 LD_PRELOAD="$library" start
 becomes stop
 kill -TERM "$pid"

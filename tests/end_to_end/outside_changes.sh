@@ -57,6 +57,15 @@ xdotool windowactivate "$conflict"
 until_true has_keys 'Two Values for One Reading'
 xdotool key Tab Tab space # the button that takes it
 until_true gone_conflict
+# A version that a synchroniser leaves beside: it is offered, and its day comes in.
+in_front
+{ cat "$days"; echo '2026-05-01@#@3.3@#@@#@@#@@#@@#@@#@@#@3.3@#@@#@063913190400'; } >"$days.sync-conflict-20261124-000000-ABCDEFG"
+until_true has_question
+[[ -z ${PICTURES:-} ]] || import -window "$(xdotool getwindowfocus)" "$PICTURES/copy-in-conflict.png"
+xdotool key Return
+until_true saved_line '2026-05-01@#@3.3'
+ls "$(dirname "$days")" | grep -q "^7VXData brought in $(date +%F)$" || fail "the other version is offered again"
+
 in_front
 xdotool key ctrl+q
 ends_well
