@@ -80,7 +80,8 @@ public:
 
     /// The file in which a journal was kept at opening, since the file "Tallyvane Journal" took its place; "" for none.
     std::string keptJournal;
-    /// Dates that were found in another form at opening. Until the user has answered what they mean the table is not saved.
+    /// Dates that were found in another form at opening. Until the user has answered what they mean the table is not
+    /// saved.
     const DateForms::Findings& datesInQuestion() const { return datesInQuestion_; }
 
     void Event_Open() override;
