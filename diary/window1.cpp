@@ -75,17 +75,17 @@ void Window1::saveData() {
     DayTable::save(ListBox1);
 }
 
-void Window1::answerDates(std::vector<DateForms::MeantDay> days) { // of its own: they may be those in question
-    datesInQuestion_ = {};
-    if (days.empty())
-        return;
-    ListBox1.beginStep(tr("Dates in Your Form"));
-    DateForms::rewrite(ListBox1, days);
-    doSortColumns();
-    showBoldDays();
-    if (const std::optional<int> newest = Finding::newestRow(ListBox1))
-        ListBox1.ScrollPosition(*newest);
-    notes_.update();
+void Window1::answerDates(const std::vector<DateForms::MeantDay>& days) {
+    if (!days.empty()) {
+        ListBox1.beginStep(tr("Dates in Your Form"));
+        DateForms::rewrite(ListBox1, days);
+        doSortColumns();
+        showBoldDays();
+        if (const std::optional<int> newest = Finding::newestRow(ListBox1))
+            ListBox1.ScrollPosition(*newest);
+        notes_.update();
+    }
+    datesInQuestion_ = {}; // at the end: the days may be those in question
 }
 
 void Window1::getData() {

@@ -106,7 +106,7 @@ public:
     /// The same for journal and logs.
     void bringInLogs();
     /// The user has answered: these days get the user's form, as a step of its own.
-    void answerDates(std::vector<DateForms::MeantDay> days);
+    void answerDates(const std::vector<DateForms::MeantDay>& days);
     void saveLogs();
     void getLogs();
     /// Reads the details of a row's day into the four properties; they are empty for a day without any.
