@@ -115,6 +115,17 @@ bool tableIsUnreadable() {
     return SystemFiles::kindOf(path) == SystemFiles::Kind::file && !SystemFiles::read(path);
 }
 
+std::vector<std::string> hugeFiles() {
+    constexpr std::uintmax_t largest = 100'000'000;
+    std::vector<std::string> paths{Snapshots::tablePath()};
+    for (const std::optional<FolderItem>& place :
+         {DataFiles::applicationFile(DataFiles::runningLogs), DataFiles::applicationFile(DataFiles::journal),
+          DataFiles::innerFile(DataFiles::runningLogs)})
+        paths.push_back(place ? place->AbsolutePath() : "");
+    std::erase_if(paths, [](const std::string& path) { return SystemFiles::sizeOf(path) <= largest; });
+    return paths;
+}
+
 bool isWholeTable(const std::string& table) { return daysIn(table).damaged == 0; }
 
 std::vector<Copy> findFullerCopies(const Date& today) {

@@ -22,6 +22,10 @@ struct Copy {
 /// Whether the table is there and can't be read, so that nobody knows what it holds.
 [[nodiscard]] bool tableIsUnreadable();
 
+/// Of the files that are read at the start, those that are larger than any diary: the table of a life, 30,000 days,
+/// takes 2 megabytes. Reading one takes long, and many times its size of memory.
+[[nodiscard]] std::vector<std::string> hugeFiles();
+
 /// Whether each line of a table is a day with its eleven fields and its key.
 [[nodiscard]] bool isWholeTable(const std::string& table);
 

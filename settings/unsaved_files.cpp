@@ -7,6 +7,7 @@
 #include "platform/base/translation.h"
 #include "platform/files/replacement.h"
 #include "platform/files/save_record.h"
+#include "platform/files/slow_work.h"
 #include "platform/files/system_files.h"
 #include "settings/data_files.h"
 
@@ -79,54 +80,7 @@ std::string listOf(const std::vector<Unsaved>& files) {
     return list.text();
 }
 
-} // namespace
-
-std::function<void()> beforeWriting;
-
-UserFile UserFile::ofApplication(std::string what, std::string_view name) {
-    const std::optional<FolderItem>& data = SpecialFolder::ApplicationData; // also while it is away
-    const std::string path = std::string(DataFiles::applicationName) + "/" + std::string(name);
-    return {std::move(what), std::string(name), data ? DataFiles::placeIn(*data, path) : std::nullopt, true};
-}
-
-UserFile UserFile::ofInnerFolder(std::string what, std::string_view name) {
-    return ofApplication(std::move(what), std::string(DataFiles::applicationName) + "/" + std::string(name));
-}
-
-void setBaseline(const UserFile& file, const std::string& text) {
-    if (waitingFor(keyOf(file)) == state().waiting.end()) // an unsaved text is not the baseline: the disk lacks it
-        state().known[keyOf(file)] = {text, contentAt(file.place), file.place && !file.place->Exists()};
-}
-
-std::optional<OutsideChange> changedOutside(const UserFile& file) {
-    const Known* known = knownOf(file);
-    const bool isBaseKnown = known != nullptr && (known->onDisk || known->wasAbsent);
-    if (!isBaseKnown || isHalfSaved(file))
-        return std::nullopt;
-    std::optional<std::string> there = contentAt(file.place);
-    if (!there || there->empty() || there == known->onDisk)
-        return std::nullopt;
-    return OutsideChange{known->onDisk.value_or(""), std::move(*there)};
-}
-
-void acceptOutside(const UserFile& file, const OutsideChange& change, const std::string& text, bool saysTheSame) {
-    Known& known = state().known[keyOf(file)];
-    known.text = saysTheSame ? text : change.there;
-    known.onDisk = change.there;
-    known.saysTheSame = saysTheSame;
-}
-
-std::optional<std::string> joinOutside(const UserFile& file, const std::string& text, const Join& join) {
-    const std::optional<OutsideChange> change = changedOutside(file);
-    const bool isCutOff = change && !change->there.ends_with('\n') && !change->there.ends_with('\r');
-    if (!change || isCutOff)
-        return std::nullopt;
-    std::string joined = join(change->base, text, change->there);
-    acceptOutside(file, *change, joined, joined == join(change->there, change->there, change->there));
-    return joined == text ? std::nullopt : std::optional(std::move(joined));
-}
-
-bool save(const UserFile& file, const std::string& text) {
+bool saveNow(const UserFile& file, const std::string& text) {
     const Known* known = knownOf(file);
     const bool hasChanged = known == nullptr || known->text != text;
     const std::optional<std::string> onDisk = contentAt(file.place);
@@ -160,6 +114,60 @@ bool save(const UserFile& file, const std::string& text) {
             addUnsaved(file, text, failure.why());
         throw;
     }
+}
+
+} // namespace
+
+std::function<void()> beforeWriting;
+
+UserFile UserFile::ofApplication(std::string what, std::string_view name) {
+    const std::optional<FolderItem>& data = SpecialFolder::ApplicationData; // also while it is away
+    const std::string path = std::string(DataFiles::applicationName) + "/" + std::string(name);
+    return {std::move(what), std::string(name), data ? DataFiles::placeIn(*data, path) : std::nullopt, true};
+}
+
+UserFile UserFile::ofInnerFolder(std::string what, std::string_view name) {
+    return ofApplication(std::move(what), std::string(DataFiles::applicationName) + "/" + std::string(name));
+}
+
+void setBaseline(const UserFile& file, const std::string& text) {
+    if (waitingFor(keyOf(file)) == state().waiting.end()) // an unsaved text is not the baseline: the disk lacks it
+        state().known[keyOf(file)] = {text, contentAt(file.place), file.place && !file.place->Exists()};
+}
+
+std::optional<OutsideChange> changedOutside(const UserFile& file) {
+    const Known* known = knownOf(file);
+    const bool isBaseKnown = known != nullptr && (known->onDisk || known->wasAbsent);
+    if (!isBaseKnown || isHalfSaved(file))
+        return std::nullopt;
+    std::optional<std::string> there;
+    SlowWork::current().run(tr("Reading..."), [&] { there = contentAt(file.place); });
+    if (!there || there->empty() || there == known->onDisk)
+        return std::nullopt;
+    return OutsideChange{known->onDisk.value_or(""), std::move(*there)};
+}
+
+void acceptOutside(const UserFile& file, const OutsideChange& change, const std::string& text, bool saysTheSame) {
+    Known& known = state().known[keyOf(file)];
+    known.text = saysTheSame ? text : change.there;
+    known.onDisk = change.there;
+    known.saysTheSame = saysTheSame;
+}
+
+std::optional<std::string> joinOutside(const UserFile& file, const std::string& text, const Join& join) {
+    const std::optional<OutsideChange> change = changedOutside(file);
+    const bool isCutOff = change && !change->there.ends_with('\n') && !change->there.ends_with('\r');
+    if (!change || isCutOff)
+        return std::nullopt;
+    std::string joined = join(change->base, text, change->there);
+    acceptOutside(file, *change, joined, joined == join(change->there, change->there, change->there));
+    return joined == text ? std::nullopt : std::optional(std::move(joined));
+}
+
+bool save(const UserFile& file, const std::string& text) {
+    bool isSaved = false;
+    SlowWork::current().run(tr("Saving..."), [&] { isSaved = saveNow(file, text); });
+    return isSaved;
 }
 
 bool saveIfChanged(const UserFile& file, const std::string& text) {

@@ -150,7 +150,7 @@ bool App::prepareFiles() {
                {StartupGlobals::gDataFolder->AbsolutePath()}));
         return false;
     }
-    return UnsavedWork::offerCopies();
+    return UnsavedWork::mayReadHuge() && UnsavedWork::offerCopies();
 }
 
 void App::createMainWindow() {

@@ -1,6 +1,8 @@
 #include "shell/unsaved_work.h"
 
+#include <algorithm>
 #include <array>
+#include <cstdint>
 
 #include "platform/base/date.h"
 #include "platform/base/number.h"
@@ -145,6 +147,19 @@ bool offerRescued(const FolderCheck& mayWriteIn) {
     else if (answer == Answer::no)
         setAside(files);
     return answer != Answer::none;
+}
+
+bool mayReadHuge() {
+    const std::vector<std::string> paths = DamagedFiles::hugeFiles();
+    return std::all_of(paths.begin(), paths.end(), [](const std::string& path) {
+        constexpr std::uintmax_t megabyte = 1'000'000;
+        const auto megabytes = static_cast<int>(SystemFiles::sizeOf(path) / megabyte);
+        return Ask(tr("\u201c%1\u201d holds %2 megabytes, and the diary of a life would hold 2. It is probably no "
+                      "diary "
+                      "any more. Reading it can take minutes and much memory.",
+                      {path, Grouped(megabytes)}),
+                   tr("Read It"), tr("Quit")) == Answer::yes;
+    });
 }
 
 bool offerCopies() {

@@ -26,6 +26,10 @@ using FolderCheck = std::function<bool(const std::optional<FolderItem>& folder)>
 /// Offers what was kept at an end with nobody to ask. False when the program was ended before the user had answered.
 [[nodiscard]] bool offerRescued(const FolderCheck& mayWriteIn);
 
+/// Asks about each file that is larger than any diary, before it is read. False when it is not to be read: the program
+/// then ends, and the file stays as it is.
+[[nodiscard]] bool mayReadHuge();
+
 /// Offers the daily copies of files that are damaged. False when the program was ended before the user had answered.
 [[nodiscard]] bool offerCopies();
 

@@ -1,6 +1,7 @@
 /// What the file layer asks of the operating system. One source a system realises it, chosen by the build.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -14,6 +15,9 @@ enum class Kind { none, file, folder, other };
 
 /// What stands at a path. A link is what it leads to.
 Kind kindOf(const std::string& path);
+
+/// The bytes of a plain file; 0 for anything else.
+[[nodiscard]] std::uintmax_t sizeOf(const std::string& path);
 
 /// Makes a folder that only its owner can enter, and all folders that it lacks above it. Those that can't be made are
 /// missed by whoever writes there.

@@ -42,6 +42,12 @@ Kind kindOf(const std::string& path) {
     return S_ISDIR(status.st_mode) ? Kind::folder : Kind::other;
 }
 
+std::uintmax_t sizeOf(const std::string& path) {
+    struct stat status {};
+    const bool isFile = !hasNul(path) && ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
+    return isFile ? static_cast<std::uintmax_t>(status.st_size) : 0;
+}
+
 bool makeFolder(const std::string& path) {
     if (hasNul(path) || ::mkdir(path.c_str(), ownerOnlyFolder) != 0)
         return false;

@@ -1,5 +1,12 @@
 #include "platform/qt/event_guard.h"
 
+#include <QCoreApplication>
+#include <QPointer>
+#include <QTimer>
+
+#include <utility>
+#include <vector>
+
 namespace tallyvane {
 
 namespace {
@@ -9,6 +16,14 @@ std::function<void(const std::function<void()>&)>& eventGuard() {
     static auto* const guard = new std::function<void(const std::function<void()>&)>;
     return *guard;
 }
+
+struct UnaskedEvent {
+    QPointer<QObject> owner;
+    std::function<void()> event;
+};
+
+bool areHeld = false;
+std::vector<UnaskedEvent> held;
 
 } // namespace
 
@@ -21,6 +36,24 @@ void deliver(const std::function<void()>& event) {
         eventGuard()(event);
     else
         event();
+}
+
+void deliverUnasked(QObject* owner, const std::function<void()>& event) {
+    if (areHeld)
+        held.push_back({owner, event});
+    else
+        deliver(event);
+}
+
+UnaskedEventsHeld::UnaskedEventsHeld() { areHeld = true; }
+
+UnaskedEventsHeld::~UnaskedEventsHeld() {
+    areHeld = false;
+    QTimer::singleShot(0, QCoreApplication::instance(), [events = std::exchange(held, {})] {
+        for (const auto& [owner, event] : events)
+            if (owner)
+                deliverUnasked(owner, event);
+    });
 }
 
 } // namespace tallyvane

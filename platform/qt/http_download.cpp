@@ -93,7 +93,7 @@ void HttpDownload::finish() {
     if (body_.size() > mostBytes || !writeFile())
         return;
     const int status = reply_->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    deliver([done = done_, status] { done(status); }); // which may end this download
+    deliverUnasked(&timeLimit_, [done = done_, status] { done(status); }); // which may end this download
 }
 
 bool HttpDownload::writeFile() const {

@@ -104,15 +104,17 @@ QtProgram::QtProgram(int& argc, char** argv, const Rect& largestWindow)
     QApplication::setQuitOnLastWindowClosed(false);
     setUpFolders();
     setUpFormats();
-    parts_->unixSignals = std::make_unique<UnixSignals>([this] { deliver(onEndRequested); });
+    parts_->unixSignals =
+        std::make_unique<UnixSignals>([this] { deliverUnasked(QCoreApplication::instance(), onEndRequested); });
     QObject::connect(&application, &QGuiApplication::applicationStateChanged, &application,
                      [this](Qt::ApplicationState state) {
                          if (state != Qt::ApplicationActive)
-                             deliver(onDeactivate);
+                             deliverUnasked(QCoreApplication::instance(), onDeactivate);
                      });
     QObject::connect(
         &application, &QGuiApplication::commitDataRequest, &application,
-        [this](QSessionManager&) { deliver(onEndRequested); }, Qt::DirectConnection);
+        [this](QSessionManager&) { deliverUnasked(QCoreApplication::instance(), onEndRequested); },
+        Qt::DirectConnection);
 }
 
 QtProgram::~QtProgram() { setEventGuard(nullptr); }
@@ -122,7 +124,9 @@ void QtProgram::guardEvents(std::function<void(const std::function<void()>& even
 }
 
 void QtProgram::listen() {
-    parts_->channel.listen([this](const std::string& file) { deliver([&] { onWake(file); }); });
+    parts_->channel.listen([this](const std::string& file) {
+        deliverUnasked(QCoreApplication::instance(), [this, file] { onWake(file); });
+    });
 }
 
 int QtProgram::run(const std::function<void()>& open) {

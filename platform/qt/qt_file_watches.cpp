@@ -18,7 +18,7 @@ QtFileWatch::QtFileWatch(const std::string& path, std::function<void()> changed)
     QObject::connect(&watcher_, &QFileSystemWatcher::directoryChanged, &pause_, [this] { pause_.start(); });
     QObject::connect(&pause_, &QTimer::timeout, &pause_, [this, changed = std::move(changed)] {
         watch(); // a file that was replaced is watched no more
-        deliver(changed);
+        deliverUnasked(&pause_, changed);
     });
     watch();
 }

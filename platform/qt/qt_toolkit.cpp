@@ -11,16 +11,19 @@ QtToolkit::QtToolkit() {
     FileDialogs::use(&fileDialogs);
     FileWatches::use(&fileWatches);
     Printers::use(&printers);
+    SlowWork::use(&slowWork);
     Downloads::use(&downloads);
     WindowSystem::use(&windowSystem);
 }
 
 void QtToolkit::uninstall() {
+    QtSlowWork::finish();
     Desktop::use(nullptr);
     Bitmaps::use(nullptr);
     FileDialogs::use(nullptr);
     FileWatches::use(nullptr);
     Printers::use(nullptr);
+    SlowWork::use(nullptr);
     Downloads::use(nullptr);
     WindowSystem::use(nullptr);
 }

@@ -6,6 +6,7 @@
 #include "platform/qt/qt_file_dialogs.h"
 #include "platform/qt/qt_file_watches.h"
 #include "platform/qt/qt_printers.h"
+#include "platform/qt/qt_slow_work.h"
 #include "platform/qt/qt_window_system.h"
 
 namespace tallyvane {
@@ -27,6 +28,7 @@ public:
     QtFileDialogs fileDialogs;
     QtFileWatches fileWatches;
     QtPrinters printers;
+    QtSlowWork slowWork;
     HttpDownloads downloads;
     QtWindowSystem windowSystem;
 };

@@ -397,7 +397,10 @@ TimerPeer::TimerPeer(Timer& timer, QObject* parent) : timer_(&timer), clock_(par
     timer.observe(this);
     QObject::connect(&clock_, &QTimer::timeout, &clock_, [this] {
         if (timer_ != nullptr)
-            deliver([timer = timer_] { timer->fire(); });
+            deliverUnasked(&clock_, [this] {
+                if (timer_ != nullptr)
+                    timer_->fire();
+            });
     });
     controlChanged(Property::value);
 }

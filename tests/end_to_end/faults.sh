@@ -87,6 +87,31 @@ until_true saved 14.4
 come_back
 report "folder away" "old file whole; silence" "typed day saved after its return"
 
+# A disk that answers late: a word tells of it, the window stays alive, and what is typed meanwhile waits.
+saving() { xdotool search --onlyvisible --name '^Saving\.\.\.$' >/dev/null; }
+not_saving() { ! saving; }
+in_front
+plus
+type_reading 1 17.7
+becomes slow
+go_to_another_program
+until_true saving
+before=$(average_under 2)
+kill "$other"
+xdotool windowactivate "$window"
+xdotool key Tab # into the next reading
+xdotool type 18.8
+[[ -z ${PICTURES:-} ]] || import -window root "$PICTURES/saving.png"
+saving || fail "slow: the save was over too soon to tell"
+becomes
+until_true not_saving
+until_true strip_differs 2 "$before"
+xdotool key Return
+go_to_another_program
+until_true saved '17.7@#@18.8'
+come_back
+report "disk slow" "\"Saving...\" is shown" "typed day and later keys saved"
+
 # A clock that jumps a year ahead, and back behind the start: days are saved, and the journal's date is the clock's.
 for jump in '31536000 15.5 +1' '-31536000 16.6 -1'; do
     read -r seconds reading years <<<"$jump"

@@ -1,7 +1,7 @@
 /// Preloaded into the program, it makes disk and clock misbehave while it runs. What is wrong stands as words in the
 /// file that FAULTS names: "full" (no room for what grows), "broken" (the second
-/// half of a write into the table fails), "stop" (it never comes), "read-only", and
-/// "clock" with the seconds by which the clock is off.
+/// half of a write into the table fails), "stop" (it never comes), "read-only", "slow" (the table takes three seconds
+/// to reach its disk), and "clock" with the seconds by which the clock is off.
 #include <cerrno>
 #include <cstdarg>
 #include <cstdio>
@@ -77,6 +77,13 @@ ssize_t pwrite(int file, const void* bytes, std::size_t count, off_t place) {
         return -1;
     }
     return ::syscall(SYS_pwrite64, file, bytes, calls == 1 && count > 1 ? count / 2 : count, place);
+}
+
+int fsync(int file) {
+    constexpr unsigned seconds = 3;
+    if (fault("slow") != nullptr && isTheTable(file))
+        ::sleep(seconds);
+    return static_cast<int>(::syscall(SYS_fsync, file));
 }
 
 int clock_gettime(clockid_t clock, timespec* time) noexcept {

@@ -53,6 +53,21 @@ TEST_F(DailyCopiesTest, TheUserIsAskedBeforeACopyComesBack) {
     }
 }
 
+TEST_F(DailyCopiesTest, ATableThatIsLargerThanAnyDiaryIsReadOnlyIfTheUserSaysSo) {
+    constexpr std::uintmax_t bytes = 123'000'000;
+    write(table(), wholeDays(1));
+    std::filesystem::resize_file(table(), bytes);
+    toolkit_.answers = {1};
+    App app;
+    app.Event_Open();
+    ASSERT_EQ(toolkit_.questions.size(), 1U);
+    EXPECT_TRUE(toolkit_.questions[0].find("7VXData\u201d holds 123 megabytes") != std::string::npos);
+    EXPECT_EQ(app.windows().main, nullptr);
+    app.Event_Close();
+    EXPECT_EQ(std::filesystem::file_size(table()), bytes);
+    EXPECT_FALSE(std::filesystem::exists(applicationFile("Snapshots")));
+}
+
 TEST_F(DailyCopiesTest, TheFirstSaveOfEachDayIsPrecededByACopy) {
     write(table(), wholeDays(2));
     App app;
