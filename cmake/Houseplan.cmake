@@ -3,7 +3,7 @@
 set(HOUSE_ROOMS
   platform/base platform/desktop platform/files platform/drawing platform/controls platform/windows platform/printing
   platform/net platform/qt
-  charting settings auto_button diary exchange reports graphwindow records shell)
+  charting settings auto_button diary exchange reports graphwindow summary records shell)
 set(ROOMS_WITHOUT_QT ${HOUSE_ROOMS})
 list(REMOVE_ITEM ROOMS_WITHOUT_QT platform/qt)
 
@@ -25,5 +25,6 @@ set(MAY_INCLUDE_diary               ${PLATFORM} settings auto_button)
 set(MAY_INCLUDE_exchange            ${PLATFORM} settings auto_button diary)
 set(MAY_INCLUDE_reports             ${PLATFORM} settings auto_button diary)
 set(MAY_INCLUDE_graphwindow         ${PLATFORM} settings auto_button diary charting)
+set(MAY_INCLUDE_summary             ${PLATFORM} settings auto_button diary charting)
 set(MAY_INCLUDE_records             ${PLATFORM} settings auto_button reports)
 set(MAY_INCLUDE_shell               ${HOUSE_ROOMS})

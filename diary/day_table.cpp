@@ -70,10 +70,14 @@ void keepBefore(const UnsavedFiles::OutsideChange& change) { keepBeside(" before
 
 bool load(Listbox& table) {
     std::optional<TextInputStream> stream = UnsavedFiles::openText(userFile());
-    if (!stream)
-        return false;
-    while (!stream->EndOfFile()) {
-        const std::string_view line = stream->ReadLine();
+    if (stream)
+        addDays(table, *stream);
+    return stream.has_value();
+}
+
+void addDays(Listbox& table, TextInputStream& lines) {
+    while (!lines.EndOfFile()) {
+        const std::string_view line = lines.ReadLine();
         if (line.empty())
             continue;
         FieldWalk fields(line, DataFiles::fieldSeparator);
@@ -81,7 +85,6 @@ bool load(Listbox& table) {
         for (int column = 1; column < savedColumns; ++column)
             table.Cell(table.LastIndex(), column, fields.next());
     }
-    return true;
 }
 
 } // namespace tallyvane::DayTable

@@ -6,6 +6,7 @@
 
 #include "platform/base/date.h"
 #include "platform/controls/listbox.h"
+#include "platform/files/text_input_stream.h"
 #include "settings/unsaved_files.h"
 
 namespace tallyvane::DayTable {
@@ -55,5 +56,7 @@ void setBaseline(const Listbox& table);
 
 /// Appends the days of "7VXData" to the table. False when there is no such file or it can't be opened.
 [[nodiscard]] bool load(Listbox& table);
+/// Appends the days of lines in the form of that file.
+void addDays(Listbox& table, TextInputStream& lines);
 
 } // namespace tallyvane::DayTable
