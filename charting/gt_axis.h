@@ -105,6 +105,10 @@ public:
     void tickLabelsVertical(bool on) { myTickLabelsAreVertical = on; }
     int tickType() const { return myTickType; }
     void tickType(int type) { myTickType = type; }
+    /// Whether the middle of a Y label stands at its value, and not its baseline.
+    bool labelsAreCentred = false;
+    /// Whether an X label is shown whole, and not up to its first ".".
+    bool labelsAreWhole = false;
     /// Also sets the tick type to `custom`.
     void CustomFormatter(std::shared_ptr<GTCustomTickFormatter> formatter);
     /// The label's text; "" for an unknown type, and for `custom` without a formatter.

@@ -57,7 +57,7 @@ void GTAxis::renderTickLabel(Graphics& g, const std::string& s, int x, int y) co
 
 /// Shows the label only up to its first ".", moved sideways where needed to stay on the surface.
 void GTAxis::renderXTickLabel(Graphics& g, const std::string& s, int x, int y) const {
-    const std::string shown = NthField(s, ".", 1);
+    const std::string shown = labelsAreWhole ? s : NthField(s, ".", 1);
     const double width = g.StringWidth(shown);
     const double across = myTickLabelsAreVertical ? g.TextHeight() : width;
     int newX = truncated(x - across / 2);
@@ -82,7 +82,7 @@ void GTAxis::renderYTickLabel(Graphics& g, const std::string& s, int x, int y) c
     if (!onRight)
         newX = truncated(myTickLabelsAreVertical ? x - height : x - width);
 
-    int newY = y;
+    int newY = labelsAreCentred ? truncated(y + ascent * 0.36) : y; // half the height of a figure
     if (myTickLabelsAreVertical) {
         newY = truncated(y - width / 2);
         if (newY - height < 0)

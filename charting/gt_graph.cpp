@@ -4,6 +4,7 @@
 #include <array>
 
 #include "charting/gt_general_purpose.h"
+#include "charting/pen_keeper.h"
 #include "charting/truncated.h"
 #include "platform/base/text.h"
 
@@ -27,6 +28,13 @@ Color backdropColor(int row, int plotHeight) {
     const double upper = static_cast<double>(plotHeight - row) / plotHeight;
     const auto channel = [&](std::size_t c) { return truncated(upperColor[c] * upper + lowerColor[c] * lower); };
     return RGB(channel(0), channel(1), channel(2));
+}
+
+void renderDotted(Graphics& g, double x, double y, double width) {
+    constexpr double dot = 1;
+    constexpr double step = 3;
+    for (double place = 0; place < width; place += step)
+        g.FillRect(x + place, y, dot, dot);
 }
 
 } // namespace
@@ -111,6 +119,39 @@ void GTGraph::renderBackdrop(Graphics& g, int left, int top, int plotWidth, int 
     }
 }
 
+void GTGraph::renderBands(Graphics& g) const {
+    if (bands_.empty() || mySeries.empty())
+        return;
+    const PenKeeper keeper(g);
+    const GTSeries& scale = *mySeries.front();
+    const double unit = plot_.height / (scale.YMax() - scale.YMin());
+    const auto level = [&](double value) {
+        return plot_.top + plot_.height - (std::clamp(value, scale.YMin(), scale.YMax()) - scale.YMin()) * unit;
+    };
+    for (const GTBand& band : bands_) {
+        g.ForeColor(band.color);
+        if (band.high > band.low)
+            g.FillRect(plot_.left, level(band.high), plot_.width, level(band.low) - level(band.high));
+        else if (band.low > scale.YMin() && band.low < scale.YMax())
+            renderDotted(g, plot_.left, level(band.low), plot_.width);
+    }
+}
+
+std::optional<GTGraph::Hit> GTGraph::pointAt(double x, double y, double reach) const {
+    std::optional<Hit> hit;
+    for (int i = 0; i < count(); ++i) {
+        const GTSeries& series = *mySeries[static_cast<std::size_t>(i)];
+        if (series.Type() > GTSeries::scatter)
+            continue;
+        const auto nearest = series.nearestPoint(x - plot_.left, y - plot_.top, plot_.width, plot_.height);
+        if (nearest && nearest->distance <= reach) {
+            reach = nearest->distance;
+            hit = {i, nearest->index};
+        }
+    }
+    return hit;
+}
+
 GTGraph::Room GTGraph::roomAroundPlot(const Graphics& g) {
     Resolution(myResolution);
     Room room{marginTop + measureMyTitleHeight(), marginBottom, marginLeft, marginRight};
@@ -141,7 +182,10 @@ void GTGraph::Draw(Graphics& g) {
     if (height < 1 || width < 1)
         return;
 
-    renderBackdrop(g, room.left, room.top, width, height);
+    plot_ = {room.left, room.top, width, height};
+    if (backdropVisible)
+        renderBackdrop(g, room.left, room.top, width, height);
+    renderBands(g);
     RenderMyTitle(g, room.left, 0, width, height);
 
     Room axes{}; // that those drawn so far have taken

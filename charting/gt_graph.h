@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "charting/gt_band.h"
 #include "charting/gt_label.h"
 #include "charting/gt_series.h"
 
@@ -24,6 +25,7 @@ public:
     void addSeries(std::shared_ptr<GTSeries> s);
     void addLabel(std::shared_ptr<GTLabel> l);
     int count() const { return static_cast<int>(mySeries.size()); }
+    void addBand(const GTBand& band) { bands_.push_back(band); }
     /// Null for an index that no series has.
     std::shared_ptr<GTSeries> Series(int index) const;
     /// The first series of that name; null when there is none.
@@ -54,6 +56,9 @@ public:
     Color backColor = RGB(212, 217, 255);
     std::optional<Picture> backdrop;
 
+    /// Whether the ground of the plot is coloured.
+    bool backdropVisible = true;
+
     int marginTop = 0;
     int marginBottom = 0;
     int marginLeft = 0;
@@ -75,6 +80,17 @@ public:
     /// Measuring leaves behind what a drawing does.
     int plotHeight(const Graphics& g);
 
+    /// The plot of the last drawing, in units of the surface; without size before the first.
+    const Rect& plot() const { return plot_; }
+    /// A point of a series, by their indexes.
+    struct Hit {
+        int series = 0;
+        int point = 0;
+    };
+    /// The point of lines, areas and scattered points that was drawn nearest to a place of the surface, if it is no
+    /// farther than `reach`; of several at one place the one on top.
+    [[nodiscard]] std::optional<Hit> pointAt(double x, double y, double reach) const;
+
     int measureMyTitleHeight() const;
     int measureMyTitleWidth() const;
     void RenderMyTitle(Graphics& g, int x, int y, int w, int h) const;
@@ -91,12 +107,15 @@ private:
     int usableHeight(const Graphics& g) const;
     int heightWithin(const Room& room, const Graphics& g) const;
     void setTitleFont(Graphics& g) const;
+    void renderBands(Graphics& g) const;
     static void renderBackdrop(Graphics& g, int left, int top, int plotWidth, int plotHeight);
 
     std::string myTitleText;
     int myTextSize = 12;
     std::vector<std::shared_ptr<GTSeries>> mySeries;
     std::vector<std::shared_ptr<GTLabel>> myLabels;
+    std::vector<GTBand> bands_;
+    Rect plot_;
     int myResolution = 72;
     int myTopTitleMargin = 0;
     int myBottomTitleMargin = 0;

@@ -168,6 +168,8 @@ void GTSeries::renderData(Graphics& g, int x, int y, int w, int h) {
         return renderClusteredBar(g, x, y, w, h);
     case pie:
         return renderPie(g, x, y, w, h);
+    case box:
+        return renderBoxes(g, x, y, w, h);
     default:
         return;
     }

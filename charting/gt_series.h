@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -8,6 +9,8 @@
 #include "charting/gt_axis.h"
 #include "charting/gt_color_table_provider.h"
 #include "charting/gt_data_point.h"
+#include "charting/gt_hatching.h"
+#include "charting/gt_mark.h"
 #include "charting/range_tally.h"
 #include "platform/drawing/graphics.h"
 
@@ -31,7 +34,9 @@ public:
         totalBar = 6,
         percentBar = 7,
         clusteredBar = 8,
-        pie = 9
+        pie = 9,
+        /// Each point has five Y values: lowest, lower quartile, median, upper quartile, highest.
+        box = 10
     };
     /// Any other code draws no symbol either.
     enum PlotSymbols { noSymbol = 0, hollowCircle = 1, filledCircle = 2, hollowSquare = 3, filledSquare = 4 };
@@ -51,6 +56,7 @@ public:
     /// Nothing happens for an index that no point has.
     void RemoveDataValue(int index);
     int Count() const { return static_cast<int>(myDataPoints.size()); }
+    const GTDataPoint& Point(int index) const { return *myDataPoints.at(static_cast<std::size_t>(index)); }
     /// The two lists of every point change places; the ranges stay until fixRanges.
     void SwapXY();
 
@@ -89,6 +95,15 @@ public:
     void GridPenSize(int points);
     /// Without a provider every piece of a column, bar or pie has a random colour of its own at each drawing.
     void colorTable(std::shared_ptr<GTColorTableProvider> provider) { myColorTableProvider = std::move(provider); }
+    /// The mark at each point of lines, areas and scattered points, in place of the plot symbol and as large.
+    GTMark mark = GTMark::none;
+    bool marksAreHollow = false;
+    /// Lines over the pieces of columns and bars, by their place in the point; null for none.
+    std::function<GTHatching(int index)> hatching;
+    int boxWidth = 24; // points
+    Color boxColor = RGB(224, 224, 224);
+    Color medianColor = RGB(0, 0, 0);
+
     int Resolution() const { return myResolution; }
     /// Also sets it on every point and both axes.
     void Resolution(int dotsPerInch);
@@ -115,6 +130,14 @@ public:
     void renderPercentBar(Graphics& g, int x, int y, int w, int h);
     void renderClusteredBar(Graphics& g, int x, int y, int w, int h);
     void renderPie(Graphics& g, int x, int y, int w, int h) const;
+    void renderBoxes(Graphics& g, int x, int y, int w, int h) const;
+    /// The point whose place is nearest to a place of a plot of that size, and its distance; nothing without points
+    /// that have a place.
+    struct Nearest {
+        int index = 0;
+        double distance = 0;
+    };
+    [[nodiscard]] std::optional<Nearest> nearestPoint(double x, double y, int w, int h) const;
     /// Appends one symbol, its centre at x, y, to a picture of shapes.
     void renderSymbol(Picture& p, int x, int y) const;
 

@@ -66,6 +66,9 @@ Color GTSeries::pieceColor(int index) const {
 void GTSeries::renderPiece(Graphics& g, int index, double x, double y, double w, double h) const {
     g.ForeColor(pieceColor(index));
     g.FillRect(x, y, w, h);
+    constexpr double hatchStep = 5; // points
+    if (hatching)
+        renderHatching(g, hatching(index), x, y, w, h, hatchStep * scale());
     g.ForeColor(myPenColor);
     g.DrawRect(x, y, w, h);
 }

@@ -19,7 +19,24 @@ void GTSeries::forEachPlace(int w, int h, Visit visit) const {
     }
 }
 
+std::optional<GTSeries::Nearest> GTSeries::nearestPoint(double x, double y, int w, int h) const {
+    std::optional<Nearest> nearest;
+    int index = 0;
+    const double xUnit = xScale(w);
+    const double yUnit = yScale(h);
+    for (const auto& point : myDataPoints) {
+        const double distance =
+            std::hypot((point->XValue() - myXMin) * xUnit - x, h - (point->YValue() - myYmin) * yUnit - y);
+        if (std::isfinite(distance) && (!nearest || distance < nearest->distance))
+            nearest = {index, distance};
+        ++index;
+    }
+    return nearest;
+}
+
 void GTSeries::renderSymbol(Picture& p, int x, int y) const {
+    if (mark != GTMark::none)
+        return appendMark(p.Objects(), mark, marksAreHollow, myPenColor, x, y, myPlotSymbolSize * scale());
     const auto append = [&](auto shape, bool filled) {
         shape.X = x;
         shape.Y = y;

@@ -1,0 +1,23 @@
+#include "charting/round_ticks.h"
+
+#include <array>
+#include <cmath>
+
+namespace tallyvane {
+
+RoundTicks roundTicks(Extent extent, int mostSteps) {
+    constexpr std::array<double, 5> roundSteps{1, 2, 2.5, 5, 10};
+    if (!(extent.high > extent.low))
+        extent.high = extent.low + 1;
+    double power = std::pow(10, std::floor(std::log10((extent.high - extent.low) / mostSteps)));
+    for (;; power *= 10)
+        for (const double step : roundSteps) {
+            const double increment = step * power;
+            const double first = std::floor(extent.low / increment);
+            const double last = std::ceil(extent.high / increment);
+            if (last - first <= mostSteps)
+                return {{first * increment, last * increment}, increment};
+        }
+}
+
+} // namespace tallyvane
