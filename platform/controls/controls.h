@@ -64,7 +64,14 @@ public:
     bool DragsUpAndDown() const { return dragsUpAndDown_; }
     void DragsUpAndDown(bool value) { set(dragsUpAndDown_, value, Property::appearance); }
 
+    /// Whether it hears of the pointer over it while no button is pressed.
+    bool TracksPointer() const { return tracksPointer_; }
+    void TracksPointer(bool value) { set(tracksPointer_, value, Property::appearance); }
+
     std::function<void(Graphics& g)> Paint;
+    /// The pointer has moved; below 0 when it has left.
+    std::function<void(int x, int y)> PointerMoved;
+    std::function<void(int x, int y)> Pressed;
 
     virtual void Event_Open() {}
     virtual void Event_Paint(Graphics& g) {
@@ -72,7 +79,11 @@ public:
             Paint(g);
     }
     /// True: the events of dragging and of the release are to follow.
-    virtual bool Event_MouseDown(int /*x*/, int /*y*/) { return false; }
+    virtual bool Event_MouseDown(int x, int y) {
+        if (Pressed)
+            Pressed(x, y);
+        return false;
+    }
     virtual void Event_MouseDrag(int /*x*/, int /*y*/) {}
     virtual void Event_MouseUp(int /*x*/, int /*y*/) {}
     /// A key while it has the focus; true when it was consumed. Keys that type no text come as `Keys` names them.
@@ -82,6 +93,7 @@ private:
     std::optional<Picture> backdrop_;
     bool acceptFocus_ = false;
     bool dragsUpAndDown_ = false;
+    bool tracksPointer_ = false;
 };
 
 /// A filled rectangle with a black border.

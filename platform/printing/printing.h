@@ -2,6 +2,7 @@
 /// points, or in the dots of a finer resolution that the set-up allows.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -31,6 +32,15 @@ public:
     virtual bool ask() { return false; }
 };
 
+/// Draws pages, one after the other by NextPage.
+using DrawPages = std::function<void(Graphics& g)>;
+
+/// What a PDF says of itself.
+struct PdfTexts {
+    std::string title;
+    std::string author; // "" for none
+};
+
 /// What shows the dialogs of printing. The plain service prints nothing.
 class Printers : public Service<Printers> {
 public:
@@ -41,6 +51,14 @@ public:
     virtual std::unique_ptr<Graphics> openDialog(const Paper* /*paper*/, int /*resolution*/,
                                                  const std::string& /*pdfName*/) {
         return nullptr;
+    }
+    /// Shows the pages as they will be, with zoom, and prints them if the user says so there. They count in points;
+    /// they are drawn anew for each look, the first on the surface as it comes.
+    virtual void preview(const std::string& /*title*/, const DrawPages& /*draw*/) {}
+    /// Writes them into a PDF on the desktop's usual paper. False when the file can't be written.
+    [[nodiscard]] virtual bool writePdf(const std::string& /*path*/, const PdfTexts& /*texts*/,
+                                        const DrawPages& /*draw*/) {
+        return false;
     }
 };
 

@@ -129,6 +129,7 @@ void CanvasPeer::apply(Property /*property*/) {
     setFocusPolicy(control_->AcceptFocus() ? Qt::TabFocus : Qt::NoFocus);
     if (control_->DragsUpAndDown())
         setCursor(Qt::SplitVCursor);
+    setMouseTracking(control_->TracksPointer());
     update();
 }
 
@@ -157,6 +158,15 @@ void CanvasPeer::mousePressEvent(QMouseEvent* event) {
 void CanvasPeer::mouseMoveEvent(QMouseEvent* event) {
     if (control_ != nullptr && pressed_)
         deliver([&] { control_->Event_MouseDrag(event->pos().x(), event->pos().y()); });
+    else
+        tellPointer(event->pos());
+}
+
+void CanvasPeer::leaveEvent(QEvent* /*event*/) { tellPointer({-1, -1}); }
+
+void CanvasPeer::tellPointer(QPoint place) {
+    if (control_ != nullptr && control_->PointerMoved)
+        deliver([&] { control_->PointerMoved(place.x(), place.y()); });
 }
 
 void CanvasPeer::mouseReleaseEvent(QMouseEvent* event) {

@@ -58,9 +58,12 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void tellPointer(QPoint place);
+
     bool pressed_ = false; // the canvas wants to hear how the press goes on
 };
 
