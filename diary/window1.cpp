@@ -155,6 +155,8 @@ void Window1::doAverages() {
     else
         fillStrip(averages_.sumsOfAll());
     notes_.update();
+    if (daysChanged)
+        daysChanged();
 }
 
 void Window1::doRowAverages() { averages_.updateRows(); }
@@ -179,7 +181,11 @@ void Window1::fillStrip(const Averages::Sums& sums) {
 
 std::optional<Picture> Window1::getLight(double value) const { return Indicators::getLight(value); }
 
-void Window1::doSortColumns() { SortKeys::rebuild(ListBox1); }
+void Window1::doSortColumns() {
+    SortKeys::rebuild(ListBox1);
+    if (daysChanged)
+        daysChanged();
+}
 
 void Window1::doColWidth() { ListBox1.ColumnWidths(DayTable::columnWidths(ListBox1.ListCount(), ListBox1.Height())); }
 
@@ -334,11 +340,12 @@ void Window1::Event_EnableMenuItems(MenuBar& menuBar) {
 }
 
 void Window1::Toolbar11_Action(const ToolItem& item) {
-    const std::array<std::pair<std::string_view, std::function<void()>>, 5> actions{{
+    const std::array<std::pair<std::string_view, std::function<void()>>, 6> actions{{
         {"ResourcesBtn", [this] { toggleResources(); }},
         {"LogsBtn", showLogs},
         {"TeamMedBtn", showTeamAndMedications},
         {"GraphBtn", [this] { graphSelectedDays(); }},
+        {"SummaryBtn", showSummary},
         {"HeadingsBtn", showHeadingsEditor},
     }};
     for (const auto& [name, action] : actions)

@@ -68,7 +68,10 @@ public:
     std::function<void()> showLogs;
     std::function<void()> showTeamAndMedications;
     std::function<void()> showGraph;
+    std::function<void()> showSummary;
     std::function<void()> showHeadingsEditor;
+    /// The days, their order or the selection have changed.
+    std::function<void()> daysChanged;
     /// Brings up the dialog of the limits with these in it.
     std::function<void(const UsualLimits::Limits& limits)> offerLimits;
     /// Shows a line of a log; false when it is not there.
@@ -105,6 +108,8 @@ public:
     void bringIn(const ConflictCopies::Copy& copy);
     /// The same for journal and logs.
     void bringInLogs();
+    /// Selects these rows, brings the first into view and gives the table the keys.
+    void selectRows(const std::vector<bool>& rows);
     /// The user has answered: these days get the user's form, as a step of its own.
     void answerDates(const std::vector<DateForms::MeantDay>& days);
     void saveLogs();
@@ -169,7 +174,6 @@ private:
     void showConflicts(const std::vector<DayMerge::Conflict>& conflicts);
     bool takeOther(const DayMerge::Conflict& conflict);
     void selectPeriod(const Finding::Period& period);
-    void selectRows(const std::vector<bool>& rows);
     void showBoldDays();
 
     void growTable(int points);

@@ -97,6 +97,11 @@ MenuHandlers Window1::daysMenu() {
         {"DaysGoTo", [this] { DaysGoTo_Action(); }},
         {"DaysToday", [this] { DaysToday_Action(); }},
         {"DaysFind", [this] { DaysFind_Action(); }},
+        {"DaysSummary",
+         [this] {
+             if (showSummary)
+                 showSummary();
+         }},
         {"DaysSelectLast7", last(7)},
         {"DaysSelectLast14", last(14)},
         {"DaysSelectLast30", last(30)},

@@ -52,6 +52,7 @@ inline constexpr std::string_view windowData = "QVXWindowData";
 inline constexpr std::string_view tableHeight = "Table Height";
 inline constexpr std::string_view contacts = "QVXContacts";
 inline constexpr std::string_view medications = "QVXMedications";
+inline constexpr std::string_view visitPage = "Visit Page";
 inline constexpr std::string_view resources = "QVXFileData"; // in the inner folder
 inline constexpr std::string_view details = "Details"; // a folder: a file for each day that has details
 

@@ -14,9 +14,9 @@ namespace tallyvane::Snapshots {
 namespace {
 
 /// In the application's folder. `Details` is left out: the program only reads it.
-constexpr std::array<std::string_view, 7> outerFiles{
+constexpr std::array<std::string_view, 8> outerFiles{
     DataFiles::preferences, DataFiles::headings, DataFiles::runningLogs, DataFiles::journal,
-    DataFiles::windowData,  DataFiles::contacts, DataFiles::medications};
+    DataFiles::windowData,  DataFiles::contacts, DataFiles::medications, DataFiles::visitPage};
 constexpr std::array<std::string_view, 2> innerFiles{DataFiles::runningLogs, DataFiles::resources};
 /// Names the folder of the table in a set, if that was not the application's.
 constexpr std::string_view tableFolderFile = "Folder of 7VXData";

@@ -200,6 +200,20 @@ void App::wireWindows(Window1& window) {
     window.showGraph = [this, &table = window.ListBox1] {
         showSingle<GrafThingWindow>(windows_.graph, [&table] { return std::make_unique<GrafThingWindow>(table); });
     };
+    window.showSummary = [this, &window] {
+        showSingle<SummaryWindow>(windows_.summary, [&window] {
+            auto summary = std::make_unique<SummaryWindow>(window.ListBox1);
+            summary->selectRows = [&window](const std::vector<bool>& rows) {
+                window.Show();
+                window.selectRows(rows);
+            };
+            return summary;
+        });
+    };
+    window.daysChanged = [this] {
+        if (windows_.summary && windows_.summary->isOpen())
+            windows_.summary->daysChanged();
+    };
 }
 
 /// The items that hold only while the main window is in front.

@@ -22,6 +22,7 @@
 #include "shell/outside_changes.h"
 #include "shell/splash_window.h"
 #include "shell/toolbar1.h"
+#include "summary/summary_window.h"
 
 namespace tallyvane {
 
@@ -81,6 +82,7 @@ public:
         std::unique_ptr<InfoWindow> info;
         std::unique_ptr<fileWindow> files;
         std::unique_ptr<GrafThingWindow> graph;
+        std::unique_ptr<SummaryWindow> summary;
         std::unique_ptr<exportWindow> exporting;
         std::unique_ptr<importWindow> importing;
         std::unique_ptr<archiveWindow> archive;

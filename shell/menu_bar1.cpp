@@ -53,6 +53,7 @@ Menu daysMenu() {
                 {"DaysGoTo", tr("&Go to Day..."), "Cmd+G"},
                 {"DaysToday", tr("&Today"), "Cmd+T"},
                 {"DaysFind", tr("&Find..."), "Cmd+F"},
+                {"DaysSummary", tr("&Summary..."), "Cmd+Shift+S"},
                 {"DaysSeparator1", ""},
                 {"DaysSelectLast7", tr("Select Last &7 Days")},
                 {"DaysSelectLast14", tr("Select Last &14 Days")},

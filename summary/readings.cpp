@@ -12,11 +12,6 @@ namespace tallyvane::Summary {
 
 namespace {
 
-std::optional<Date> dayOf(const Listbox& table, int row) {
-    const std::optional<Date> day = DateKey::dayOf(table.Cell(row, DayTable::firstKey));
-    return day ? day : ParseDate(table.Cell(row, DayTable::dateColumn));
-}
-
 double secondsOf(const std::optional<Date>& day) { return day ? day->TotalSeconds() : -1; }
 
 bool isBlank(std::string_view cell) { return cell.find_first_not_of(" \t") == std::string_view::npos; }
@@ -48,6 +43,11 @@ void sortByDay(std::vector<Dated>& all) {
 }
 
 } // namespace
+
+std::optional<Date> dayOf(const Listbox& table, int row) {
+    const std::optional<Date> day = DateKey::dayOf(table.Cell(row, DayTable::firstKey));
+    return day ? day : ParseDate(table.Cell(row, DayTable::dateColumn));
+}
 
 Readings readingsOf(const Listbox& table, const std::vector<bool>& isIn) {
     Readings found;

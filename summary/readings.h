@@ -34,8 +34,10 @@ struct Readings {
     std::vector<int> unreadableRows;
 };
 
-/// The readings of the rows for which `isIn` is true, one place a row. A row's day is that of its date's key, or else
-/// of its date.
+/// The day of a row: that of its date's key, or else of its date. Nothing for a row without a date.
+[[nodiscard]] std::optional<Date> dayOf(const Listbox& table, int row);
+
+/// The readings of the rows for which `isIn` is true, one place a row.
 [[nodiscard]] Readings readingsOf(const Listbox& table, const std::vector<bool>& isIn);
 /// Of all rows.
 [[nodiscard]] Readings readingsOf(const Listbox& table);

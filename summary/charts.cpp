@@ -1,0 +1,221 @@
+#include "summary/charts.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+#include "platform/base/number.h"
+#include "platform/base/translation.h"
+#include "platform/drawing/wrapped_text.h"
+#include "settings/globals.h"
+#include "summary/chart_frame.h"
+#include "summary/test_period_names.h"
+
+namespace tallyvane::Summary {
+
+namespace {
+
+constexpr double lineHeight = 14;
+constexpr double axisToLabel = 9;
+constexpr int mostSteps = 6;
+constexpr Color boxLine = RGB(31, 92, 170);
+constexpr Color boxFill = RGB(207, 220, 241);
+
+std::string countText(int count) { return tr("n %1", {Grouped(count)}); }
+
+/// A box of these figures at a place.
+void addBox(GTSeries& boxes, double place, const Figures& figures) {
+    auto point = std::make_shared<GTDataPoint>(place, figures.lowest);
+    for (const double value : {figures.lowerQuartile, figures.median, figures.upperQuartile, figures.highest})
+        point->extraYValue(value);
+    boxes.AddDataPoint(std::move(point));
+}
+
+/// Places 1, 2 and so on, each with its figures.
+struct Boxes {
+    std::vector<Figures> figures;
+    std::vector<std::string> labels;
+    RoundTicks up;
+};
+
+double acrossAt(const GTGraph& graph, double place, std::size_t count) {
+    return graph.plot().left + graph.plot().width * (place - 0.5) / static_cast<double>(count);
+}
+
+/// Boxes with the number of values above and the median beside each.
+std::unique_ptr<GTGraph> drawBoxes(const Boxes& boxes, Unit unit, bool hasLimits, int roomBelow, Graphics& g) {
+    std::vector<Tick> ticks;
+    for (std::size_t i = 0; i < boxes.labels.size(); ++i)
+        ticks.emplace_back(static_cast<double>(i + 1), boxes.labels[i]);
+    const auto count = static_cast<double>(boxes.figures.size());
+    std::unique_ptr<GTGraph> graph = framedGraph({0.5, count + 0.5}, std::move(ticks), boxes.up);
+    if (hasLimits)
+        addLimits(*graph);
+    else
+        graph->addBand({0, 0, limitLine});
+    const auto series = addSeries(*graph, GTSeries::box, boxLine);
+    for (std::size_t i = 0; i < boxes.figures.size(); ++i)
+        if (boxes.figures[i].count > 0)
+            addBox(*series, static_cast<double>(i + 1), boxes.figures[i]);
+    series->SetXRange(0.5, count + 0.5);
+    series->SetYRange(boxes.up.range.low, boxes.up.range.high);
+    series->boxColor = boxFill;
+    series->medianColor = medianLine;
+    series->boxWidth = 22;
+    graph->marginTop = static_cast<int>(lineHeight);
+    graph->marginRight = 12;
+    graph->marginBottom = roomBelow;
+    setChartFont(g);
+    graph->Draw(g);
+
+    setChartFont(g);
+    const Rect& plot = graph->plot();
+    const double unitHeight = plot.height / (boxes.up.range.high - boxes.up.range.low);
+    for (std::size_t i = 0; i < boxes.figures.size(); ++i) {
+        const Figures& figures = boxes.figures[i];
+        const double x = acrossAt(*graph, static_cast<double>(i + 1), boxes.figures.size());
+        drawCentred(g, countText(figures.count), x, plot.top - 3);
+        if (figures.count > 0)
+            g.DrawString(valueText(figures.median, unit), x + series->boxWidth / 2.0 + 2,
+                         plot.top + plot.height - (figures.median - boxes.up.range.low) * unitHeight +
+                             g.TextAscent() * 0.36);
+    }
+    return graph;
+}
+
+void drawShareLegend(Graphics& g, double left, double baseline) {
+    constexpr double swatch = 12;
+    double gap = g.Width() - left;
+    for (const Ranges::Range range : Ranges::all)
+        gap -= swatch + 4 + g.StringWidth(Ranges::title(range));
+    gap = std::min(10.0, gap / static_cast<double>(Ranges::all.size()));
+    double x = left;
+    for (auto range = Ranges::all.rbegin(); range != Ranges::all.rend(); ++range) {
+        const RangeFill fill = fillOf(*range);
+        g.ForeColor(fill.color);
+        g.FillRect(x, baseline - 8, swatch, 9);
+        renderHatching(g, fill.hatching, x, baseline - 8, swatch, 9, 4);
+        g.ForeColor(chartText);
+        const std::string name = Ranges::title(*range);
+        g.DrawString(name, x + swatch + 4, baseline);
+        x += swatch + 4 + g.StringWidth(name) + gap;
+    }
+}
+
+/// A text on hatching, which would cross it out.
+void drawOnGround(Graphics& g, const std::string& text, double x, double baseline, const RangeFill& fill) {
+    const double width = g.StringWidth(text) + 2;
+    g.ForeColor(fill.color);
+    g.FillRect(x - width / 2, baseline - g.TextAscent() * 0.85, width, g.TextAscent());
+    g.ForeColor(fill.text);
+    drawCentred(g, text, x, baseline);
+}
+
+class RangeColors : public GTColorTableProvider {
+public:
+    /// From too low, at the left, to too high.
+    Color getColor(int index) override { return fillOf(rangeAt(index)).color; }
+    static Ranges::Range rangeAt(int index) {
+        return Ranges::all.at(Ranges::all.size() - 1 - static_cast<std::size_t>(index));
+    }
+};
+
+} // namespace
+
+void drawDay(const PeriodSummary& summary, Graphics& g) {
+    const TestPeriodNames names = testPeriodNames();
+    Boxes boxes;
+    boxes.up = roundTicks({0, std::max(summary.all().figures.highest, Globals::gOver)}, mostSteps);
+    for (std::size_t i = 1; i <= testPeriods; ++i) {
+        boxes.figures.push_back(summary.samples[i].figures);
+        boxes.labels.push_back(names.brief[i]);
+    }
+    const std::unique_ptr<GTGraph> graph = drawBoxes(boxes, summary.unit, true, static_cast<int>(lineHeight) - 8, g);
+    const double baseline = graph->plot().top + graph->plot().height + axisToLabel + 2 * lineHeight - 2;
+    for (std::size_t meal = 0; meal < names.meals.size(); ++meal)
+        drawCentred(g, names.meals[meal], acrossAt(*graph, 2.0 * static_cast<double>(meal) + 1.5, testPeriods),
+                    baseline);
+}
+
+void drawShares(const PeriodSummary& summary, Graphics& g) {
+    constexpr double percent = 100;
+    constexpr double leastForText = 9; // percent that hold the text of one
+    const TestPeriodNames names = testPeriodNames();
+    const RoundTicks rows{{0, 2.0 * testPeriods}, 1};
+    const std::vector<Tick> ticks{{0, "0 %"}, {25, "25 %"}, {50, "50 %"}, {75, "75 %"}, {100, "100 %"}};
+    std::unique_ptr<GTGraph> graph = framedGraph({0, percent}, ticks, rows);
+    graph->Series(0)->YAxis().visible(false);
+    const auto bars = addSeries(*graph, GTSeries::percentBar, RGB(255, 255, 255));
+    bars->colorTable(std::make_shared<RangeColors>());
+    bars->hatching = [](int index) { return fillOf(RangeColors::rangeAt(index)).hatching; };
+    for (int i = 1; i <= testPeriods; ++i) {
+        const Sample& sample = summary.samples[static_cast<std::size_t>(i)];
+        auto point = std::make_shared<GTDataPoint>(sample.inRange.back(), 2.0 * (testPeriods - i) + 0.5);
+        for (int piece = 1; piece < static_cast<int>(Ranges::all.size()); ++piece)
+            point->extraXValue(sample.inRange.at(static_cast<std::size_t>(RangeColors::rangeAt(piece))));
+        bars->AddDataPoint(std::move(point));
+    }
+    bars->SetXRange(0, percent);
+    bars->SetYRange(0, rows.range.high);
+    setChartFont(g);
+    double widest = 0;
+    for (const std::string& name : names.title)
+        widest = std::max(widest, g.StringWidth(name));
+    graph->marginLeft = static_cast<int>(widest) + 8;
+    graph->marginRight = 16;
+    graph->marginBottom = static_cast<int>(lineHeight) + 2;
+    graph->Draw(g);
+
+    setChartFont(g);
+    const Rect& plot = graph->plot();
+    for (std::size_t i = 1; i <= testPeriods; ++i) {
+        const Sample& sample = summary.samples[i];
+        const double baseline =
+            plot.top + plot.height * (2.0 * static_cast<double>(i) - 1) / rows.range.high + g.TextAscent() * 0.36;
+        g.ForeColor(chartText);
+        g.DrawString(names.title[i], plot.left - 6 - g.StringWidth(names.title[i]), baseline);
+        double before = 0;
+        for (int piece = 0; piece < static_cast<int>(Ranges::all.size()); ++piece) {
+            const Ranges::Range range = RangeColors::rangeAt(piece);
+            const int count = sample.inRange.at(static_cast<std::size_t>(range));
+            const double share = count == 0 ? 0 : percent * count / sample.figures.count;
+            if (share >= leastForText)
+                drawOnGround(g, Format(share, "0"), plot.left + plot.width * (before + share / 2) / percent, baseline,
+                             fillOf(range));
+            before += share;
+        }
+    }
+    drawShareLegend(g, 4, g.Height() - 4);
+}
+
+std::vector<double> risesAt(const PeriodSummary& summary, int meal) {
+    std::vector<double> rises;
+    const Reading* before = nullptr;
+    for (const Reading& reading : summary.readings.readings) {
+        if (reading.testPeriod == 2 * meal + 1)
+            before = &reading;
+        else if (reading.testPeriod == 2 * meal + 2 && before != nullptr && before->row == reading.row)
+            rises.push_back(reading.value - before->value);
+    }
+    return rises;
+}
+
+void drawRises(const PeriodSummary& summary, Graphics& g) {
+    const TestPeriodNames names = testPeriodNames();
+    Boxes boxes;
+    Extent extent{0, 0};
+    for (int meal = 0; meal < static_cast<int>(names.meals.size()); ++meal) {
+        const Figures& figures = boxes.figures.emplace_back(figuresOf(risesAt(summary, meal)));
+        boxes.labels.push_back(names.meals[static_cast<std::size_t>(meal)]);
+        extent = {std::min(extent.low, figures.lowest), std::max(extent.high, figures.highest)};
+    }
+    if (std::all_of(boxes.figures.begin(), boxes.figures.end(), [](const Figures& f) { return f.count == 0; })) {
+        setChartFont(g);
+        DrawString(g, tr("No day has readings both before and after a meal."), 4, 4 * lineHeight, g.Width() - 8);
+        return;
+    }
+    boxes.up = roundTicks(extent, mostSteps);
+    static_cast<void>(drawBoxes(boxes, summary.unit, false, 0, g));
+}
+
+} // namespace tallyvane::Summary

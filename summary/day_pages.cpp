@@ -1,0 +1,167 @@
+#include "summary/day_pages.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstddef>
+
+#include "diary/day_table.h"
+#include "platform/base/number.h"
+#include "platform/base/translation.h"
+#include "summary/chart_frame.h"
+#include "summary/figures_table.h"
+#include "summary/test_period_names.h"
+
+namespace tallyvane::Summary {
+
+namespace {
+
+constexpr double leastWidth = 540; // points
+constexpr double leastHeight = 740;
+constexpr double lineHeight = 16;
+constexpr double headHeight = 62;
+constexpr double dateWidth = 108;
+constexpr int columns = 9; // seven readings, average, weight
+constexpr Color black = RGB(0, 0, 0);
+constexpr Color grey = RGB(95, 95, 95);
+constexpr Color rule = RGB(190, 190, 190);
+constexpr Color weekendGround = RGB(236, 236, 236);
+
+bool isWeekend(const Date& day) {
+    constexpr double secondsPerDay = 24 * 60 * 60;
+    constexpr int saturday = 5; // the first day of year 1 was a Monday
+    return static_cast<long>(day.TotalSeconds() / secondsPerDay) % 7 >= saturday;
+}
+
+/// Arrows tell a range without colours: up for high, down for low, two for too high and too low.
+std::string arrowsOf(const std::string& cell) {
+    const auto range = isNumber(cell) && Val(cell) > 0 ? Ranges::of(Val(cell)) : std::nullopt;
+    if (!range)
+        return "";
+    switch (*range) {
+    case Ranges::Range::over:
+        return "\u25b2\u25b2";
+    case Ranges::Range::caution:
+        return "\u25b2";
+    case Ranges::Range::inZone:
+        return "";
+    case Ranges::Range::low:
+        return "\u25bc";
+    case Ranges::Range::under:
+        break;
+    }
+    return "\u25bc\u25bc";
+}
+
+/// A page of the grid.
+class Grid {
+public:
+    explicit Grid(Graphics& g) : g_(g), column_((g.Width() - dateWidth) / columns) {}
+
+    void font(double size, Color color, bool isBold = false) {
+        g_.TextFont(summaryFont);
+        g_.TextSize(size);
+        g_.Bold(isBold);
+        g_.ForeColor(color);
+    }
+    void head(const PeriodSummary& summary) {
+        font(14, black, true);
+        g_.DrawString(tr("Days"), 0, 16);
+        font(9, grey);
+        g_.DrawString(periodWords(summary) + "  \u00b7  " + tr("all values in %1", {nameOf(summary.unit)}), 46, 16);
+        const TestPeriodNames names = testPeriodNames();
+        font(9, black, true);
+        for (std::size_t meal = 0; meal < names.meals.size(); ++meal)
+            drawCentred(g_, names.meals[meal], dateWidth + (2.0 * static_cast<double>(meal) + 1) * column_, 38);
+        for (int testPeriod = 1; testPeriod <= testPeriods; ++testPeriod)
+            cell(testPeriod, names.brief[static_cast<std::size_t>(testPeriod)], "", 52);
+        cell(DayTable::averageColumn, tr("average"), "", 52);
+        cell(DayTable::weightColumn, tr("weight"), "", 52);
+        line(headHeight - 5);
+    }
+    void day(const Listbox& table, int row, double top) {
+        const std::optional<Date> date = dayOf(table, row);
+        const bool weekend = date && isWeekend(*date);
+        if (weekend) {
+            g_.ForeColor(weekendGround);
+            g_.FillRect(0, top, g_.Width(), lineHeight);
+        }
+        const double baseline = top + lineHeight - 4;
+        font(9, black, weekend);
+        g_.DrawString(date ? date->AbbreviatedDate() : table.Cell(row, DayTable::dateColumn), 2, baseline);
+        font(9, black);
+        for (int column = 1; column <= columns; ++column)
+            cell(column, table.Cell(row, column),
+                 column <= DayTable::averageColumn ? arrowsOf(table.Cell(row, column)) : "", baseline);
+    }
+    void foot(const PeriodSummary& summary, double top, int page, int pages) {
+        line(top);
+        font(9, black, true);
+        const double baseline = top + lineHeight - 2;
+        g_.DrawString(tr("Mean of the period"), 2, baseline);
+        for (int testPeriod = 1; testPeriod <= testPeriods; ++testPeriod)
+            mean(testPeriod, summary.samples[static_cast<std::size_t>(testPeriod)], summary.unit, baseline);
+        mean(DayTable::averageColumn, summary.all(), summary.unit, baseline);
+        font(7.5, grey);
+        const std::string number = tr("%1 of %2", {Grouped(page), Grouped(pages)});
+        g_.DrawString(tr("\u25b2 high, \u25b2\u25b2 too high, \u25bc low, \u25bc\u25bc too low; weekends on grey"), 0,
+                      g_.Height() - 4);
+        g_.DrawString(number, g_.Width() - g_.StringWidth(number), g_.Height() - 4);
+    }
+
+private:
+    void cell(int column, const std::string& text, const std::string& arrows, double baseline) {
+        const double right = dateWidth + column * column_ - 14;
+        g_.DrawString(text, right - g_.StringWidth(text), baseline);
+        g_.DrawString(arrows, right + 1, baseline);
+    }
+    void mean(int column, const Sample& sample, Unit unit, double baseline) {
+        if (sample.figures.count > 0)
+            cell(column, valueText(sample.figures.mean, unit), "", baseline);
+    }
+    void line(double y) {
+        g_.ForeColor(rule);
+        g_.FillRect(0, y, g_.Width(), 0.7);
+    }
+
+    Graphics& g_;
+    double column_;
+};
+
+} // namespace
+
+std::vector<int> rowsByDay(const Listbox& table, const PeriodSummary& summary) {
+    std::vector<int> rows = summary.rows;
+    std::vector<double> seconds(static_cast<std::size_t>(table.ListCount()), -1);
+    for (const int row : rows)
+        if (const std::optional<Date> day = dayOf(table, row))
+            seconds[static_cast<std::size_t>(row)] = day->TotalSeconds();
+    std::stable_sort(rows.begin(), rows.end(), [&](int a, int b) {
+        return seconds[static_cast<std::size_t>(a)] < seconds[static_cast<std::size_t>(b)];
+    });
+    return rows;
+}
+
+int dayPageCount(const PeriodSummary& summary) {
+    return (static_cast<int>(summary.rows.size()) + daysOnPage - 1) / daysOnPage;
+}
+
+void drawDayPages(Graphics& g, const Listbox& table, const PeriodSummary& summary, int firstPage, int pages) {
+    const std::vector<int> rows = rowsByDay(table, summary);
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const auto onPage = i % daysOnPage;
+        if (onPage == 0) {
+            g.NextPage();
+            g.shrinkToFit(leastWidth, leastHeight);
+        }
+        Grid grid(g);
+        if (onPage == 0)
+            grid.head(summary);
+        grid.day(table, rows[i], headHeight + lineHeight * static_cast<double>(onPage));
+        if (onPage + 1 == daysOnPage || i + 1 == rows.size())
+            grid.foot(summary, headHeight + lineHeight * static_cast<double>(onPage + 1) + 2,
+                      firstPage + static_cast<int>(i / daysOnPage), pages);
+    }
+}
+
+} // namespace tallyvane::Summary

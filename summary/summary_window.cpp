@@ -1,0 +1,299 @@
+#include "summary/summary_window.h"
+
+#include <algorithm>
+#include <cstddef>
+
+#include "platform/base/number.h"
+#include "platform/base/translation.h"
+#include "platform/desktop/desktop.h"
+#include "platform/drawing/surface_part.h"
+#include "platform/files/replacement.h"
+#include "platform/printing/printing.h"
+#include "platform/windows/dialogs.h"
+#include "platform/windows/wiring.h"
+#include "settings/list_colors.h"
+#include "summary/charts.h"
+#include "summary/day_pages.h"
+#include "summary/figures_table.h"
+#include "summary/remarks.h"
+#include "summary/test_period_names.h"
+#include "summary/visit_page.h"
+
+namespace tallyvane {
+
+namespace {
+
+constexpr int width = 980;
+constexpr int height = 600;
+constexpr Rect page{174, 96, 792, 484}; // of the tabs, without their row
+constexpr int figureColumns = 14;
+constexpr double screenSize = 1.2; // of the first figures, against paper
+
+constexpr Rect onPage(int left, int top, int w, int h) { return {page.left + left, page.top + top, w, h}; }
+
+/// The pictures bring a light ground along, whatever the desktop's theme.
+void fillWhite(Graphics& g) {
+    g.ForeColor(RGB(255, 255, 255));
+    g.FillRect(0, 0, g.Width(), g.Height());
+}
+
+/// Draws on white, some points from the edges.
+template <class Draw>
+std::function<void(Graphics& g)> onWhite(Draw draw) {
+    return [draw](Graphics& g) {
+        constexpr double margin = 8;
+        fillWhite(g);
+        SurfacePart inner(g, margin, margin, g.Width() - 2 * margin, g.Height() - 2 * margin);
+        draw(inner);
+    };
+}
+
+std::string joined(const std::vector<std::string>& lines) {
+    std::string text;
+    for (const std::string& line : lines)
+        text += (text.empty() || line.empty() ? "" : std::string(EndOfLine)) + line;
+    return text;
+}
+
+} // namespace
+
+SummaryWindow::SummaryWindow(const Listbox& days) : ListBox1(figureColumns), days_(days) {
+    shape(Kind::document, width, height, {width, anySize, height, anySize});
+    Title(tr("Summary"));
+    layOut();
+    build();
+    wire();
+}
+
+void SummaryWindow::layOut() {
+    constexpr unsigned lockWidth = lockLeft | lockTop | lockRight;
+    const int third = page.width / 3;
+    const int row = 250;
+    place({
+        {&GroupBox1, {10, 12, 148, 292}},
+        {&Periods[0], {18, 40, 136, 24}},
+        {&Periods[1], {18, 68, 136, 24}},
+        {&Periods[2], {18, 96, 136, 24}},
+        {&Periods[3], {18, 124, 136, 24}},
+        {&Periods[4], {18, 152, 136, 24}},
+        {&Periods[5], {18, 180, 136, 24}},
+        {&Periods[6], {18, 208, 136, 24}},
+        {&Periods[7], {18, 236, 136, 24}},
+        {&Periods[8], {18, 264, 136, 24}},
+        {&PushButton1, {10, 320, 148, 32}},
+        {&PushButton2, {10, 360, 148, 32}},
+        {&PushButton3, {10, 400, 148, 32}},
+        {&StaticText1, {168, 12, 806, 20}, lockWidth},
+        {&LinkLine1, {168, 34, 806, 20}, lockWidth},
+        {&TabPanel1, {166, 60, 808, 528}, lockAll},
+        {&Canvas1, onPage(0, 0, page.width, 100), lockWidth, &TabPanel1, 0},
+        {&ListBox1, onPage(0, 108, page.width, 206), lockWidth, &TabPanel1, 0},
+        {&TextArea2, onPage(0, 324, page.width, 158), lockAll, &TabPanel1, 0},
+        {&Canvas2, onPage(0, 0, page.width, 452), lockAll, &TabPanel1, 1},
+        {&StaticText3, onPage(0, 458, page.width, 22), lockLeft | lockRight | lockBottom, &TabPanel1, 1},
+        {&StaticText4, onPage(0, 0, 2 * third - 6, 20), lockLeft | lockTop, &TabPanel1, 2},
+        {&Canvas3, onPage(0, 22, 2 * third - 6, row - 30), lockLeft | lockTop, &TabPanel1, 2},
+        {&StaticText5, onPage(0, row, page.width, 20), lockLeft | lockTop, &TabPanel1, 2},
+        {&Canvas4, onPage(0, row + 22, page.width, 210), lockAll, &TabPanel1, 2},
+        {&StaticText6, onPage(2 * third, 0, third, 20), lockWidth, &TabPanel1, 2},
+        {&Canvas5, onPage(2 * third, 22, page.width - 2 * third, row - 30), lockWidth, &TabPanel1, 2},
+        {&StaticText7, onPage(0, 8, 300, 20), lockLeft | lockTop, &TabPanel1, 3},
+        {&TextField1, onPage(0, 30, 400, 28), lockWidth, &TabPanel1, 3},
+        {&StaticText8, onPage(0, 72, 300, 20), lockLeft | lockTop, &TabPanel1, 3},
+        {&TextArea1, onPage(0, 94, page.width, 220), lockAll, &TabPanel1, 3},
+        {&CheckBox1, onPage(0, 326, page.width, 24), lockLeft | lockRight | lockBottom, &TabPanel1, 3},
+        {&Timer1},
+    });
+}
+
+void SummaryWindow::build() {
+    GroupBox1.Caption(tr("Period"));
+    const std::array<std::string, 9> periods{tr("Last 7 days"),  tr("Last 14 days"), tr("Last 30 days"),
+                                             tr("Last 90 days"), tr("This month"),   tr("Last month"),
+                                             tr("This year"),    tr("All days"),     tr("Selected days")};
+    for (std::size_t i = 0; i < periods.size(); ++i)
+        Periods[i].Caption(periods[i]);
+    RadioButton::join({&Periods[0], &Periods[1], &Periods[2], &Periods[3], &Periods[4], &Periods[5], &Periods[6],
+                       &Periods[7], &Periods[8]});
+    Periods[static_cast<std::size_t>(Summary::Span::last30)].Value(true);
+    PushButton1.Caption(tr("Print..."));
+    PushButton2.Caption(tr("Save as PDF..."));
+    PushButton3.Caption(tr("Export Figures..."));
+    StaticText1.Bold(true);
+    TabPanel1.Captions({tr("Figures"), tr("Course"), tr("The Day"), tr("For the Visit")});
+
+    const Summary::TableRow headings = Summary::tableHeadings();
+    ListBox1.ColumnWidths("14%,4%,5%,5%,6%,4%,6%,6%,7%,8%,8%,9%,9%,9%");
+    for (int column = 0; column < figureColumns; ++column) {
+        ListBox1.Heading(column, headings[static_cast<std::size_t>(column)]);
+        ListBox1.ColumnAlignment(column, column == 0 ? Listbox::AlignLeft : Listbox::AlignRight);
+    }
+    ListBox1.HeaderPressed = [](int) { return true; }; // the order stays
+    ListBox1.Colors(listColors);
+    ListBox1.Border(true);
+    ListBox1.DefaultRowHeight(22);
+    ListBox1.TextSize(11);
+    ListBox1.AccessibleName(tr("Figures by test period"));
+    TextArea2.ReadOnly(true);
+    TextArea2.AccessibleName(tr("What stands out"));
+    StaticText3.Text(tr("Point at a reading to see it; a click selects its day."));
+    StaticText4.Text(tr("The day: the middle half of the readings in the box, the median as a line"));
+    StaticText5.Text(tr("Shares of your five ranges"));
+    StaticText6.Text(tr("Rise from before to after"));
+    StaticText7.Text(tr("Name on the page"));
+    StaticText8.Text(tr("What I want to ask"));
+    CheckBox1.Caption(tr("Print the days too, 40 on a page"));
+    TextField1.AccessibleName(StaticText7.Text());
+    TextArea1.AccessibleName(StaticText8.Text());
+    Canvas2.TracksPointer(true);
+    Timer1.Period(1);
+}
+
+void SummaryWindow::wire() {
+    for (RadioButton& period : Periods)
+        period.Action = [this] { update(); };
+    Timer1.Action = [this] { update(); };
+    Canvas1.Paint = onWhite([this](Graphics& g) { drawKeyFigures(g, summary_, screenSize); });
+    Canvas2.Paint = [this](Graphics& g) { paintCourse(g); };
+    Canvas2.PointerMoved = [this](int x, int y) { showReadingAt(x, y); };
+    Canvas2.Pressed = [this](int x, int y) { selectReadingAt(x, y); };
+    Canvas3.Paint = onWhite([this](Graphics& g) { drawDay(summary_, g); });
+    Canvas4.Paint = onWhite([this](Graphics& g) { drawShares(summary_, g); });
+    Canvas5.Paint = onWhite([this](Graphics& g) { drawRises(summary_, g); });
+    Wiring(*this).connect({
+        {PushButton1.Action, &SummaryWindow::PushButton1_Action},
+        {PushButton2.Action, &SummaryWindow::PushButton2_Action},
+        {PushButton3.Action, &SummaryWindow::PushButton3_Action},
+    });
+    menuHandlers["FilePrint"] = [this] { PushButton1_Action(); };
+}
+
+void SummaryWindow::Event_Open() {
+    const Summary::VisitTexts texts = Summary::readVisitTexts();
+    TextField1.Text(texts.patient);
+    TextArea1.Text(texts.questions);
+    update();
+}
+
+void SummaryWindow::Event_Close() { saveTexts(); }
+
+void SummaryWindow::daysChanged() { Timer1.Mode(Timer::ModeSingle); }
+
+void SummaryWindow::saveTexts() { Summary::saveVisitTexts({TextField1.Text(), TextArea1.Text()}); }
+
+Summary::Span SummaryWindow::span() const {
+    const auto chosen = std::find_if(Periods.begin(), Periods.end(), [](const RadioButton& p) { return p.Value(); });
+    return static_cast<Summary::Span>(chosen - Periods.begin());
+}
+
+// The figures
+
+void SummaryWindow::update() {
+    summary_ = Summary::summarize(days_, span(), Date());
+    course_ = std::make_unique<Summary::CourseChart>(summary_);
+    finishedCourse_.reset();
+    showFigures();
+    Refresh();
+}
+
+void SummaryWindow::showFigures() {
+    const std::string dot = "  \u00b7  ";
+    if (summary_.span == Summary::Span::selected && summary_.rows.empty())
+        StaticText1.Text(tr("No days are selected in the table."));
+    else
+        StaticText1.Text(Summary::periodWords(summary_) + dot + Summary::basisWords(summary_) + dot +
+                         tr("all values in %1", {Summary::nameOf(summary_.unit)}));
+    if (const int unreadable = summary_.readings.unreadable; unreadable > 0)
+        LinkLine1.show(unreadable == 1 ? tr("1 reading could not be read.")
+                                       : tr("%1 readings could not be read.", {Grouped(unreadable)}),
+                       {{tr("Select their days"), [this] { selectAll(summary_.readings.unreadableRows); }}});
+    else
+        LinkLine1.show("");
+    ListBox1.DeleteAllRows();
+    ListBox1.AddRows(Summary::tableRows(summary_));
+    std::vector<std::string> lines = Summary::remarksOn(summary_);
+    lines.push_back(Summary::weightWords(summary_));
+    TextArea2.Text(joined(lines));
+    std::string key;
+    for (const Summary::KeyFigure& figure : Summary::keyFigures(summary_))
+        key += figure.name + ": " + figure.value + ", " + figure.note + ". ";
+    Canvas1.AccessibleName(key);
+    Canvas2.AccessibleName(tr("Course of the readings: %1", {StaticText1.Text()}));
+    Canvas3.AccessibleName(StaticText4.Text());
+    Canvas4.AccessibleName(StaticText5.Text());
+    Canvas5.AccessibleName(StaticText6.Text());
+}
+
+// The pictures
+
+void SummaryWindow::paintCourse(Graphics& g) {
+    const int w = Canvas2.Width();
+    const int h = Canvas2.Height();
+    if (!course_)
+        return;
+    if (!finishedCourse_ || finishedCourse_->Width() != w || finishedCourse_->Height() != h) {
+        finishedCourse_.emplace(w, h, 32);
+        fillWhite(finishedCourse_->Graphics());
+        course_->draw(finishedCourse_->Graphics());
+    }
+    g.DrawPicture(*finishedCourse_, 0, 0);
+}
+
+void SummaryWindow::showReadingAt(int x, int y) {
+    const std::optional<Summary::Reading> reading = course_ ? course_->readingAt(x, y) : std::nullopt;
+    if (!reading) {
+        StaticText3.Text(tr("Point at a reading to see it; a click selects its day."));
+        return;
+    }
+    const std::string when = Summary::testPeriodNames().words[static_cast<std::size_t>(reading->testPeriod)];
+    StaticText3.Text(tr("%1, %2: %3 %4",
+                        {reading->day->AbbreviatedDate(), when, Str(reading->value), Summary::nameOf(summary_.unit)}));
+}
+
+void SummaryWindow::selectReadingAt(int x, int y) {
+    if (const auto reading = course_ ? course_->readingAt(x, y) : std::nullopt)
+        selectAll({reading->row});
+}
+
+void SummaryWindow::selectAll(const std::vector<int>& rows) {
+    std::vector<bool> selected(static_cast<std::size_t>(days_.ListCount()));
+    for (const int row : rows)
+        if (row < days_.ListCount())
+            selected[static_cast<std::size_t>(row)] = true;
+    if (selectRows)
+        selectRows(selected);
+}
+
+// The page for the visit
+
+void SummaryWindow::drawPages(Graphics& g) const {
+    const int pages = 1 + (CheckBox1.Value() ? Summary::dayPageCount(summary_) : 0);
+    Summary::drawVisitPage(g, summary_,
+                           {{TextField1.Text(), TextArea1.Text()}, Summary::medicationLines(), Date(), pages});
+    if (CheckBox1.Value())
+        Summary::drawDayPages(g, days_, summary_, 2, pages);
+}
+
+void SummaryWindow::PushButton1_Action() {
+    saveTexts();
+    Printers::current().preview(Summary::visitTitle(summary_), [this](Graphics& g) { drawPages(g); });
+}
+
+void SummaryWindow::PushButton2_Action() {
+    saveTexts();
+    const SaveAsDialog dialog{tr("Save as PDF"), tr("Save the page as:"), Summary::visitTitle(summary_), ".pdf"};
+    const std::optional<FolderItem> file = dialog.ShowModal();
+    if (!file)
+        return;
+    const PdfTexts texts{Summary::visitTitle(summary_), TextField1.Text()};
+    if (!Printers::current().writePdf(file->AbsolutePath(), texts, [this](Graphics& g) { drawPages(g); }))
+        MsgBox(tr("\u201c%1\u201d could not be written.", {file->AbsolutePath()}));
+}
+
+void SummaryWindow::PushButton3_Action() {
+    const SaveAsDialog dialog{tr("Export Figures"), tr("Save the figures as:"), tr("Figures"), ".csv"};
+    if (const std::optional<FolderItem> file = dialog.ShowModal())
+        writeFile(file->AbsolutePath(), Summary::figuresCsv(summary_), Replacement::Recorded::unlessNew);
+}
+
+} // namespace tallyvane
