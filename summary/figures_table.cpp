@@ -152,7 +152,7 @@ std::string weightWords(const PeriodSummary& summary) {
         return tr("Weight: %1 on %2", {Str(first), weights.front().day.AbbreviatedDate()});
     return tr("Weight: %1 on %2, %3 on %4, change %5",
               {Str(first), weights.front().day.AbbreviatedDate(), Str(last), weights.back().day.AbbreviatedDate(),
-               Format(last - first, last < first ? "-0.0" : "+0.0")});
+               (last > first ? "+" : "") + Format(last - first, "-0.0")});
 }
 
 std::string figuresCsv(const PeriodSummary& summary) {
