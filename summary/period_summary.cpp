@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <utility>
 
 #include "diary/day_table.h"
 
@@ -27,8 +28,8 @@ std::vector<bool> rowsOf(const Listbox& table, bool selectedOnly) {
     return rows;
 }
 
-/// The days of these rows that have a date, each once, from the first on.
-std::vector<Date> datesOf(const Listbox& table, const std::vector<bool>& rows) {
+/// The days of the rows that have a date, each once, in their order; as seconds since the first midnight of year 1.
+std::vector<double> datesOf(const Listbox& table, const std::vector<bool>& rows) {
     std::vector<double> seconds;
     for (int row = 0; row < table.ListCount(); ++row)
         if (rows[static_cast<std::size_t>(row)])
@@ -36,10 +37,7 @@ std::vector<Date> datesOf(const Listbox& table, const std::vector<bool>& rows) {
                 seconds.push_back(day->TotalSeconds());
     std::sort(seconds.begin(), seconds.end());
     seconds.erase(std::unique(seconds.begin(), seconds.end()), seconds.end());
-    std::vector<Date> days;
-    days.reserve(seconds.size());
-    std::transform(seconds.begin(), seconds.end(), std::back_inserter(days), Date::ofTotalSeconds);
-    return days;
+    return seconds;
 }
 
 std::optional<Finding::Period> calendarDays(Span span, const Date& today) {
@@ -65,25 +63,51 @@ std::optional<Finding::Period> calendarDays(Span span, const Date& today) {
     return std::nullopt;
 }
 
-bool isSameDay(const Reading& a, const Reading& b) { return a.day ? a.day == b.day : a.row == b.row; }
+/// Takes readings by day, and makes the sample of them.
+class Sampling {
+public:
+    explicit Sampling(std::size_t count = 0) { values_.reserve(count); }
 
-Sample sampleOf(const std::vector<Reading>& readings, int testPeriod) {
-    Sample sample;
-    sample.figures = figuresOf(valuesOf(readings, testPeriod));
-    const Reading* last = nullptr;
-    for (const Reading& reading : readings) {
-        if (testPeriod != 0 && reading.testPeriod != testPeriod)
-            continue;
-        sample.days += last != nullptr && isSameDay(*last, reading) ? 0 : 1;
-        last = &reading;
-        if (const auto range = Ranges::of(reading.value))
-            ++sample.inRange[static_cast<std::size_t>(*range)];
-        if (!sample.lowest || reading.value < sample.lowest->value)
-            sample.lowest = reading;
-        if (!sample.highest || reading.value > sample.highest->value)
-            sample.highest = reading;
+    void add(const Reading& reading, std::optional<Ranges::Range> range) {
+        values_.push_back(reading.value);
+        sample_.days += last_ != nullptr && isOfOneDay(*last_, reading) ? 0 : 1;
+        last_ = &reading;
+        if (range)
+            ++sample_.inRange[static_cast<std::size_t>(*range)];
+        if (!sample_.lowest || reading.value < sample_.lowest->value)
+            sample_.lowest = reading;
+        if (!sample_.highest || reading.value > sample_.highest->value)
+            sample_.highest = reading;
     }
-    return sample;
+    Sample finish() {
+        sample_.figures = figuresOf(std::move(values_));
+        return sample_;
+    }
+
+private:
+    Sample sample_;
+    std::vector<double> values_;
+    const Reading* last_ = nullptr;
+};
+
+Sample sampleOf(const std::vector<Reading>& readings) {
+    Sampling all(readings.size());
+    for (const Reading& reading : readings)
+        all.add(reading, Ranges::of(reading.value));
+    return all.finish();
+}
+
+std::array<Sample, testPeriods + 1> samplesOf(const std::vector<Reading>& readings) {
+    std::array<Sampling, testPeriods + 1> samplings;
+    samplings[0] = Sampling(readings.size());
+    for (const Reading& reading : readings) {
+        const auto range = Ranges::of(reading.value);
+        samplings[0].add(reading, range);
+        samplings[static_cast<std::size_t>(reading.testPeriod)].add(reading, range);
+    }
+    std::array<Sample, testPeriods + 1> samples;
+    std::transform(samplings.begin(), samplings.end(), samples.begin(), [](Sampling& s) { return s.finish(); });
+    return samples;
 }
 
 Spread spreadOf(const PeriodSummary& summary) {
@@ -117,20 +141,19 @@ PeriodSummary summarize(const Listbox& table, Span span, const Date& today) {
     if (summary.days) {
         rows = Finding::rowsIn(table, *summary.days);
         summary.dayCount = daysOf(*summary.days);
-    } else if (const std::vector<Date> dates = datesOf(table, rows); !dates.empty()) {
-        summary.days = Finding::Period(dates.front(), dates.back());
+    } else if (const std::vector<double> dates = datesOf(table, rows); !dates.empty()) {
+        summary.days = Finding::Period(Date::ofTotalSeconds(dates.front()), Date::ofTotalSeconds(dates.back()));
         summary.dayCount = span == Span::selected ? static_cast<int>(dates.size()) : daysOf(*summary.days);
     }
     for (int row = 0; row < table.ListCount(); ++row)
         if (rows[static_cast<std::size_t>(row)])
             summary.rows.push_back(row);
     summary.readings = readingsOf(table, rows);
-    for (int testPeriod = 0; testPeriod <= testPeriods; ++testPeriod)
-        summary.samples[static_cast<std::size_t>(testPeriod)] = sampleOf(summary.readings.readings, testPeriod);
+    summary.samples = samplesOf(summary.readings.readings);
     if (span != Span::all && summary.days) {
         const int length = daysOf(*summary.days);
         const Finding::Period before(daysLater(summary.days->first, -length), daysLater(summary.days->first, -1));
-        const Sample sample = sampleOf(readingsOf(table, Finding::rowsIn(table, before)).readings, 0);
+        const Sample sample = sampleOf(readingsOf(table, Finding::rowsIn(table, before)).readings);
         summary.before = sample.figures.count > 0 ? std::optional(sample) : std::nullopt;
     }
     if (isEnoughForA1c(spreadOf(summary)) && !summary.isOfOtherUnit())

@@ -12,7 +12,8 @@ namespace tallyvane::Summary {
 
 namespace {
 
-double secondsOf(const std::optional<Date>& day) { return day ? day->TotalSeconds() : -1; }
+/// A place in the order of days; rows without a date come first.
+double orderOf(const std::optional<Date>& day) { return day ? day->TotalSeconds() : -1; }
 
 bool isBlank(std::string_view cell) { return cell.find_first_not_of(" \t") == std::string_view::npos; }
 
@@ -37,12 +38,14 @@ void takeRow(Readings& found, const Listbox& table, int row, const std::optional
 
 template <class Dated>
 void sortByDay(std::vector<Dated>& all) {
-    const auto isEarlier = [](const Dated& a, const Dated& b) { return secondsOf(a.day) < secondsOf(b.day); };
+    const auto isEarlier = [](const Dated& a, const Dated& b) { return orderOf(a.day) < orderOf(b.day); };
     if (!std::is_sorted(all.begin(), all.end(), isEarlier))
         std::stable_sort(all.begin(), all.end(), isEarlier);
 }
 
 } // namespace
+
+bool isOfOneDay(const Reading& a, const Reading& b) { return a.day ? a.day == b.day : !b.day && a.row == b.row; }
 
 std::optional<Date> dayOf(const Listbox& table, int row) {
     const std::optional<Date> day = DateKey::dayOf(table.Cell(row, DayTable::firstKey));
@@ -58,8 +61,7 @@ Readings readingsOf(const Listbox& table, const std::vector<bool>& isIn) {
     sortByDay(found.weights);
     const Reading* last = nullptr;
     for (const Reading& reading : found.readings) {
-        const bool isOfLastDay = last != nullptr && (reading.day ? reading.day == last->day : reading.row == last->row);
-        found.days += isOfLastDay ? 0 : 1;
+        found.days += last != nullptr && isOfOneDay(*last, reading) ? 0 : 1;
         last = &reading;
     }
     return found;

@@ -19,6 +19,9 @@ struct Reading {
     double value = 0; // as typed, above 0
 };
 
+/// Whether two readings count as of one day: those of one date, and of a row without a date.
+[[nodiscard]] bool isOfOneDay(const Reading& a, const Reading& b);
+
 struct Weight {
     Date day;
     double value = 0;

@@ -190,7 +190,7 @@ Summary::Span SummaryWindow::span() const {
 
 void SummaryWindow::update() {
     summary_ = Summary::summarize(days_, span(), Date());
-    course_ = std::make_unique<Summary::CourseChart>(summary_);
+    course_.reset(); // made when it is to be seen
     finishedCourse_.reset();
     showFigures();
     Refresh();
@@ -230,7 +230,7 @@ void SummaryWindow::paintCourse(Graphics& g) {
     const int w = Canvas2.Width();
     const int h = Canvas2.Height();
     if (!course_)
-        return;
+        course_ = std::make_unique<Summary::CourseChart>(summary_);
     if (!finishedCourse_ || finishedCourse_->Width() != w || finishedCourse_->Height() != h) {
         finishedCourse_.emplace(w, h, 32);
         fillWhite(finishedCourse_->Graphics());
