@@ -170,7 +170,48 @@ private:
     Result result_;
 };
 
+/// A base for days that stand on both sides: where one value of a cell was known to both and the other is new, the
+/// known one.
+std::vector<Day> groundOf(const std::vector<std::string>& known, const std::vector<Day>& here,
+                          const std::vector<Day>& there) {
+    std::vector<Side> knownSides;
+    for (const std::string& text : known)
+        knownSides.push_back(sideOf(daysIn(text)));
+    const auto stoodIn = [&](const Id& id, std::size_t column, const std::string& value) {
+        return std::any_of(knownSides.begin(), knownSides.end(), [&](const Side& side) {
+            const auto day = side.days.find(id);
+            return day != side.days.end() && day->second[column] == value;
+        });
+    };
+    Side hereSide = sideOf(here);
+    Side thereSide = sideOf(there);
+    std::vector<Day> ground;
+    for (const Id& id : hereSide.order) {
+        if (!thereSide.has(id))
+            continue;
+        Day base(DayTable::savedColumns);
+        for (const int column : typedColumns()) {
+            const auto at = static_cast<std::size_t>(column);
+            const std::string& mine = hereSide.days[id][at];
+            const std::string& theirs = thereSide.days[id][at];
+            const bool isMineKnown = !mine.empty() && stoodIn(id, at, mine);
+            const bool isTheirsKnown = !theirs.empty() && stoodIn(id, at, theirs);
+            if (isMineKnown != isTheirsKnown && !mine.empty() && !theirs.empty())
+                base[at] = isMineKnown ? mine : theirs;
+        }
+        base[DayTable::dateColumn] = hereSide.days[id][DayTable::dateColumn];
+        base[DayTable::firstKey] = hereSide.days[id][DayTable::firstKey];
+        ground.push_back(std::move(base));
+    }
+    return ground;
+}
+
 } // namespace
+
+Result joinVersion(const std::vector<std::string>& known, const std::vector<Day>& here, const std::string& there) {
+    const std::vector<Day> version = daysIn(there);
+    return Joining(groundOf(known, here, version), here, version).result();
+}
 
 std::vector<Day> daysOf(const Listbox& table) {
     std::vector<Day> days;

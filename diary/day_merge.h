@@ -52,6 +52,10 @@ std::vector<Day> daysIn(const std::string& file);
 /// of two programs that join the same texts get the same days in the same order.
 Result join(const std::string& base, const std::vector<Day>& here, const std::string& there);
 
+/// Joins with a version of which nobody knows what both began with. Days and readings of both stay. Of two values of a
+/// cell the new one is taken, if the other one stood there in a table that both sides knew; else they are a conflict.
+Result joinVersion(const std::vector<std::string>& known, const std::vector<Day>& here, const std::string& there);
+
 /// Puts the value from there in the cell of a conflict, as a change of the step that was begun before. False, and
 /// nothing done, when the cell does not hold the value from here any more.
 [[nodiscard]] bool takeOther(const Conflict& conflict, Listbox& table);

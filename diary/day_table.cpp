@@ -60,6 +60,10 @@ void setBaseline(const Listbox& table) { UnsavedFiles::setBaseline(userFile(), t
 
 std::optional<UnsavedFiles::OutsideChange> changedOutside() { return UnsavedFiles::changedOutside(userFile()); }
 
+std::vector<std::string> knownToBoth(const std::string& version) {
+    return UnsavedFiles::knownToBoth(userFile(), version);
+}
+
 void acceptOutside(const Listbox& table, const UnsavedFiles::OutsideChange& change, bool saysTheSame) {
     UnsavedFiles::acceptOutside(userFile(), change, textOf(table), saysTheSame);
 }

@@ -21,9 +21,10 @@ void Window1::bringInChanges() {
     tellOf(joined);
 }
 
-/// What both sides had before is not known: days and readings of both stay, and nothing is taken away.
+/// What both sides had before is not known for sure: nothing is taken away.
 void Window1::bringIn(const ConflictCopies::Copy& copy) {
-    const DayMerge::Result joined = DayMerge::join("", DayMerge::daysOf(ListBox1), copy.content);
+    const DayMerge::Result joined =
+        DayMerge::joinVersion(DayTable::knownToBoth(copy.content), DayMerge::daysOf(ListBox1), copy.content);
     show(joined);
     saveData(); // before the copy is out of sight
     ConflictCopies::putAway(copy);

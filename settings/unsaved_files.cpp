@@ -1,6 +1,7 @@
 #include "settings/unsaved_files.h"
 
 #include <algorithm>
+#include <deque>
 #include <map>
 
 #include "platform/base/date.h"
@@ -22,6 +23,8 @@ struct Known {
     bool wasAbsent = false; // nothing stood at its place
     bool hasChangedHere = false; // since the start
     bool saysTheSame = false; // the text says what stands there, if in another form
+    std::deque<std::string> broughtIn; // of other programs, the last ones
+    std::string beforeLast; // what stood there before the last of these
 };
 
 struct State {
@@ -80,6 +83,14 @@ std::string listOf(const std::vector<Unsaved>& files) {
     return list.text();
 }
 
+void noteSaved(Known& known, const std::string& text, bool hasChangedHere) {
+    known.text = text;
+    known.onDisk = text;
+    known.wasAbsent = false;
+    known.hasChangedHere = hasChangedHere;
+    known.saysTheSame = false;
+}
+
 bool saveNow(const UserFile& file, const std::string& text) {
     const Known* known = knownOf(file);
     const bool hasChanged = known == nullptr || known->text != text;
@@ -107,7 +118,7 @@ bool saveNow(const UserFile& file, const std::string& text) {
         else
             forget(file);
         if (!why)
-            state().known[keyOf(file)] = {text, text, false, hasChangedHere};
+            noteSaved(state().known[keyOf(file)], text, hasChangedHere);
         return !why;
     } catch (const IOException& failure) {
         if (isLost)
@@ -131,8 +142,13 @@ UserFile UserFile::ofInnerFolder(std::string what, std::string_view name) {
 }
 
 void setBaseline(const UserFile& file, const std::string& text) {
-    if (waitingFor(keyOf(file)) == state().waiting.end()) // an unsaved text is not the baseline: the disk lacks it
-        state().known[keyOf(file)] = {text, contentAt(file.place), file.place && !file.place->Exists()};
+    if (waitingFor(keyOf(file)) != state().waiting.end()) // an unsaved text is not the baseline: the disk lacks it
+        return;
+    Known read;
+    read.text = text;
+    read.onDisk = contentAt(file.place);
+    read.wasAbsent = file.place && !file.place->Exists();
+    state().known[keyOf(file)] = std::move(read);
 }
 
 std::optional<OutsideChange> changedOutside(const UserFile& file) {
@@ -152,6 +168,21 @@ void acceptOutside(const UserFile& file, const OutsideChange& change, const std:
     known.text = saysTheSame ? text : change.there;
     known.onDisk = change.there;
     known.saysTheSame = saysTheSame;
+    constexpr std::size_t most = 3;
+    known.broughtIn.push_back(change.there);
+    if (known.broughtIn.size() > most)
+        known.broughtIn.pop_front();
+    known.beforeLast = change.base;
+}
+
+std::vector<std::string> knownToBoth(const UserFile& file, const std::string& version) {
+    const Known* known = knownOf(file);
+    if (known == nullptr)
+        return {};
+    std::vector<std::string> texts(known->broughtIn.begin(), known->broughtIn.end());
+    if (!texts.empty() && version == known->beforeLast)
+        texts.pop_back();
+    return texts;
 }
 
 std::optional<std::string> joinOutside(const UserFile& file, const std::string& text, const Join& join) {

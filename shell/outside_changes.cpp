@@ -14,10 +14,16 @@ void OutsideChanges::watch() {
     if (path.empty())
         return;
     bringIn();
-    watch_ = FileWatches::current().start(path, [this] {
-        if (window_.isOpen() && window_.ListBox1.openRow() < 0) // not under the user's fingers
-            bringIn();
-    });
+    window_.OutsideTimer.Action = [this] { look(); };
+    watch_ = FileWatches::current().start(path, [this] { look(); });
+}
+
+/// Nothing changes under the user's fingers: while a cell is open it waits.
+void OutsideChanges::look() {
+    const bool isTyping = window_.isOpen() && window_.ListBox1.openRow() >= 0;
+    window_.OutsideTimer.Mode(isTyping ? Timer::ModeMultiple : Timer::ModeOff);
+    if (window_.isOpen() && !isTyping)
+        bringIn();
 }
 
 void OutsideChanges::bringIn() {

@@ -19,6 +19,7 @@ public:
     void watch();
 
 private:
+    void look();
     void bringIn();
     void offerConflictCopy();
 

@@ -44,6 +44,54 @@ protected:
     }
 };
 
+TEST_F(DayMergeTest, AVersionTakesNothingAwayAndItsCorrectionsCount) {
+    struct Row {
+        const char* name;
+        std::vector<Texts> known;
+        Texts here, there, want;
+        std::size_t conflicts;
+    };
+    const std::vector<Row> rows{
+        {"nothing is known", {}, {"1 5", "2 6"}, {"1 7", "3 8"}, {"1 5", "2 6", "3 8"}, 1},
+        {"corrected there", {{"1 5"}}, {"1 5"}, {"1 7"}, {"1 7"}, 0},
+        {"corrected here", {{"1 5"}}, {"1 7"}, {"1 5"}, {"1 7"}, 0},
+        {"corrected on both sides", {{"1 5"}}, {"1 7"}, {"1 8"}, {"1 7"}, 1},
+        {"both were known, one after the other", {{"1 5"}, {"1 7"}}, {"1 7"}, {"1 5"}, {"1 7"}, 1},
+        {"emptied there", {{"1 5 6"}}, {"1 5 6"}, {"1 5"}, {"1 5 6"}, 0},
+        {"emptied here", {{"1 5 6"}}, {"1 5"}, {"1 5 6"}, {"1 5 6"}, 0},
+        {"a day that is away there", {{"1 5", "2 6"}}, {"1 5", "2 6"}, {"1 5"}, {"1 5", "2 6"}, 0},
+    };
+    for (const auto& [name, known, here, there, want, conflicts] : rows) {
+        SCOPED_TRACE(name);
+        Texts files;
+        for (const Texts& days : known)
+            files.push_back(file(days));
+        const DayMerge::Result joined = DayMerge::joinVersion(files, DayMerge::daysIn(file(here)), file(there));
+        EXPECT_EQ(shown(joined.days), want);
+        EXPECT_EQ(joined.conflicts.size(), conflicts);
+    }
+}
+
+TEST_F(DayMergeTest, WhatAVersionStemsFromIsWhatCameFromOutside) {
+    const auto days = UnsavedFiles::UserFile::ofApplication("Your days", DataFiles::dayTable);
+    makeApplicationFolder();
+    const auto arrives = [&](const std::string& text) {
+        write(applicationFile("7VXData"), text);
+        const auto change = UnsavedFiles::changedOutside(days);
+        ASSERT_TRUE(change);
+        UnsavedFiles::acceptOutside(days, *change, text, true);
+    };
+    write(applicationFile("7VXData"), "loaded\n");
+    UnsavedFiles::setBaseline(days, "loaded\n");
+    EXPECT_EQ(UnsavedFiles::knownToBoth(days, "version\n"), Texts()) << "what was loaded may be nobody else's";
+    arrives("first\n");
+    EXPECT_TRUE(UnsavedFiles::save(days, "mine\n"));
+    EXPECT_EQ(UnsavedFiles::knownToBoth(days, "version\n"), Texts{"first\n"});
+    arrives("second\n");
+    EXPECT_EQ(UnsavedFiles::knownToBoth(days, "version\n"), (Texts{"first\n", "second\n"}));
+    EXPECT_EQ(UnsavedFiles::knownToBoth(days, "mine\n"), Texts{"first\n"}) << "its writer did not know the second";
+}
+
 TEST_F(DayMergeTest, WhatOneSideHasChangedIsTaken) {
     struct Row {
         const char* name;
