@@ -141,7 +141,7 @@ std::optional<GTGraph::Hit> GTGraph::pointAt(double x, double y, double reach) c
     std::optional<Hit> hit;
     for (int i = 0; i < count(); ++i) {
         const GTSeries& series = *mySeries[static_cast<std::size_t>(i)];
-        if (series.Type() > GTSeries::scatter)
+        if (series.Type() > GTSeries::scatter || !series.isPointable)
             continue;
         const auto nearest = series.nearestPoint(x - plot_.left, y - plot_.top, plot_.width, plot_.height);
         if (nearest && nearest->distance <= reach) {

@@ -33,6 +33,9 @@ void renderHatching(Graphics& g, const GTHatching& hatching, double x, double y,
         renderSlanting(g, true, x, y, width, height, step);
     if (hatching.lines == falling || hatching.lines == crossed)
         renderSlanting(g, false, x, y, width, height, step);
+    if (hatching.lines == level)
+        for (double line = step / 2; line < height; line += step / 2)
+            g.DrawLine(x, y + line, x + width, y + line);
 }
 
 } // namespace tallyvane

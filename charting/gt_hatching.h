@@ -4,9 +4,9 @@
 
 namespace tallyvane {
 
-/// Slanting lines over a piece of a column or bar, so that pieces are told apart without their colours.
+/// Lines over a piece of a column or bar, so that pieces are told apart without their colours.
 struct GTHatching {
-    enum class Lines { none, rising, falling, crossed };
+    enum class Lines { none, rising, falling, crossed, level };
 
     Lines lines = Lines::none;
     Color color = RGB(0, 0, 0);

@@ -95,6 +95,8 @@ public:
     void GridPenSize(int points);
     /// Without a provider every piece of a column, bar or pie has a random colour of its own at each drawing.
     void colorTable(std::shared_ptr<GTColorTableProvider> provider) { myColorTableProvider = std::move(provider); }
+    /// Whether GTGraph::pointAt finds its points.
+    bool isPointable = true;
     /// The mark at each point of lines, areas and scattered points, in place of the plot symbol and as large.
     GTMark mark = GTMark::none;
     bool marksAreHollow = false;

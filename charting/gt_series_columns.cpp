@@ -68,7 +68,8 @@ void GTSeries::renderPiece(Graphics& g, int index, double x, double y, double w,
     g.FillRect(x, y, w, h);
     constexpr double hatchStep = 5; // points
     if (hatching)
-        renderHatching(g, hatching(index), x, y, w, h, hatchStep * scale());
+        renderHatching(g, hatching(index), x, y, w - 2 * scale(), h - 2 * scale(),
+                       hatchStep * scale()); // pens hang over
     g.ForeColor(myPenColor);
     g.DrawRect(x, y, w, h);
 }

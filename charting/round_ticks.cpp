@@ -1,5 +1,6 @@
 #include "charting/round_ticks.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -8,7 +9,10 @@ namespace tallyvane {
 RoundTicks roundTicks(Extent extent, int mostSteps) {
     constexpr std::array<double, 5> roundSteps{1, 2, 2.5, 5, 10};
     if (!(extent.high > extent.low))
-        extent.high = extent.low + 1;
+        extent.high = extent.low + std::max(1.0, std::abs(extent.low) / mostSteps);
+    constexpr double longest = 1e300;
+    if (!(extent.high - extent.low < longest))
+        return {{0, 1}, 1};
     double power = std::pow(10, std::floor(std::log10((extent.high - extent.low) / mostSteps)));
     for (;; power *= 10)
         for (const double step : roundSteps) {

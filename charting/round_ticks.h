@@ -13,7 +13,8 @@ struct RoundTicks {
 };
 
 /// The narrowest range around the extent whose ticks stand 1, 2, 2.5 or 5 times a power of ten apart, at multiples of
-/// that, with `mostSteps` steps at most (2 or more). An extent without length is widened by 1 above.
+/// that, with `mostSteps` steps at most (2 or more). An extent without length is widened above, by 1 or, for large
+/// values, by a tenth. One that is not finite, or too long to be divided, gives 0 to 1.
 [[nodiscard]] RoundTicks roundTicks(Extent extent, int mostSteps);
 
 } // namespace tallyvane

@@ -12,8 +12,6 @@ namespace tallyvane::Finding {
 
 namespace {
 
-constexpr double secondsPerDay = 24 * 60 * 60;
-
 const std::string& keyOf(const Listbox& table, int row) { return table.Cell(row, DayTable::firstKey); }
 
 std::optional<Date> dateOf(const Listbox& table, int row) { return ParseDate(table.Cell(row, DayTable::dateColumn)); }
@@ -28,10 +26,6 @@ struct KeyRange {
     bool hold(const std::string& key) const { return key >= first && key <= last; }
     static Date startOf(const Date& day) { return {day.Year(), day.Month(), day.Day()}; }
 };
-
-Date daysLater(const Date& day, int days) {
-    return Date::ofTotalSeconds(KeyRange::startOf(day).TotalSeconds() + days * secondsPerDay);
-}
 
 } // namespace
 
@@ -97,20 +91,20 @@ std::vector<Date> daysIn(const Listbox& table, const Period& period) {
     return days;
 }
 
-Period lastDays(int days, const Date& today) { return {daysLater(today, 1 - days), KeyRange::startOf(today)}; }
+Period lastDays(int days, const Date& today) { return {daysAfter(today, 1 - days), KeyRange::startOf(today)}; }
 
 Period monthOf(const Date& day) {
     const Date first(day.Year(), day.Month(), 1);
-    const Date inNext = daysLater(first, 31);
-    return {first, daysLater(Date(inNext.Year(), inNext.Month(), 1), -1)};
+    const Date inNext = daysAfter(first, 31);
+    return {first, daysAfter(Date(inNext.Year(), inNext.Month(), 1), -1)};
 }
 
 Period weeksAround(const Date& month) {
     constexpr int week = 7;
     const Date first = monthOf(month).first;
-    return {daysLater(first, -week), daysLater(first, 6 * week)};
+    return {daysAfter(first, -week), daysAfter(first, 6 * week)};
 }
 
-Period monthBefore(const Date& day) { return monthOf(daysLater(Date(day.Year(), day.Month(), 1), -1)); }
+Period monthBefore(const Date& day) { return monthOf(daysAfter(Date(day.Year(), day.Month(), 1), -1)); }
 
 } // namespace tallyvane::Finding

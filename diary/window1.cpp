@@ -144,6 +144,7 @@ void Window1::showHeadings(const Headings& headings) {
         labels[i]->Text(headings[i]);
     for (std::size_t i = headingGroups; i < headings.size(); ++i)
         ListBox1.Heading(static_cast<int>(i - headingGroups) + 1, headings[i]);
+    tellDaysChanged();
 }
 
 // Averages, keys, widths
@@ -155,8 +156,7 @@ void Window1::doAverages() {
     else
         fillStrip(averages_.sumsOfAll());
     notes_.update();
-    if (daysChanged)
-        daysChanged();
+    tellDaysChanged();
 }
 
 void Window1::doRowAverages() { averages_.updateRows(); }
@@ -183,6 +183,10 @@ std::optional<Picture> Window1::getLight(double value) const { return Indicators
 
 void Window1::doSortColumns() {
     SortKeys::rebuild(ListBox1);
+    tellDaysChanged();
+}
+
+void Window1::tellDaysChanged() {
     if (daysChanged)
         daysChanged();
 }
@@ -236,6 +240,7 @@ bool Window1::ListBox1_HeaderPressed(int column) {
         ListBox1.beginStep(tr("Sort by %1", {columnName(column)}));
     const bool isSorted = SortKeys::sortBy(ListBox1, column);
     notes_.update();
+    tellDaysChanged();
     ListBox1.SetFocus(); // undo is for the table now
     return isSorted;
 }
@@ -316,6 +321,7 @@ void Window1::Timer1_Action() {
         light->Visible(Globals::gShowIndicators);
     Refresh();
     notes_.update(); // the limits may be others
+    tellDaysChanged();
 }
 
 void Window1::MidnightTimer_Action() {
@@ -325,6 +331,7 @@ void Window1::MidnightTimer_Action() {
     if (CalendarControl1.SelectedDate().isoDate() == today_.isoDate())
         CalendarControl1.SelectedDate(now);
     today_ = now;
+    tellDaysChanged();
 }
 
 // Menus and toolbar

@@ -55,6 +55,7 @@ public:
     Timer Timer1; // applies the indicator switch
     Timer AutosaveTimer; // raises `autosave`
     Timer MidnightTimer; // lets the calendar follow the day
+    Timer OutsideTimer; // what other programs did waits for an open cell
 
     /// Details of one day, as getDetails left them.
     std::string theMeds;
@@ -70,7 +71,7 @@ public:
     std::function<void()> showGraph;
     std::function<void()> showSummary;
     std::function<void()> showHeadingsEditor;
-    /// The days, their order or the selection have changed.
+    /// The days, their order, the selection, the limits, the headings or the date have changed.
     std::function<void()> daysChanged;
     /// Brings up the dialog of the limits with these in it.
     std::function<void(const UsualLimits::Limits& limits)> offerLimits;
@@ -161,6 +162,7 @@ private:
     void layOut();
     void wire();
     void addDay();
+    void tellDaysChanged();
     void toggleResources();
     void graphSelectedDays();
     void showDaysAnew();

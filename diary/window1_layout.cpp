@@ -103,6 +103,7 @@ void Window1::layOut() {
         {&StripLine, {240, 318, 490, 26}},
         {&Timer1},
         {&AutosaveTimer},
+        {&OutsideTimer},
         {&MidnightTimer},
     });
 }
@@ -197,6 +198,8 @@ void Window1::build() {
     constexpr int halfAMinute = 30 * 1000;
     constexpr int fiveMinutes = 5 * 60 * 1000;
     AutosaveTimer.Period(fiveMinutes);
+    constexpr int halfASecond = 500;
+    OutsideTimer.Period(halfASecond);
     AutosaveTimer.Mode(Timer::ModeMultiple);
     MidnightTimer.Period(halfAMinute);
     MidnightTimer.Mode(Timer::ModeMultiple);

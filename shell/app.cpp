@@ -335,9 +335,13 @@ void App::Event_Deactivate() {
         if (windows_.logs && windows_.logs->isOpen())
             windows_.logs->saveChanged();
     };
+    const auto saveVisitTexts = [this] {
+        if (windows_.summary && windows_.summary->isOpen())
+            windows_.summary->saveTexts();
+    };
     std::exception_ptr failure;
     try {
-        saveEach({[this] { windows_.main->saveChanged(); }, saveOpenLogs});
+        saveEach({[this] { windows_.main->saveChanged(); }, saveOpenLogs, saveVisitTexts});
     } catch (const IOException&) {
         failure = std::current_exception();
     }

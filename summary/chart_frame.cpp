@@ -1,9 +1,11 @@
 #include "summary/chart_frame.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
 
+#include "platform/base/text.h"
 #include "settings/globals.h"
 
 namespace tallyvane::Summary {
@@ -25,7 +27,11 @@ private:
     std::vector<Tick> ticks_;
 };
 
-bool isWhole(double number) { return number == std::floor(number); }
+/// The mask for labels that are so far apart.
+std::string maskOf(double increment) {
+    const auto isWhole = [](double number) { return std::abs(number - std::round(number)) < 1e-6; };
+    return isWhole(increment) ? "-0" : isWhole(10 * increment) ? "-0.0" : "-0.00";
+}
 
 } // namespace
 
@@ -46,10 +52,16 @@ std::unique_ptr<GTGraph> framedGraph(const Extent& across, std::vector<Tick> tic
     frame->XAxis().labelsAreWhole = true;
     frame->XAxis().CustomFormatter(std::make_shared<TickTexts>(std::move(ticks)));
     frame->YAxis().tickIncrement(up.increment);
-    frame->YAxis().tickLabelFormat(isWhole(up.increment) ? "-0" : "-0.0");
+    frame->YAxis().tickLabelFormat(maskOf(up.increment));
     frame->YAxis().labelsAreCentred = true;
+    frame->isPointable = false;
     graph->addSeries(frame);
     return graph;
+}
+
+RoundTicks upTo(double highest) {
+    constexpr int mostSteps = 6;
+    return roundTicks({0, std::max(highest, Globals::gOver)}, mostSteps);
 }
 
 void addLimits(GTGraph& graph) {
@@ -59,13 +71,20 @@ void addLimits(GTGraph& graph) {
 }
 
 std::shared_ptr<GTSeries> addSeries(GTGraph& graph, int type, Color color) {
-    const std::shared_ptr<GTSeries> first = graph.Series(0);
     auto series = std::make_shared<GTSeries>(type);
     series->PenColor(color);
     series->XAxis().visible(false);
     series->YAxis().visible(false);
     graph.addSeries(series);
     return series;
+}
+
+void alignSeries(GTGraph& graph) {
+    const GTSeries& frame = *graph.Series(0);
+    for (int i = 1; i < graph.count(); ++i) {
+        graph.Series(i)->SetXRange(frame.XMin(), frame.XMax());
+        graph.Series(i)->SetYRange(frame.YMin(), frame.YMax());
+    }
 }
 
 PeriodMark markOf(int testPeriod) {
@@ -95,7 +114,7 @@ RangeFill fillOf(Ranges::Range range) {
     case Ranges::Range::under:
         break;
     }
-    return {RGB(88, 40, 132), {crossed, RGB(160, 125, 195)}, white};
+    return {RGB(88, 40, 132), {level, RGB(176, 145, 208)}, white};
 }
 
 void setChartFont(Graphics& g, bool isBold) {
@@ -103,6 +122,16 @@ void setChartFont(Graphics& g, bool isBold) {
     g.TextSize(chartTextSize);
     g.Bold(isBold);
     g.ForeColor(chartText);
+}
+
+std::string fitted(const Graphics& g, const std::string& text, double width) {
+    if (Len(text) < 2 || g.StringWidth(text) <= width)
+        return text;
+    int fits = 0;
+    for (int step = 64; step > 0; step /= 2) // nobody sees more of it
+        while (fits + step < Len(text) && g.StringWidth(Left(text, fits + step) + "...") <= width)
+            fits += step;
+    return Left(text, fits) + "...";
 }
 
 void drawCentred(Graphics& g, const std::string& text, double x, double baseline) {

@@ -26,11 +26,16 @@ using Tick = std::pair<double, std::string>;
 /// A graph whose first series has no data, but the axes: ticks across at these places, a vertical axis of round values.
 std::unique_ptr<GTGraph> framedGraph(const Extent& across, std::vector<Tick> ticks, const RoundTicks& up);
 
+/// From 0 to the highest reading, and to the limit of what is too high.
+RoundTicks upTo(double highest);
+
 /// The user's target zone as a band of the graph, and the limits of what is too high and too low as lines.
 void addLimits(GTGraph& graph);
 
-/// Adds a series without axes of its own, with the ranges of the first one.
+/// Adds a series without axes of its own.
 std::shared_ptr<GTSeries> addSeries(GTGraph& graph, int type, Color color);
+/// Gives all series the ranges of the axes, once they have their points.
+void alignSeries(GTGraph& graph);
 
 /// The mark of a test period: a shape for each meal, hollow after it.
 struct PeriodMark {
@@ -50,6 +55,8 @@ RangeFill fillOf(Ranges::Range range);
 
 /// Sets the font of the charts' texts.
 void setChartFont(Graphics& g, bool isBold = false);
+/// As much of a text as has room, with "..." where it is cut.
+[[nodiscard]] std::string fitted(const Graphics& g, const std::string& text, double width);
 /// A line of text with its middle at x.
 void drawCentred(Graphics& g, const std::string& text, double x, double baseline);
 

@@ -7,7 +7,6 @@
 #include "platform/base/number.h"
 #include "platform/base/translation.h"
 #include "platform/drawing/wrapped_text.h"
-#include "settings/globals.h"
 #include "summary/chart_frame.h"
 #include "summary/test_period_names.h"
 
@@ -42,7 +41,7 @@ double acrossAt(const GTGraph& graph, double place, std::size_t count) {
     return graph.plot().left + graph.plot().width * (place - 0.5) / static_cast<double>(count);
 }
 
-/// Boxes with the number of values above and the median beside each.
+/// Boxes with the number of values and their median above each.
 std::unique_ptr<GTGraph> drawBoxes(const Boxes& boxes, Unit unit, bool hasLimits, int roomBelow, Graphics& g) {
     std::vector<Tick> ticks;
     for (std::size_t i = 0; i < boxes.labels.size(); ++i)
@@ -57,29 +56,29 @@ std::unique_ptr<GTGraph> drawBoxes(const Boxes& boxes, Unit unit, bool hasLimits
     for (std::size_t i = 0; i < boxes.figures.size(); ++i)
         if (boxes.figures[i].count > 0)
             addBox(*series, static_cast<double>(i + 1), boxes.figures[i]);
-    series->SetXRange(0.5, count + 0.5);
-    series->SetYRange(boxes.up.range.low, boxes.up.range.high);
+    alignSeries(*graph);
     series->boxColor = boxFill;
     series->medianColor = medianLine;
     series->boxWidth = 22;
-    graph->marginTop = static_cast<int>(lineHeight);
+    graph->marginTop = static_cast<int>(2 * lineHeight);
     graph->marginRight = 12;
     graph->marginBottom = roomBelow;
     setChartFont(g);
     graph->Draw(g);
 
     setChartFont(g);
-    const Rect& plot = graph->plot();
-    const double unitHeight = plot.height / (boxes.up.range.high - boxes.up.range.low);
+    const double room = graph->plot().width / count - 2;
     for (std::size_t i = 0; i < boxes.figures.size(); ++i) {
         const Figures& figures = boxes.figures[i];
         const double x = acrossAt(*graph, static_cast<double>(i + 1), boxes.figures.size());
-        drawCentred(g, countText(figures.count), x, plot.top - 3);
+        setChartFont(g);
+        drawCentred(g, fitted(g, countText(figures.count), room), x, lineHeight - 3);
+        setChartFont(g, true);
+        g.ForeColor(medianLine);
         if (figures.count > 0)
-            g.DrawString(valueText(figures.median, unit), x + series->boxWidth / 2.0 + 2,
-                         plot.top + plot.height - (figures.median - boxes.up.range.low) * unitHeight +
-                             g.TextAscent() * 0.36);
+            drawCentred(g, valueText(figures.median, unit), x, 2 * lineHeight - 4);
     }
+    setChartFont(g);
     return graph;
 }
 
@@ -123,24 +122,25 @@ public:
 } // namespace
 
 void drawDay(const PeriodSummary& summary, Graphics& g) {
-    const TestPeriodNames names = testPeriodNames();
+    const TestPeriodNames& names = summary.names;
+    setChartFont(g);
     Boxes boxes;
-    boxes.up = roundTicks({0, std::max(summary.all().figures.highest, Globals::gOver)}, mostSteps);
+    boxes.up = upTo(summary.all().figures.highest);
     for (std::size_t i = 1; i <= testPeriods; ++i) {
         boxes.figures.push_back(summary.samples[i].figures);
-        boxes.labels.push_back(names.brief[i]);
+        boxes.labels.push_back(fitted(g, names.brief[i], g.Width() / (testPeriods + 1)));
     }
     const std::unique_ptr<GTGraph> graph = drawBoxes(boxes, summary.unit, true, static_cast<int>(lineHeight) - 8, g);
     const double baseline = graph->plot().top + graph->plot().height + axisToLabel + 2 * lineHeight - 2;
     for (std::size_t meal = 0; meal < names.meals.size(); ++meal)
-        drawCentred(g, names.meals[meal], acrossAt(*graph, 2.0 * static_cast<double>(meal) + 1.5, testPeriods),
-                    baseline);
+        drawCentred(g, fitted(g, names.meals[meal], 2.0 * graph->plot().width / testPeriods),
+                    acrossAt(*graph, 2.0 * static_cast<double>(meal) + 1.5, testPeriods), baseline);
 }
 
 void drawShares(const PeriodSummary& summary, Graphics& g) {
     constexpr double percent = 100;
     constexpr double leastForText = 9; // percent that hold the text of one
-    const TestPeriodNames names = testPeriodNames();
+    const TestPeriodNames& names = summary.names;
     const RoundTicks rows{{0, 2.0 * testPeriods}, 1};
     const std::vector<Tick> ticks{{0, "0 %"}, {25, "25 %"}, {50, "50 %"}, {75, "75 %"}, {100, "100 %"}};
     std::unique_ptr<GTGraph> graph = framedGraph({0, percent}, ticks, rows);
@@ -155,12 +155,12 @@ void drawShares(const PeriodSummary& summary, Graphics& g) {
             point->extraXValue(sample.inRange.at(static_cast<std::size_t>(RangeColors::rangeAt(piece))));
         bars->AddDataPoint(std::move(point));
     }
-    bars->SetXRange(0, percent);
-    bars->SetYRange(0, rows.range.high);
+    alignSeries(*graph);
     setChartFont(g);
     double widest = 0;
-    for (const std::string& name : names.title)
-        widest = std::max(widest, g.StringWidth(name));
+    for (std::size_t i = 1; i <= testPeriods; ++i)
+        widest = std::max(widest, g.StringWidth(names.title[i]));
+    widest = std::min(widest, g.Width() / 3);
     graph->marginLeft = static_cast<int>(widest) + 8;
     graph->marginRight = 16;
     graph->marginBottom = static_cast<int>(lineHeight) + 2;
@@ -173,7 +173,8 @@ void drawShares(const PeriodSummary& summary, Graphics& g) {
         const double baseline =
             plot.top + plot.height * (2.0 * static_cast<double>(i) - 1) / rows.range.high + g.TextAscent() * 0.36;
         g.ForeColor(chartText);
-        g.DrawString(names.title[i], plot.left - 6 - g.StringWidth(names.title[i]), baseline);
+        const std::string name = fitted(g, names.title[i], widest);
+        g.DrawString(name, plot.left - 6 - g.StringWidth(name), baseline);
         double before = 0;
         for (int piece = 0; piece < static_cast<int>(Ranges::all.size()); ++piece) {
             const Ranges::Range range = RangeColors::rangeAt(piece);
@@ -191,17 +192,28 @@ void drawShares(const PeriodSummary& summary, Graphics& g) {
 std::vector<double> risesAt(const PeriodSummary& summary, int meal) {
     std::vector<double> rises;
     const Reading* before = nullptr;
+    const Reading* after = nullptr;
+    const auto endDay = [&] {
+        if (before != nullptr && after != nullptr)
+            rises.push_back(after->value - before->value);
+        before = after = nullptr;
+    };
+    const Reading* last = nullptr;
     for (const Reading& reading : summary.readings.readings) {
-        if (reading.testPeriod == 2 * meal + 1)
+        if (last != nullptr && !isOfOneDay(*last, reading))
+            endDay();
+        last = &reading;
+        if (reading.testPeriod == 2 * meal + 1 && before == nullptr)
             before = &reading;
-        else if (reading.testPeriod == 2 * meal + 2 && before != nullptr && before->row == reading.row)
-            rises.push_back(reading.value - before->value);
+        if (reading.testPeriod == 2 * meal + 2 && after == nullptr)
+            after = &reading;
     }
+    endDay();
     return rises;
 }
 
 void drawRises(const PeriodSummary& summary, Graphics& g) {
-    const TestPeriodNames names = testPeriodNames();
+    const TestPeriodNames& names = summary.names;
     Boxes boxes;
     Extent extent{0, 0};
     for (int meal = 0; meal < static_cast<int>(names.meals.size()); ++meal) {
@@ -209,6 +221,8 @@ void drawRises(const PeriodSummary& summary, Graphics& g) {
         boxes.labels.push_back(names.meals[static_cast<std::size_t>(meal)]);
         extent = {std::min(extent.low, figures.lowest), std::max(extent.high, figures.highest)};
     }
+    if (!names.areUsual)
+        return;
     if (std::all_of(boxes.figures.begin(), boxes.figures.end(), [](const Figures& f) { return f.count == 0; })) {
         setChartFont(g);
         DrawString(g, tr("No day has readings both before and after a meal."), 4, 4 * lineHeight, g.Width() - 8);

@@ -13,7 +13,8 @@ void drawDay(const PeriodSummary& summary, Graphics& g);
 /// Of each test period the shares of the five ranges, as a bar.
 void drawShares(const PeriodSummary& summary, Graphics& g);
 
-/// Of each meal the rise from before to after it, on the days that have both readings.
+/// Of each meal the rise from before to after it, on the days that have both readings. Nothing where the columns have
+/// other names, since they may be no such times.
 void drawRises(const PeriodSummary& summary, Graphics& g);
 
 /// The rises at a meal (0 breakfast, 1 lunch, 2 supper), in the order of the days.

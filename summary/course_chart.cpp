@@ -3,17 +3,16 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <iterator>
 
 #include "platform/base/translation.h"
 #include "platform/drawing/wrapped_text.h"
-#include "settings/globals.h"
-#include "summary/test_period_names.h"
 
 namespace tallyvane::Summary {
 
 namespace {
 
-constexpr double secondsPerDay = 24 * 60 * 60;
+constexpr double halfADay = 12 * 60 * 60; // seconds
 constexpr int daysOfMedian = 7;
 constexpr int markSize = 6; // points
 constexpr int smallMark = 4;
@@ -21,12 +20,10 @@ constexpr int manyReadings = 150;
 constexpr double legendLine = 16;
 constexpr double toText = 8; // from the middle of a mark to its name
 
-Date daysLater(const Date& day, int days) { return Date::ofTotalSeconds(day.TotalSeconds() + days * secondsPerDay); }
-
 /// Days a week or some weeks apart, up to the last.
 std::vector<Tick> weekTicks(const Finding::Period& period, int weeks) {
     std::vector<Tick> ticks;
-    for (Date day = period.second; day.TotalSeconds() >= period.first.TotalSeconds(); day = daysLater(day, -7 * weeks))
+    for (Date day = period.second; day.TotalSeconds() >= period.first.TotalSeconds(); day = daysAfter(day, -7 * weeks))
         ticks.emplace_back(day.TotalSeconds(), day.MonthAndDay());
     return ticks;
 }
@@ -46,7 +43,7 @@ std::vector<Tick> monthTicks(const Finding::Period& period, int months) {
 std::vector<Tick> dateTicks(const Finding::Period& period) {
     constexpr int most = 7;
     constexpr int daysByWeeks = 120;
-    const int days = static_cast<int>((period.second.TotalSeconds() - period.first.TotalSeconds()) / secondsPerDay) + 1;
+    const int days = daysBetween(period.first, period.second) + 1;
     if (days <= daysByWeeks)
         return weekTicks(period, days / (7 * most) + 1);
     constexpr double daysOfMonth = 30.4;
@@ -59,31 +56,22 @@ std::vector<Tick> dateTicks(const Finding::Period& period) {
 }
 
 Extent acrossOf(const Finding::Period& period) {
-    return {period.first.TotalSeconds() - secondsPerDay / 2, period.second.TotalSeconds() + secondsPerDay / 2};
-}
-
-/// From 0 to the highest reading, and to the limit of what is too high.
-RoundTicks upOf(const PeriodSummary& summary) {
-    constexpr int mostSteps = 6;
-    return roundTicks({0, std::max(summary.all().figures.highest, Globals::gOver)}, mostSteps);
+    return {period.first.TotalSeconds() - halfADay, period.second.TotalSeconds() + halfADay};
 }
 
 } // namespace
 
-CourseChart::CourseChart(const PeriodSummary& summary) {
+CourseChart::CourseChart(const PeriodSummary& summary) : names_(summary.names.title) {
     if (!summary.days)
         return;
-    graph_ = framedGraph(acrossOf(*summary.days), dateTicks(*summary.days), upOf(summary));
+    graph_ = framedGraph(acrossOf(*summary.days), dateTicks(*summary.days), upTo(summary.all().figures.highest));
     addLimits(*graph_);
     readings_.emplace_back();
     for (int testPeriod = 1; testPeriod <= testPeriods; ++testPeriod)
         if (summary.samples[static_cast<std::size_t>(testPeriod)].figures.count > 0)
             addReadings(summary, testPeriod);
     addMedian(summary);
-    for (int i = 1; i < graph_->count(); ++i) {
-        graph_->Series(i)->SetXRange(graph_->Series(0)->XMin(), graph_->Series(0)->XMax());
-        graph_->Series(i)->SetYRange(graph_->Series(0)->YMin(), graph_->Series(0)->YMax());
-    }
+    alignSeries(*graph_);
     graph_->marginRight = 10;
 }
 
@@ -102,27 +90,31 @@ void CourseChart::addReadings(const PeriodSummary& summary, int testPeriod) {
         }
 }
 
-/// Where seven days lie behind a day: the readings of fewer would jump with each of them.
+/// Where seven days lie behind a day, with some readings: the median of fewer would jump with each of them. The line
+/// breaks where a week has none.
 void CourseChart::addMedian(const PeriodSummary& summary) {
+    constexpr std::ptrdiff_t fewest = 3;
     const std::vector<Reading>& all = summary.readings.readings;
-    const auto series = addSeries(*graph_, GTSeries::line, medianLine);
-    series->PenSize(2);
-    const auto isDated = [](const Reading& reading) { return reading.day.has_value(); };
-    auto from = std::find_if(all.begin(), all.end(), isDated);
-    const auto begin = from;
-    for (auto to = from; to != all.end();) {
+    std::shared_ptr<GTSeries> line;
+    auto from = all.begin();
+    for (auto to = all.begin(); to != all.end();) {
         const Date day = *to->day;
+        const bool isAfterGap = to != all.begin() && daysBetween(*std::prev(to)->day, day) > daysOfMedian;
         to = std::find_if(to, all.end(), [&](const Reading& reading) { return reading.day != day; });
-        const double earliest = day.TotalSeconds() - (daysOfMedian - 1) * secondsPerDay;
-        while (from->day->TotalSeconds() < earliest)
+        while (daysBetween(*from->day, day) >= daysOfMedian)
             ++from;
-        if (begin->day->TotalSeconds() > earliest)
+        if (daysBetween(*all.front().day, day) < daysOfMedian - 1 || to - from < fewest)
             continue;
+        if (!line || isAfterGap) {
+            line = addSeries(*graph_, GTSeries::line, medianLine);
+            line->PenSize(2);
+            line->isPointable = false;
+        }
         std::vector<double> values;
         std::transform(from, to, std::back_inserter(values), [](const Reading& reading) { return reading.value; });
-        series->AddDataValue(day.TotalSeconds(), medianOf(std::move(values)));
+        line->AddDataValue(day.TotalSeconds(), medianOf(std::move(values)));
+        hasMedian_ = true;
     }
-    hasMedian_ = series->Count() > 1;
 }
 
 void CourseChart::draw(Graphics& g) {
@@ -142,7 +134,6 @@ void CourseChart::draw(Graphics& g) {
 std::vector<CourseChart::LegendPart> CourseChart::legendOn(const Graphics& g) const {
     constexpr double left = 10;
     constexpr double gap = 14;
-    const TestPeriodNames names = testPeriodNames();
     std::vector<LegendPart> legend;
     double x = left;
     double y = 0;
@@ -156,7 +147,7 @@ std::vector<CourseChart::LegendPart> CourseChart::legendOn(const Graphics& g) co
         x += width + gap;
     };
     for (const int testPeriod : shown_)
-        add(testPeriod, names.title[static_cast<std::size_t>(testPeriod)]);
+        add(testPeriod, names_[static_cast<std::size_t>(testPeriod)]);
     add(0, hasMedian_ ? tr("median of 7 days") : "");
     return legend;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <memory>
 #include <optional>
 #include <string>
@@ -38,6 +39,7 @@ private:
     std::vector<std::vector<Reading>> readings_; // of each series of the graph, in the order of its points
     std::vector<int> shown_; // the test periods that have readings
     bool hasMedian_ = false;
+    std::array<std::string, testPeriods + 1> names_;
 };
 
 } // namespace tallyvane::Summary

@@ -1,8 +1,6 @@
 #include "summary/day_pages.h"
 
 #include <algorithm>
-#include <array>
-#include <cmath>
 #include <cstddef>
 
 #include "diary/day_table.h"
@@ -10,7 +8,6 @@
 #include "platform/base/translation.h"
 #include "summary/chart_frame.h"
 #include "summary/figures_table.h"
-#include "summary/test_period_names.h"
 
 namespace tallyvane::Summary {
 
@@ -28,9 +25,8 @@ constexpr Color rule = RGB(190, 190, 190);
 constexpr Color weekendGround = RGB(236, 236, 236);
 
 bool isWeekend(const Date& day) {
-    constexpr double secondsPerDay = 24 * 60 * 60;
     constexpr int saturday = 5; // the first day of year 1 was a Monday
-    return static_cast<long>(day.TotalSeconds() / secondsPerDay) % 7 >= saturday;
+    return daysBetween(Date(1, 1, 1), day) % 7 >= saturday;
 }
 
 /// Arrows tell a range without colours: up for high, down for low, two for too high and too low.
@@ -69,10 +65,11 @@ public:
         g_.DrawString(tr("Days"), 0, 16);
         font(9, grey);
         g_.DrawString(periodWords(summary) + "  \u00b7  " + tr("all values in %1", {nameOf(summary.unit)}), 46, 16);
-        const TestPeriodNames names = testPeriodNames();
+        const TestPeriodNames& names = summary.names;
         font(9, black, true);
         for (std::size_t meal = 0; meal < names.meals.size(); ++meal)
-            drawCentred(g_, names.meals[meal], dateWidth + (2.0 * static_cast<double>(meal) + 1) * column_, 38);
+            drawCentred(g_, fitted(g_, names.meals[meal], 2 * column_ - 4),
+                        dateWidth + (2.0 * static_cast<double>(meal) + 1) * column_, 38);
         for (int testPeriod = 1; testPeriod <= testPeriods; ++testPeriod)
             cell(testPeriod, names.brief[static_cast<std::size_t>(testPeriod)], "", 52);
         cell(DayTable::averageColumn, tr("average"), "", 52);
@@ -101,7 +98,7 @@ public:
         g_.DrawString(tr("Mean of the period"), 2, baseline);
         for (int testPeriod = 1; testPeriod <= testPeriods; ++testPeriod)
             mean(testPeriod, summary.samples[static_cast<std::size_t>(testPeriod)], summary.unit, baseline);
-        mean(DayTable::averageColumn, summary.all(), summary.unit, baseline);
+        mean(DayTable::averageColumn, summary.all(), summary.unit, baseline); // of all readings
         font(7.5, grey);
         const std::string number = tr("%1 of %2", {Grouped(page), Grouped(pages)});
         g_.DrawString(tr("\u25b2 high, \u25b2\u25b2 too high, \u25bc low, \u25bc\u25bc too low; weekends on grey"), 0,
@@ -112,7 +109,8 @@ public:
 private:
     void cell(int column, const std::string& text, const std::string& arrows, double baseline) {
         const double right = dateWidth + column * column_ - 14;
-        g_.DrawString(text, right - g_.StringWidth(text), baseline);
+        const std::string shown = fitted(g_, text, column_ - 16);
+        g_.DrawString(shown, right - g_.StringWidth(shown), baseline);
         g_.DrawString(arrows, right + 1, baseline);
     }
     void mean(int column, const Sample& sample, Unit unit, double baseline) {

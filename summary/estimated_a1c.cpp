@@ -21,8 +21,9 @@ bool isEnoughForA1c(const Spread& spread) {
     const auto wellMeasured = std::count_if(spread.readings.begin(), spread.readings.end(),
                                             [all](int readings) { return readings > 0 && 10 * readings >= all; });
     const int most = *std::max_element(spread.readings.begin(), spread.readings.end());
-    return spread.daysOfPeriod >= fewestDays && spread.daysWithReadings >= daysAWeek * weeks &&
-           all >= readingsAWeek * weeks && wellMeasured >= testPeriods && 2 * most <= all;
+    return spread.daysOfPeriod >= fewestDays && spread.daysOfPeriod <= mostDaysForA1c && spread.longestGap < week &&
+           spread.daysWithReadings >= daysAWeek * weeks && all >= readingsAWeek * weeks &&
+           wellMeasured >= testPeriods && 2 * most <= all;
 }
 
 } // namespace tallyvane::Summary

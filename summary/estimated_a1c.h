@@ -20,13 +20,17 @@ struct Spread {
     int daysOfPeriod = 0;
     int daysWithReadings = 0;
     std::array<int, 7> readings{}; // of each test period
+    int longestGap = 0; // days without readings, one after the other
 };
 
+/// HbA1c tells of the life of a red cell: of a longer period there is none.
+inline constexpr int mostDaysForA1c = 120;
+
 /// Whether there are enough of them for an estimate. The people of that study measured seven times on three days of
-/// each week, 21 times a week. Here two thirds of that are asked for, 14 a week, on three days a week, over 14 days or
-/// more; and three test periods with a tenth of them each, none with more than half. Fourteen days are what the
-/// consensus on continuous measuring takes for the least that tells of three months (Battelino and others, Diabetes
-/// Care 2019; 42: 1593).
+/// each week, 21 times a week. Here two thirds of that are asked for, 14 a week, on three days a week, with no more
+/// than a week between two days, over 14 to 120 days; and three test periods with a tenth of them each, none with more
+/// than half. Fourteen days are what the consensus on continuous measuring takes for the least that tells of three
+/// months (Battelino and others, Diabetes Care 2019; 42: 1593).
 [[nodiscard]] bool isEnoughForA1c(const Spread& spread);
 
 } // namespace tallyvane::Summary

@@ -6,7 +6,6 @@
 #include "platform/base/text.h"
 #include "platform/base/translation.h"
 #include "settings/globals.h"
-#include "summary/test_period_names.h"
 
 namespace tallyvane::Summary {
 
@@ -14,9 +13,32 @@ namespace {
 
 constexpr double percent = 100;
 
-/// "31 %", with a blank that breaks no line.
-/// "31 %", with a blank that breaks no line.
-std::string share(int count, int all) { return (all == 0 ? "0" : Format(percent * count / all, "0")) + "\u00a0%"; }
+/// "31 %", with a blank that breaks no line. Only none is 0 and only all is 100.
+std::string share(int count, int all) {
+    const std::string unit = "\u00a0%";
+    if (count > 0 && percent * count < 0.5 * all)
+        return "<1" + unit;
+    if (count < all && percent * count >= 99.5 * all)
+        return ">99" + unit;
+    return (all == 0 ? "0" : Format(percent * count / all, "0")) + unit;
+}
+
+/// Day and month in the short form of the desktop: "6/10".
+std::string dayAndMonth(const Date& day) {
+    std::string text = day.ShortDate();
+    const std::size_t year = text.find(std::to_string(day.Year()));
+    if (year == std::string::npos)
+        return text;
+    constexpr std::size_t digits = 4;
+    text.erase(year == 0 ? 0 : year - 1, digits + 1);
+    return text;
+}
+
+std::string valueOn(const std::optional<Reading>& reading, Unit unit) {
+    if (!reading)
+        return "\u2013";
+    return valueText(reading->value, unit) + (reading->day ? " \u00b7 " + dayAndMonth(*reading->day) : "");
+}
 
 TableRow rowOf(const std::string& name, const Sample& sample, Unit unit) {
     const std::string none = "\u2013";
@@ -30,26 +52,26 @@ TableRow rowOf(const std::string& name, const Sample& sample, Unit unit) {
                  value(figures.median),
                  figures.deviation ? valueText(*figures.deviation, unit) : none,
                  variation ? Format(*variation * percent, "0") + "\u00a0%" : none,
-                 value(figures.lowest),
-                 value(figures.highest)};
+                 valueOn(sample.lowest, unit),
+                 valueOn(sample.highest, unit)};
     for (auto range = sample.inRange.rbegin(); range != sample.inRange.rend(); ++range)
         row.push_back(figures.count > 0 ? Grouped(*range) + " \u00b7 " + share(*range, figures.count) : none);
     return row;
 }
 
-std::string withUnit(double value, Unit unit) { return valueText(value, unit) + " " + nameOf(unit); }
-
 std::string fromTo(double from, double to, Unit unit) {
-    return tr("%1 to %2", {valueText(from, unit), withUnit(to, unit)});
+    return tr("%1 to %2", {valueText(from, unit), valueWithUnit(to, unit)});
 }
 
 KeyFigure estimatedA1c(const PeriodSummary& summary) {
     const std::string estimate = tr("estimated from finger-stick readings, no laboratory value");
     if (!summary.a1c)
-        return {tr("Estimated HbA1c"), tr("not enough readings"), estimate};
-    return {tr("Estimated HbA1c"),
-            tr("%1 % (%2 mmol/mol)", {Format(summary.a1c->percent, "0.0"), Format(summary.a1c->mmolPerMol, "0")}),
-            estimate};
+        return {tr("Estimated HbA1c"),
+                summary.dayCount > mostDaysForA1c ? tr("period too long") : tr("not enough readings"), estimate};
+    return {
+        tr("Estimated HbA1c"),
+        tr("%1\u00a0% (%2\u00a0mmol/mol)", {Format(summary.a1c->percent, "0.0"), Format(summary.a1c->mmolPerMol, "0")}),
+        estimate};
 }
 
 std::string csvField(const std::string& text) {
@@ -64,14 +86,17 @@ std::string csvLine(const TableRow& fields) {
     return line + "\r\n";
 }
 
-TableRow csvRow(const std::string& name, const Sample& sample, Unit unit) {
+TableRow csvRow(const PeriodSummary& summary, std::size_t testPeriod) {
+    const Sample& sample = summary.samples[testPeriod];
     const Figures& figures = sample.figures;
     const auto number = [&](double figure) { return figures.count > 0 ? Str(figure) : std::string(); };
     const auto dayOf = [](const std::optional<Reading>& reading) {
         return reading && reading->day ? reading->day->isoDate() : std::string();
     };
-    TableRow row{name,
-                 nameOf(unit),
+    TableRow row{summary.names.title[testPeriod],
+                 summary.days ? summary.days->first.isoDate() : "",
+                 summary.days ? summary.days->second.isoDate() : "",
+                 nameOf(summary.unit),
                  Str(figures.count),
                  Str(sample.days),
                  number(figures.mean),
@@ -84,6 +109,15 @@ TableRow csvRow(const std::string& name, const Sample& sample, Unit unit) {
                  dayOf(sample.highest)};
     for (auto range = sample.inRange.rbegin(); range != sample.inRange.rend(); ++range)
         row.push_back(Str(*range));
+    if (testPeriod == 0) {
+        const std::vector<Weight>& weights = summary.readings.weights;
+        row.push_back(summary.a1c ? Str(summary.a1c->percent) : "");
+        row.push_back(weights.empty() ? "" : Str(weights.front().value));
+        row.push_back(weights.empty() ? "" : Str(weights.back().value));
+        row.push_back(Str(summary.readings.unreadable));
+    } else {
+        row.insert(row.end(), {"", "", "", ""});
+    }
     return row;
 }
 
@@ -95,11 +129,17 @@ TableRow tableHeadings() {
 }
 
 std::vector<TableRow> tableRows(const PeriodSummary& summary) {
-    const TestPeriodNames names = testPeriodNames();
     std::vector<TableRow> rows;
     for (std::size_t i = 0; i < summary.samples.size(); ++i)
-        rows.push_back(rowOf(names.title[i], summary.samples[i], summary.unit));
+        rows.push_back(rowOf(summary.names.title[i], summary.samples[i], summary.unit));
     return rows;
+}
+
+std::string daysWords(const PeriodSummary& summary) {
+    const std::string count = Grouped(summary.dayCount);
+    if (!summary.isContinuous)
+        return tr("%1 selected days", {count});
+    return summary.dayCount == 1 ? tr("1 day") : tr("%1 days", {count});
 }
 
 std::string periodWords(const PeriodSummary& summary) {
@@ -108,12 +148,33 @@ std::string periodWords(const PeriodSummary& summary) {
     const auto& [first, last] = *summary.days;
     if (first == last)
         return first.AbbreviatedDate();
-    return tr("%1 to %2", {first.AbbreviatedDate(), last.AbbreviatedDate()});
+    const std::string words = tr("%1 to %2", {first.AbbreviatedDate(), last.AbbreviatedDate()});
+    return summary.isContinuous ? words : tr("%1 within %2", {daysWords(summary), words});
 }
 
 std::string basisWords(const PeriodSummary& summary) {
-    return tr("%1 readings on %2 of %3 days",
-              {Grouped(summary.all().figures.count), Grouped(summary.all().days), Grouped(summary.dayCount)});
+    const std::string readings =
+        summary.all().figures.count == 1 ? tr("1 reading") : tr("%1 readings", {Grouped(summary.all().figures.count)});
+    return tr("%1 on %2 of %3", {readings, Grouped(summary.all().days), daysWords(summary)});
+}
+
+std::string limitsWords(const PeriodSummary& summary) {
+    using namespace Globals;
+    const auto text = [&](double limit) { return valueText(limit, summary.unit); };
+    return tr("Limits: too low below %1, low below %2, high from %3, too high from %4",
+              {text(gUnder), text(gLow), text(gCaution), valueWithUnit(gOver, summary.unit)});
+}
+
+std::string leftOutWords(const PeriodSummary& summary) {
+    std::string words;
+    const auto add = [&](int count, const std::string& one, const std::string& more) {
+        if (count > 0)
+            words += (words.empty() ? "" : " ") + (count == 1 ? one : tr(more, {Grouped(count)}));
+    };
+    add(summary.readings.unreadable, tr("1 reading could not be read."), "%1 readings could not be read.");
+    add(summary.ofOtherUnit, tr("1 reading looks like another unit."), "%1 readings look like another unit.");
+    add(summary.undatedRows, tr("1 row with readings has no date."), "%1 rows with readings have no date.");
+    return words;
 }
 
 std::vector<KeyFigure> keyFigures(const PeriodSummary& summary) {
@@ -122,22 +183,25 @@ std::vector<KeyFigure> keyFigures(const PeriodSummary& summary) {
     const Unit unit = summary.unit;
     if (all.figures.count == 0)
         return {{tr("Readings"), tr("none"), tr("in this period")}};
+    if (summary.isOfOtherUnit())
+        return {{tr("Unit"), tr("does not fit"), tr("Your limits are in %1, these readings are not.", {nameOf(unit)})}};
     const int count = all.figures.count;
     const auto part = [count](int readings) { return tr("%1 of %2", {Grouped(readings), Grouped(count)}); };
-    const std::string before = summary.before
-                                   ? tr("as many days before: %1", {withUnit(summary.before->figures.mean, unit)})
-                                   : tr("median %1", {withUnit(all.figures.median, unit)});
-    const std::string spread = all.figures.deviation ? withUnit(*all.figures.deviation, unit) : tr("one reading");
+    std::string mean = tr("median %1", {valueWithUnit(all.figures.median, unit)});
+    if (summary.before)
+        mean += " \u00b7 " +
+                tr("the %1 before: %2", {daysWords(summary), valueWithUnit(summary.before->figures.mean, unit)});
+    const std::string spread = all.figures.deviation ? valueWithUnit(*all.figures.deviation, unit) : tr("one reading");
     const auto variation = all.figures.variation();
     return {
-        {tr("Mean"), withUnit(all.figures.mean, unit), before},
+        {tr("Mean"), valueWithUnit(all.figures.mean, unit), mean},
         {tr("In your target zone"), share(all.within(), count),
          fromTo(gLow, gCaution, unit) + " \u00b7 " + part(all.within())},
         {tr("Below"), share(all.below(), count),
-         tr("below %1", {withUnit(gLow, unit)}) + " \u00b7 " + part(all.below())},
+         tr("below %1", {valueWithUnit(gLow, unit)}) + " \u00b7 " + part(all.below())},
         {tr("Above"), share(all.above(), count),
-         tr("from %1", {withUnit(gCaution, unit)}) + " \u00b7 " + part(all.above())},
-        {tr("Spread (SD)"), spread, variation ? tr("CV %1 %", {Format(*variation * percent, "0")}) : ""},
+         tr("from %1", {valueWithUnit(gCaution, unit)}) + " \u00b7 " + part(all.above())},
+        {tr("Spread (SD)"), spread, variation ? tr("CV %1\u00a0%", {Format(*variation * percent, "0")}) : ""},
         estimatedA1c(summary),
     };
 }
@@ -156,11 +220,11 @@ std::string weightWords(const PeriodSummary& summary) {
 }
 
 std::string figuresCsv(const PeriodSummary& summary) {
-    const TestPeriodNames names = testPeriodNames();
-    std::string text = csvLine({"test period", "unit", "n", "days", "mean", "median", "sd", "cv", "lowest", "lowest on",
-                                "highest", "highest on", "too low", "low", "target zone", "high", "too high"});
+    std::string text =
+        csvLine({"test period", "from", "to", "unit", "n", "days", "mean", "median", "sd", "cv", "lowest", "lowest on",
+                 "highest", "highest on", "too low", "low", "target zone", "high", "too high"});
     for (std::size_t i = 0; i < summary.samples.size(); ++i)
-        text += csvLine(csvRow(names.title[i], summary.samples[i], summary.unit));
+        text += csvLine(csvRow(summary, i));
     return text;
 }
 

@@ -15,6 +15,12 @@ using TableRow = std::vector<std::string>;
 /// A row for all readings, then one for each test period. Figures of none are "\u2013".
 [[nodiscard]] std::vector<TableRow> tableRows(const PeriodSummary& summary);
 
+/// How long it is: "30 days", or "3 selected days" where there are others between them.
+[[nodiscard]] std::string daysWords(const PeriodSummary& summary);
+/// The user's four limits.
+[[nodiscard]] std::string limitsWords(const PeriodSummary& summary);
+/// What is no part of the figures, or should be looked at: "3 readings could not be read."; "" for none.
+[[nodiscard]] std::string leftOutWords(const PeriodSummary& summary);
 /// The period in words: "August 25 to September 23, 1991".
 [[nodiscard]] std::string periodWords(const PeriodSummary& summary);
 /// On what the figures rest: "100 readings on 30 of 30 days".

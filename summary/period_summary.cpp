@@ -1,7 +1,6 @@
 #include "summary/period_summary.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstddef>
 #include <utility>
 
@@ -11,14 +10,10 @@ namespace tallyvane::Summary {
 
 namespace {
 
-constexpr double secondsPerDay = 24 * 60 * 60;
+/// A typed figure above it is no reading of any meter, in any unit.
+constexpr double highestReading = 1500;
 
-Date daysLater(const Date& day, int days) { return Date::ofTotalSeconds(day.TotalSeconds() + days * secondsPerDay); }
-
-int daysOf(const Finding::Period& period) {
-    const double seconds = period.second.TotalSeconds() - period.first.TotalSeconds();
-    return static_cast<int>(std::lround(seconds / secondsPerDay)) + 1;
-}
+int daysOf(const Finding::Period& period) { return daysBetween(period.first, period.second) + 1; }
 
 std::vector<bool> rowsOf(const Listbox& table, bool selectedOnly) {
     std::vector<bool> rows(static_cast<std::size_t>(table.ListCount()), true);
@@ -51,11 +46,11 @@ std::optional<Finding::Period> calendarDays(Span span, const Date& today) {
     case Span::last90:
         return Finding::lastDays(90, today);
     case Span::thisMonth:
-        return Finding::monthOf(today);
+        return Finding::Period(Finding::monthOf(today).first, today);
     case Span::lastMonth:
         return Finding::monthBefore(today);
     case Span::thisYear:
-        return Finding::Period(Date(today.Year(), 1, 1), Date(today.Year(), 12, 31));
+        return Finding::Period(Date(today.Year(), 1, 1), today);
     case Span::all:
     case Span::selected:
         break;
@@ -111,10 +106,57 @@ std::array<Sample, testPeriods + 1> samplesOf(const std::vector<Reading>& readin
 }
 
 Spread spreadOf(const PeriodSummary& summary) {
-    Spread spread{summary.dayCount, summary.all().days, {}};
+    Spread spread;
+    spread.daysOfPeriod = summary.days ? daysOf(*summary.days) : 0;
+    spread.daysWithReadings = summary.all().days;
     for (std::size_t i = 0; i < spread.readings.size(); ++i)
         spread.readings[i] = summary.samples[i + 1].figures.count;
+    if (!summary.days)
+        return spread;
+    Date last = daysAfter(summary.days->first, -1);
+    const auto note = [&](const Date& day) {
+        spread.longestGap = std::max(spread.longestGap, daysBetween(last, day) - 1);
+        last = day;
+    };
+    for (const Reading& reading : summary.readings.readings)
+        note(*reading.day);
+    note(daysAfter(summary.days->second, 1));
     return spread;
+}
+
+bool canBeOf(Unit unit, double value) {
+    constexpr double highestMmol = 35;
+    constexpr double lowestMg = 20;
+    return unit == Unit::mmolPerLitre ? value <= highestMmol : value >= lowestMg;
+}
+
+void addRow(std::vector<int>& rows, int row) {
+    if (std::find(rows.begin(), rows.end(), row) == rows.end())
+        rows.push_back(row);
+}
+
+/// Takes out of the readings those that no meter shows, and those of rows without a date; notes those that can't be of
+/// the unit.
+void sift(PeriodSummary& summary) {
+    std::vector<int> undated;
+    Readings& all = summary.readings;
+    std::erase_if(all.readings, [&](const Reading& reading) {
+        if (!reading.day) {
+            addRow(undated, reading.row);
+            return true;
+        }
+        if (reading.value > highestReading) {
+            ++all.unreadable;
+            addRow(all.unreadableRows, reading.row);
+            return true;
+        }
+        if (!canBeOf(summary.unit, reading.value)) {
+            ++summary.ofOtherUnit;
+            addRow(summary.rowsOfOtherUnit, reading.row);
+        }
+        return false;
+    });
+    summary.undatedRows = static_cast<int>(undated.size());
 }
 
 int countIn(const Sample& sample, Ranges::Range range) { return sample.inRange[static_cast<std::size_t>(range)]; }
@@ -125,17 +167,11 @@ int Sample::above() const { return countIn(*this, Ranges::Range::over) + countIn
 int Sample::below() const { return countIn(*this, Ranges::Range::low) + countIn(*this, Ranges::Range::under); }
 int Sample::within() const { return countIn(*this, Ranges::Range::inZone); }
 
-bool PeriodSummary::isOfOtherUnit() const {
-    constexpr double highest = 35; // mmol/L
-    constexpr double lowest = 20; // mg/dL
-    const Figures& figures = all().figures;
-    return figures.count > 0 && (unit == Unit::mmolPerLitre ? figures.mean > highest : figures.mean < lowest);
-}
-
 PeriodSummary summarize(const Listbox& table, Span span, const Date& today) {
     PeriodSummary summary;
     summary.span = span;
     summary.unit = unitOfLimits();
+    summary.names = testPeriodNames();
     summary.days = calendarDays(span, today);
     std::vector<bool> rows = rowsOf(table, span == Span::selected);
     if (summary.days) {
@@ -144,19 +180,21 @@ PeriodSummary summarize(const Listbox& table, Span span, const Date& today) {
     } else if (const std::vector<double> dates = datesOf(table, rows); !dates.empty()) {
         summary.days = Finding::Period(Date::ofTotalSeconds(dates.front()), Date::ofTotalSeconds(dates.back()));
         summary.dayCount = span == Span::selected ? static_cast<int>(dates.size()) : daysOf(*summary.days);
+        summary.isContinuous = summary.dayCount == daysOf(*summary.days);
     }
     for (int row = 0; row < table.ListCount(); ++row)
         if (rows[static_cast<std::size_t>(row)])
             summary.rows.push_back(row);
     summary.readings = readingsOf(table, rows);
+    sift(summary);
     summary.samples = samplesOf(summary.readings.readings);
-    if (span != Span::all && summary.days) {
+    if (span != Span::all && summary.days && summary.isContinuous) {
         const int length = daysOf(*summary.days);
-        const Finding::Period before(daysLater(summary.days->first, -length), daysLater(summary.days->first, -1));
+        const Finding::Period before(daysAfter(summary.days->first, -length), daysAfter(summary.days->first, -1));
         const Sample sample = sampleOf(readingsOf(table, Finding::rowsIn(table, before)).readings);
         summary.before = sample.figures.count > 0 ? std::optional(sample) : std::nullopt;
     }
-    if (isEnoughForA1c(spreadOf(summary)) && !summary.isOfOtherUnit())
+    if (isEnoughForA1c(spreadOf(summary)) && summary.ofOtherUnit == 0)
         summary.a1c = a1cOfMean(inMgPerDecilitre(summary.all().figures.mean, summary.unit));
     return summary;
 }

@@ -11,6 +11,7 @@
 #include "summary/estimated_a1c.h"
 #include "summary/figures.h"
 #include "summary/readings.h"
+#include "summary/test_period_names.h"
 #include "summary/unit.h"
 
 namespace tallyvane::Summary {
@@ -33,21 +34,30 @@ struct Sample {
 struct PeriodSummary {
     Span span = Span::all;
     Unit unit = Unit::mmolPerLitre;
+    TestPeriodNames names;
     /// Nothing where no row has a date.
     std::optional<Finding::Period> days;
-    /// Of the calendar; of selected days those that are selected.
+    /// Of the calendar, up to today; of selected days those that are selected.
     int dayCount = 0;
+    /// Every day from the first to the last belongs to it.
+    bool isContinuous = true;
     std::vector<int> rows; // of the table
     Readings readings;
     /// All readings, then those of each test period.
     std::array<Sample, testPeriods + 1> samples;
-    /// All readings of the period of the same length before; nothing for all days, or where there are none.
+    /// All readings of the period of the same length before; nothing for all days, for selected ones with days between
+    /// them, and where there are none.
     std::optional<Sample> before;
-    std::optional<EstimatedA1c> a1c; // nothing where the readings are too few
+    std::optional<EstimatedA1c> a1c; // nothing where it would say nothing
 
-    /// The readings can't be of that unit: their mean is above 35 mmol/L or below 20 mg/dL, which nobody lives with.
-    bool isOfOtherUnit() const;
+    /// Readings that can't be of that unit: above 35 mmol/L or below 20 mg/dL, which nobody lives with; and their rows.
+    int ofOtherUnit = 0;
+    std::vector<int> rowsOfOtherUnit;
+    /// Rows of the table with readings and without a date, which are no part of any period.
+    int undatedRows = 0;
 
+    /// More than half of the readings are of the other unit, so that the ranges say nothing of them.
+    bool isOfOtherUnit() const { return 2 * ofOtherUnit > all().figures.count; }
     const Sample& all() const { return samples[0]; }
 };
 

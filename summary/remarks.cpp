@@ -24,10 +24,10 @@ Remark tooLow(const PeriodSummary& summary, const TestPeriodNames& names) {
         return std::nullopt;
     const Reading& lowest = *summary.all().lowest;
     const std::string when = names.words[static_cast<std::size_t>(lowest.testPeriod)];
-    const std::string value = valueText(lowest.value, summary.unit);
+    const std::string value = valueWithUnit(lowest.value, summary.unit);
     const std::string where =
         lowest.day ? tr("%1 %2 on %3", {value, when, lowest.day->AbbreviatedDate()}) : tr("%1 %2", {value, when});
-    const std::string limit = valueText(Globals::gUnder, summary.unit);
+    const std::string limit = valueWithUnit(Globals::gUnder, summary.unit);
     return count == 1 ? tr("1 reading was below %1: %2.", {limit, where})
                       : tr("%1 readings were below %2, the lowest %3.", {Grouped(count), limit, where});
 }
@@ -46,7 +46,7 @@ Remark highestTime(const PeriodSummary& summary, const TestPeriodNames& names) {
     if (times < 2 || 2 * sample.above() <= sample.figures.count)
         return std::nullopt;
     return tr("%1 is your highest time: median %2, %3 of %4 readings above your target zone.",
-              {names.title[highest], valueText(sample.figures.median, summary.unit), Grouped(sample.above()),
+              {names.title[highest], valueWithUnit(sample.figures.median, summary.unit), Grouped(sample.above()),
                Grouped(sample.figures.count)});
 }
 
@@ -56,7 +56,7 @@ Remark spread(const PeriodSummary& summary) {
     const Figures& figures = summary.all().figures;
     if (figures.count < enoughForAll || figures.variation().value_or(0) <= wide)
         return std::nullopt;
-    return tr("Your readings lie far apart: the spread is %1 % of the mean.",
+    return tr("Your readings lie far apart: the spread is %1\u00a0% of the mean.",
               {Format(*figures.variation() * percent, "0")});
 }
 
@@ -64,7 +64,7 @@ Remark rarelyAfterMeals(const PeriodSummary& summary) {
     const int all = summary.all().figures.count;
     const int after =
         summary.samples[2].figures.count + summary.samples[4].figures.count + summary.samples[6].figures.count;
-    if (all < enoughForAll || 10 * after >= all)
+    if (all < enoughForAll || 10 * after >= all || !summary.names.areUsual)
         return std::nullopt;
     return after == 0 ? tr("You did not measure after meals: nothing is known of these times.")
                       : tr("After meals you measured rarely: the figures of these times rest on few readings.");
@@ -92,7 +92,10 @@ std::vector<std::string> remarksOn(const PeriodSummary& summary) {
         return {tr("Your limits are in %1, and these readings can't be: no range fits them. Set your limits in the "
                    "Preferences.",
                    {nameOf(summary.unit)})};
-    const TestPeriodNames names = testPeriodNames();
+    const TestPeriodNames& names = summary.names;
+    if (summary.ofOtherUnit > 0)
+        remarks.push_back(tr("%1 readings can't be in %2, the unit of your limits: look at their days first.",
+                             {Grouped(summary.ofOtherUnit), nameOf(summary.unit)}));
     for (Remark& remark : std::vector{tooLow(summary, names), highestTime(summary, names), spread(summary)})
         if (remark)
             remarks.push_back(std::move(*remark));

@@ -9,6 +9,7 @@
 namespace tallyvane::Summary {
 
 /// In this order, each where its rule holds:
+/// - the other unit: there are readings that can't be of the unit of the limits.
 /// - too low: there is a reading of that range. How many, and the lowest with its day.
 /// - the highest time: of at least two test periods with five readings or more, the one of the highest median, if more
 ///   than half of its readings are above the target zone.

@@ -7,16 +7,17 @@
 #include "platform/base/translation.h"
 #include "platform/desktop/desktop.h"
 #include "platform/drawing/surface_part.h"
+#include "platform/files/io_exception.h"
 #include "platform/files/replacement.h"
 #include "platform/printing/printing.h"
 #include "platform/windows/dialogs.h"
 #include "platform/windows/wiring.h"
+#include "settings/globals.h"
 #include "settings/list_colors.h"
 #include "summary/charts.h"
 #include "summary/day_pages.h"
 #include "summary/figures_table.h"
 #include "summary/remarks.h"
-#include "summary/test_period_names.h"
 #include "summary/visit_page.h"
 
 namespace tallyvane {
@@ -25,11 +26,11 @@ namespace {
 
 constexpr int width = 980;
 constexpr int height = 600;
-constexpr Rect page{174, 96, 792, 484}; // of the tabs, without their row
+constexpr Rect tabPage{174, 96, 792, 484}; // below the row of tabs
 constexpr int figureColumns = 14;
 constexpr double screenSize = 1.2; // of the first figures, against paper
 
-constexpr Rect onPage(int left, int top, int w, int h) { return {page.left + left, page.top + top, w, h}; }
+constexpr Rect onPage(int left, int top, int w, int h) { return {tabPage.left + left, tabPage.top + top, w, h}; }
 
 /// The pictures bring a light ground along, whatever the desktop's theme.
 void fillWhite(Graphics& g) {
@@ -67,7 +68,7 @@ SummaryWindow::SummaryWindow(const Listbox& days) : ListBox1(figureColumns), day
 
 void SummaryWindow::layOut() {
     constexpr unsigned lockWidth = lockLeft | lockTop | lockRight;
-    const int third = page.width / 3;
+    const int third = tabPage.width / 3;
     const int row = 250;
     place({
         {&GroupBox1, {10, 12, 148, 292}},
@@ -86,22 +87,22 @@ void SummaryWindow::layOut() {
         {&StaticText1, {168, 12, 806, 20}, lockWidth},
         {&LinkLine1, {168, 34, 806, 20}, lockWidth},
         {&TabPanel1, {166, 60, 808, 528}, lockAll},
-        {&Canvas1, onPage(0, 0, page.width, 100), lockWidth, &TabPanel1, 0},
-        {&ListBox1, onPage(0, 108, page.width, 206), lockWidth, &TabPanel1, 0},
-        {&TextArea2, onPage(0, 324, page.width, 158), lockAll, &TabPanel1, 0},
-        {&Canvas2, onPage(0, 0, page.width, 452), lockAll, &TabPanel1, 1},
-        {&StaticText3, onPage(0, 458, page.width, 22), lockLeft | lockRight | lockBottom, &TabPanel1, 1},
+        {&Canvas1, onPage(0, 0, tabPage.width, 100), lockWidth, &TabPanel1, 0},
+        {&ListBox1, onPage(0, 108, tabPage.width, 206), lockWidth, &TabPanel1, 0},
+        {&TextArea2, onPage(0, 324, tabPage.width, 158), lockAll, &TabPanel1, 0},
+        {&Canvas2, onPage(0, 0, tabPage.width, 452), lockAll, &TabPanel1, 1},
+        {&StaticText3, onPage(0, 458, tabPage.width, 22), lockLeft | lockRight | lockBottom, &TabPanel1, 1},
         {&StaticText4, onPage(0, 0, 2 * third - 6, 20), lockLeft | lockTop, &TabPanel1, 2},
         {&Canvas3, onPage(0, 22, 2 * third - 6, row - 30), lockLeft | lockTop, &TabPanel1, 2},
-        {&StaticText5, onPage(0, row, page.width, 20), lockLeft | lockTop, &TabPanel1, 2},
-        {&Canvas4, onPage(0, row + 22, page.width, 210), lockAll, &TabPanel1, 2},
+        {&StaticText5, onPage(0, row, tabPage.width, 20), lockLeft | lockTop, &TabPanel1, 2},
+        {&Canvas4, onPage(0, row + 22, tabPage.width, 210), lockAll, &TabPanel1, 2},
         {&StaticText6, onPage(2 * third, 0, third, 20), lockWidth, &TabPanel1, 2},
-        {&Canvas5, onPage(2 * third, 22, page.width - 2 * third, row - 30), lockWidth, &TabPanel1, 2},
+        {&Canvas5, onPage(2 * third, 22, tabPage.width - 2 * third, row - 30), lockWidth, &TabPanel1, 2},
         {&StaticText7, onPage(0, 8, 300, 20), lockLeft | lockTop, &TabPanel1, 3},
         {&TextField1, onPage(0, 30, 400, 28), lockWidth, &TabPanel1, 3},
         {&StaticText8, onPage(0, 72, 300, 20), lockLeft | lockTop, &TabPanel1, 3},
-        {&TextArea1, onPage(0, 94, page.width, 220), lockAll, &TabPanel1, 3},
-        {&CheckBox1, onPage(0, 326, page.width, 24), lockLeft | lockRight | lockBottom, &TabPanel1, 3},
+        {&TextArea1, onPage(0, 94, tabPage.width, 220), lockAll, &TabPanel1, 3},
+        {&CheckBox1, onPage(0, 326, tabPage.width, 24), lockLeft | lockRight | lockBottom, &TabPanel1, 3},
         {&Timer1},
     });
 }
@@ -123,7 +124,7 @@ void SummaryWindow::build() {
     TabPanel1.Captions({tr("Figures"), tr("Course"), tr("The Day"), tr("For the Visit")});
 
     const Summary::TableRow headings = Summary::tableHeadings();
-    ListBox1.ColumnWidths("14%,4%,5%,5%,6%,4%,6%,6%,7%,8%,8%,9%,9%,9%");
+    ListBox1.ColumnWidths("14%,4%,4%,5%,6%,4%,5%,9%,9%,8%,8%,8%,8%,8%");
     for (int column = 0; column < figureColumns; ++column) {
         ListBox1.Heading(column, headings[static_cast<std::size_t>(column)]);
         ListBox1.ColumnAlignment(column, column == 0 ? Listbox::AlignLeft : Listbox::AlignRight);
@@ -189,6 +190,7 @@ Summary::Span SummaryWindow::span() const {
 // The figures
 
 void SummaryWindow::update() {
+    Timer1.Mode(Timer::ModeOff);
     summary_ = Summary::summarize(days_, span(), Date());
     course_.reset(); // made when it is to be seen
     finishedCourse_.reset();
@@ -203,16 +205,17 @@ void SummaryWindow::showFigures() {
     else
         StaticText1.Text(Summary::periodWords(summary_) + dot + Summary::basisWords(summary_) + dot +
                          tr("all values in %1", {Summary::nameOf(summary_.unit)}));
-    if (const int unreadable = summary_.readings.unreadable; unreadable > 0)
-        LinkLine1.show(unreadable == 1 ? tr("1 reading could not be read.")
-                                       : tr("%1 readings could not be read.", {Grouped(unreadable)}),
-                       {{tr("Select their days"), [this] { selectAll(summary_.readings.unreadableRows); }}});
-    else
-        LinkLine1.show("");
+    std::vector<int> rows = summary_.readings.unreadableRows;
+    rows.insert(rows.end(), summary_.rowsOfOtherUnit.begin(), summary_.rowsOfOtherUnit.end());
+    std::vector<LinkLine::Link> links;
+    if (!rows.empty())
+        links.push_back({tr("Select their days"), [this, rows] { selectAll(rows); }});
+    LinkLine1.show(Summary::leftOutWords(summary_), std::move(links));
     ListBox1.DeleteAllRows();
     ListBox1.AddRows(Summary::tableRows(summary_));
     std::vector<std::string> lines = Summary::remarksOn(summary_);
     lines.push_back(Summary::weightWords(summary_));
+    lines.push_back(Summary::limitsWords(summary_));
     TextArea2.Text(joined(lines));
     std::string key;
     for (const Summary::KeyFigure& figure : Summary::keyFigures(summary_))
@@ -245,7 +248,7 @@ void SummaryWindow::showReadingAt(int x, int y) {
         StaticText3.Text(tr("Point at a reading to see it; a click selects its day."));
         return;
     }
-    const std::string when = Summary::testPeriodNames().words[static_cast<std::size_t>(reading->testPeriod)];
+    const std::string& when = summary_.names.words[static_cast<std::size_t>(reading->testPeriod)];
     StaticText3.Text(tr("%1, %2: %3 %4",
                         {reading->day->AbbreviatedDate(), when, Str(reading->value), Summary::nameOf(summary_.unit)}));
 }
@@ -255,7 +258,12 @@ void SummaryWindow::selectReadingAt(int x, int y) {
         selectAll({reading->row});
 }
 
+/// The rows are those of the summary: where the table has changed since, they may be of other days.
 void SummaryWindow::selectAll(const std::vector<int>& rows) {
+    if (Timer1.Mode() != Timer::ModeOff) {
+        update();
+        return;
+    }
     std::vector<bool> selected(static_cast<std::size_t>(days_.ListCount()));
     for (const int row : rows)
         if (row < days_.ListCount())
@@ -274,26 +282,42 @@ void SummaryWindow::drawPages(Graphics& g) const {
         Summary::drawDayPages(g, days_, summary_, 2, pages);
 }
 
+const Paper* SummaryWindow::paper() { return Globals::ps ? Globals::ps->paper() : nullptr; }
+
 void SummaryWindow::PushButton1_Action() {
     saveTexts();
-    Printers::current().preview(Summary::visitTitle(summary_), [this](Graphics& g) { drawPages(g); });
+    update();
+    Printers::current().preview(paper(), Summary::visitTitle(summary_), [this](Graphics& g) { drawPages(g); });
 }
 
 void SummaryWindow::PushButton2_Action() {
     saveTexts();
+    update();
     const SaveAsDialog dialog{tr("Save as PDF"), tr("Save the page as:"), Summary::visitTitle(summary_), ".pdf"};
     const std::optional<FolderItem> file = dialog.ShowModal();
     if (!file)
         return;
     const PdfTexts texts{Summary::visitTitle(summary_), TextField1.Text()};
-    if (!Printers::current().writePdf(file->AbsolutePath(), texts, [this](Graphics& g) { drawPages(g); }))
-        MsgBox(tr("\u201c%1\u201d could not be written.", {file->AbsolutePath()}));
+    const std::string pdf = Printers::current().pdfOf(paper(), texts, [this](Graphics& g) { drawPages(g); });
+    write(*file, pdf);
+}
+
+/// The file stays as it was where that can't be.
+void SummaryWindow::write(const FolderItem& file, const std::string& content) {
+    try {
+        if (!content.empty())
+            writeFile(file.AbsolutePath(), content, Replacement::Recorded::unlessNew);
+        else
+            MsgBox(tr("\u201c%1\u201d could not be made.", {file.AbsolutePath()}));
+    } catch (const IOException& failure) {
+        MsgBox(tr("\u201c%1\u201d could not be written: %2", {file.AbsolutePath(), failure.why()}));
+    }
 }
 
 void SummaryWindow::PushButton3_Action() {
     const SaveAsDialog dialog{tr("Export Figures"), tr("Save the figures as:"), tr("Figures"), ".csv"};
     if (const std::optional<FolderItem> file = dialog.ShowModal())
-        writeFile(file->AbsolutePath(), Summary::figuresCsv(summary_), Replacement::Recorded::unlessNew);
+        write(*file, Summary::figuresCsv(summary_));
 }
 
 } // namespace tallyvane

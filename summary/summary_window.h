@@ -6,6 +6,8 @@
 #include <optional>
 #include <vector>
 
+#include "platform/files/folder_item.h"
+#include "platform/printing/printing.h"
 #include "platform/windows/window.h"
 #include "summary/course_chart.h"
 #include "summary/period_summary.h"
@@ -42,6 +44,8 @@ public:
 
     void Event_Open() override;
     void Event_Close() override;
+    /// The texts of the page.
+    void saveTexts();
     /// The days, the selection or the limits have changed.
     void daysChanged();
 
@@ -62,7 +66,8 @@ private:
     void showReadingAt(int x, int y);
     void selectReadingAt(int x, int y);
     void selectAll(const std::vector<int>& rows);
-    void saveTexts();
+    static const Paper* paper();
+    static void write(const FolderItem& file, const std::string& content);
     void drawPages(Graphics& g) const;
 
     const Listbox& days_;

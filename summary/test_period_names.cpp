@@ -32,6 +32,7 @@ TestPeriodNames testPeriodNames() {
         if (!isOwnMeal && headings[column] == usual[column])
             continue;
         const std::string name = testPeriod < bedtime ? headings[meal] + " " + headings[column] : headings[column];
+        names.areUsual = false;
         names.title[testPeriod] = name;
         names.words[testPeriod] = name;
         names.brief[testPeriod] = headings[column];

@@ -15,6 +15,8 @@ struct TestPeriodNames {
     /// Under a chart, in two lines: "Breakfast" for the first two, and "before", "after".
     std::array<std::string, 3> meals;
     std::array<std::string, testPeriods + 1> brief;
+    /// No column was given another name: the second, fourth and sixth are after meals.
+    bool areUsual = true;
 };
 
 [[nodiscard]] TestPeriodNames testPeriodNames();

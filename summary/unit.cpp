@@ -13,6 +13,8 @@ std::string nameOf(Unit unit) { return unit == Unit::mmolPerLitre ? "mmol/L" : "
 
 std::string valueText(double value, Unit unit) { return Format(value, unit == Unit::mmolPerLitre ? "-0.0" : "-0"); }
 
+std::string valueWithUnit(double value, Unit unit) { return valueText(value, unit) + " " + nameOf(unit); }
+
 double inMgPerDecilitre(double value, Unit unit) { return unit == Unit::mmolPerLitre ? value * mgPerMmol : value; }
 
 } // namespace tallyvane::Summary

@@ -1,7 +1,9 @@
 #include "summary/visit_page.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
+#include <numeric>
 
 #include "platform/base/number.h"
 #include "platform/base/text.h"
@@ -13,14 +15,13 @@
 #include "summary/course_chart.h"
 #include "summary/figures_table.h"
 #include "summary/remarks.h"
-#include "summary/test_period_names.h"
 
 namespace tallyvane::Summary {
 
 namespace {
 
-constexpr double leastWidth = 540; // points: Letter and A4 less margins
-constexpr double leastHeight = 740;
+constexpr double leastWidth = 555; // points: Letter and A4 less margins
+constexpr double leastHeight = 750;
 constexpr Color black = RGB(0, 0, 0);
 constexpr Color grey = RGB(95, 95, 95);
 constexpr Color rule = RGB(150, 150, 150);
@@ -43,15 +44,7 @@ public:
     void right(const std::string& text, double x, double baseline) {
         g_.DrawString(text, x - g_.StringWidth(text), baseline);
     }
-    /// The longest beginning of a text that has room, with "..." where it is cut.
-    std::string fitting(const std::string& text, double width) const {
-        if (g_.StringWidth(text) <= width)
-            return text;
-        std::string shown = text;
-        while (!shown.empty() && g_.StringWidth(shown + "...") > width)
-            shown = std::string(Left(shown, Len(shown) - 1));
-        return shown + "...";
-    }
+    std::string fitting(const std::string& text, double width) const { return fitted(g_, text, width); }
     void line(Color color) {
         g_.ForeColor(color);
         g_.FillRect(0, y, g_.Width(), 0.7);
@@ -84,59 +77,63 @@ void drawHead(Page& page, const PeriodSummary& summary, const VisitPage& visit) 
 }
 
 void drawPictures(Page& page, const PeriodSummary& summary) {
-    constexpr double courseHeight = 150;
-    constexpr double chartsHeight = 170;
+    constexpr double courseHeight = 135;
+    constexpr double chartsHeight = 160;
     constexpr double gap = 10;
-    page.heading(tr("The course"), 0, page.y + 10);
+    const std::string unit = ", " + nameOf(summary.unit);
+    page.heading(tr("The course") + unit, 0, page.y + 10);
     SurfacePart course(page.surface(), 0, page.y + 14, page.width(), courseHeight);
     CourseChart(summary).draw(course);
-    page.y += courseHeight + 30;
+    page.y += courseHeight + 26;
     const double half = (page.width() - gap) / 2;
-    page.heading(tr("The day: middle half and median"), 0, page.y + 6);
+    page.heading(tr("The day: middle half and median") + unit, 0, page.y + 6);
     page.heading(tr("Shares of your five ranges"), half + gap, page.y + 6);
     SurfacePart day(page.surface(), 0, page.y + 10, half, chartsHeight);
     drawDay(summary, day);
     SurfacePart shares(page.surface(), half + gap, page.y + 10, half, chartsHeight);
     drawShares(summary, shares);
-    page.y += chartsHeight + 26;
+    page.y += chartsHeight + 24;
+}
+
+/// Where the columns of the table end.
+std::vector<double> columnEnds(double width) {
+    constexpr std::array<double, 14> shares{90, 20, 24, 28, 34, 24, 32, 60, 62, 36, 40, 44, 40, 42}; // of the width
+    const double all = std::accumulate(shares.begin(), shares.end(), 0.0);
+    std::vector<double> ends;
+    for (const double share : shares)
+        ends.push_back((ends.empty() ? 0 : ends.back()) + share * width / all);
+    return ends;
 }
 
 void drawFigures(Page& page, const PeriodSummary& summary) {
-    constexpr double nameWidth = 92;
-    const TableRow headings = tableHeadings();
-    const std::size_t counts = headings.size() - Ranges::all.size(); // columns before the ranges
-    const double wide = 46; // a column of a range
-    const double narrow =
-        (page.width() - nameWidth - wide * static_cast<double>(Ranges::all.size())) / static_cast<double>(counts - 1);
+    constexpr double gap = 3;
+    const std::vector<double> ends = columnEnds(page.width());
     const auto drawRow = [&](const TableRow& row) {
-        page.left(row[0], 0, page.y);
-        double x = nameWidth;
-        for (std::size_t column = 1; column < row.size(); ++column) {
-            x += column < counts ? narrow : wide;
-            page.right(row[column], x, page.y);
-        }
+        page.left(page.fitting(row[0], ends[0] - gap), 0, page.y);
+        for (std::size_t column = 1; column < row.size(); ++column)
+            page.right(page.fitting(row[column], ends[column] - ends[column - 1] - gap), ends[column], page.y);
         page.y += lineHeight;
     };
-    page.heading(tr("The figures"), 0, page.y);
+    page.heading(tr("The figures") + ", " + nameOf(summary.unit), 0, page.y);
     page.y += 13;
     page.font(8, grey);
-    drawRow(headings);
+    drawRow(tableHeadings());
     page.y -= lineHeight - 3;
     page.line(rule);
     page.y += 10;
     bool isFirst = true;
     for (const TableRow& row : tableRows(summary)) {
-        page.font(8.5, black, isFirst);
+        page.font(8, black, isFirst);
         drawRow(row);
         isFirst = false;
     }
     page.font(8, grey);
-    std::string below = weightWords(summary);
-    if (summary.readings.unreadable > 0)
-        below += (below.empty() ? "" : "  \u00b7  ") +
-                 tr("%1 readings could not be read", {Grouped(summary.readings.unreadable)});
-    page.left(below, 0, page.y);
-    page.y += 14;
+    const std::string weight = weightWords(summary);
+    page.left(page.fitting(limitsWords(summary) + (weight.empty() ? "" : "  \u00b7  ") + weight, page.width()), 0,
+              page.y);
+    page.y += 11;
+    page.left(page.fitting(leftOutWords(summary), page.width()), 0, page.y);
+    page.y += 11;
 }
 
 void drawLowest(Page& page, const PeriodSummary& summary, double width) {
@@ -146,8 +143,8 @@ void drawLowest(Page& page, const PeriodSummary& summary, double width) {
     std::partial_sort(readings.begin(), readings.begin() + static_cast<std::ptrdiff_t>(count), readings.end(),
                       [](const Reading& a, const Reading& b) { return a.value < b.value; });
     readings.resize(count);
-    const TestPeriodNames names = testPeriodNames();
-    page.heading(tr("Your lowest readings"), 0, page.y);
+    const TestPeriodNames& names = summary.names;
+    page.heading(tr("Your lowest readings") + ", " + nameOf(summary.unit), 0, page.y);
     double baseline = page.y + 14;
     for (const Reading& reading : readings) {
         page.font(8.5, black, true);
@@ -160,18 +157,34 @@ void drawLowest(Page& page, const PeriodSummary& summary, double width) {
     }
 }
 
-/// Paragraphs below a heading, as far as they have room above `bottom`. Where they end.
+/// Lines of a text in a column: as many as have room, the last one with "..." where there are more. Where they end.
+double drawLines(Page& page, std::string_view text, double x, double baseline, double width, double bottom) {
+    const double step = page.surface().TextHeight();
+    while (!text.empty() && baseline <= bottom) {
+        const std::size_t length = firstLine(page.surface(), text, width);
+        const bool isLast = baseline + step > bottom && length < text.size();
+        const std::string line = ReplaceAll(text.substr(0, length), EndOfLine, "");
+        page.left(isLast ? page.fitting(line + " ...", width) : line, x, baseline);
+        text.remove_prefix(length);
+        baseline += step;
+    }
+    return baseline;
+}
+
+/// Paragraphs below a heading, as far as they have room above `bottom`; what is left is told. Where they end.
 double drawParagraphs(Page& page, const std::string& heading, const std::vector<std::string>& paragraphs, double x,
                       double top, double width, double bottom) {
     page.heading(heading, x, top);
-    page.font(9, black);
+    page.font(8.5, black);
     double baseline = top + 14;
-    for (const std::string& paragraph : paragraphs) {
-        const double height = StringHeight(page.surface(), paragraph, width);
-        if (baseline + height > bottom)
-            break;
-        DrawString(page.surface(), paragraph, x, baseline, width);
-        baseline += height + 4;
+    for (std::size_t i = 0; i < paragraphs.size(); ++i) {
+        const bool isLast = i + 1 == paragraphs.size();
+        const double room = isLast ? bottom : bottom - lineHeight; // for the words on those that are left out
+        if (baseline > room) {
+            page.left(tr("and %1 more", {Grouped(static_cast<int>(paragraphs.size() - i))}), x, baseline);
+            return baseline + lineHeight;
+        }
+        baseline = drawLines(page, paragraphs[i], x, baseline, width, room) + 3;
     }
     return baseline;
 }
@@ -183,10 +196,13 @@ void drawWords(Page& page, const PeriodSummary& summary, const VisitPage& visit,
     const double last = 2 * (third + gap);
     drawLowest(page, summary, third);
     drawParagraphs(page, tr("What stands out"), remarksOn(summary), middle, page.y, third, bottom);
+    const bool hasQuestions = !visit.texts.questions.empty();
     double y = page.y;
-    if (!visit.medications.empty())
-        y = drawParagraphs(page, tr("Medication"), visit.medications, last, y, third, bottom - 40) + 10;
-    if (!visit.texts.questions.empty())
+    if (!visit.medications.empty()) {
+        const double half = (page.y + bottom) / 2; // of the column, for either, if both are there
+        y = drawParagraphs(page, tr("Medication"), visit.medications, last, y, third, hasQuestions ? half : bottom) + 8;
+    }
+    if (hasQuestions)
         drawParagraphs(page, tr("What I want to ask"), {visit.texts.questions}, last, y, third, bottom);
 }
 
@@ -203,9 +219,7 @@ void drawFoot(Page& page, double height, int pages) {
 
 } // namespace
 
-std::string visitTitle(const PeriodSummary& summary) {
-    return tr("Blood glucose, %1 days", {Grouped(summary.dayCount)});
-}
+std::string visitTitle(const PeriodSummary& summary) { return tr("Blood glucose, %1", {daysWords(summary)}); }
 
 void drawKeyFigures(Graphics& g, const PeriodSummary& summary, double size) {
     constexpr int longText = 11; // characters that go into one line

@@ -204,6 +204,18 @@ double Date::TotalSeconds() const {
     return static_cast<double>(days) * secondsADay + secondsOfDay_;
 }
 
+namespace {
+
+constexpr double secondsPerDay = 24 * 60 * 60;
+
+double dayNumber(const Date& day) { return std::floor(day.TotalSeconds() / secondsPerDay); }
+
+} // namespace
+
+Date daysAfter(const Date& day, int days) { return Date::ofTotalSeconds((dayNumber(day) + days) * secondsPerDay); }
+
+int daysBetween(const Date& from, const Date& to) { return static_cast<int>(dayNumber(to) - dayNumber(from)); }
+
 int Ticks() {
     using Sixtieths = std::chrono::duration<int, std::ratio<1, 60>>;
     return std::chrono::duration_cast<Sixtieths>(std::chrono::steady_clock::now().time_since_epoch()).count();

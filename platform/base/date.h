@@ -60,6 +60,11 @@ private:
 /// The day whose year ends in these two digits and that lies nearest to today; nothing if no such day exists.
 [[nodiscard]] std::optional<Date> nearestDay(int twoDigits, int month, int day);
 
+/// The midnight so many days after that of a day, or before it.
+[[nodiscard]] Date daysAfter(const Date& day, int days);
+/// From the midnight of one day to that of another.
+[[nodiscard]] int daysBetween(const Date& from, const Date& to);
+
 /// Sixtieths of a second since some moment before the program started.
 int Ticks();
 

@@ -52,13 +52,14 @@ public:
                                                  const std::string& /*pdfName*/) {
         return nullptr;
     }
-    /// Shows the pages as they will be, with zoom, and prints them if the user says so there. They count in points;
-    /// they are drawn anew for each look, the first on the surface as it comes.
-    virtual void preview(const std::string& /*title*/, const DrawPages& /*draw*/) {}
-    /// Writes them into a PDF on the desktop's usual paper. False when the file can't be written.
-    [[nodiscard]] virtual bool writePdf(const std::string& /*path*/, const PdfTexts& /*texts*/,
-                                        const DrawPages& /*draw*/) {
-        return false;
+    /// Shows the pages as they will be, with zoom, and prints them if the user says so there. They count in points, and
+    /// are drawn anew for each look, the first on the surface as it comes. `paper` can be null: then it is the
+    /// printer's.
+    virtual void preview(const Paper* /*paper*/, const std::string& /*title*/, const DrawPages& /*draw*/) {}
+    /// The bytes of a PDF of them, on such paper; "" when it could not be made.
+    [[nodiscard]] virtual std::string pdfOf(const Paper* /*paper*/, const PdfTexts& /*texts*/,
+                                            const DrawPages& /*draw*/) {
+        return {};
     }
 };
 

@@ -1,5 +1,6 @@
 #include "platform/qt/qt_printers.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QPdfWriter>
@@ -41,6 +42,11 @@ public:
 private:
     QPagedPaintDevice& device_;
 };
+
+QPageLayout layoutOf(const Paper* paper) {
+    const auto* chosen = dynamic_cast<const QtPaper*>(paper);
+    return chosen != nullptr ? chosen->layout() : makePrinter()->pageLayout();
+}
 
 /// False when the device takes nothing.
 bool drawOn(QPagedPaintDevice& device, const DrawPages& draw) {
@@ -90,8 +96,9 @@ std::unique_ptr<Graphics> QtPrinters::openDialog(const Paper* paper, int resolut
     return PrintJob::begin(std::move(printer), resolution);
 }
 
-void QtPrinters::preview(const std::string& title, const DrawPages& draw) {
+void QtPrinters::preview(const Paper* paper, const std::string& title, const DrawPages& draw) {
     const std::unique_ptr<QPrinter> printer = makePrinter();
+    printer->setPageLayout(layoutOf(paper));
     printer->setDocName(toQt(title));
     QPrintPreviewDialog dialog(printer.get());
     dialog.setWindowTitle(toQt(title));
@@ -100,14 +107,16 @@ void QtPrinters::preview(const std::string& title, const DrawPages& draw) {
     dialog.exec();
 }
 
-bool QtPrinters::writePdf(const std::string& path, const PdfTexts& texts, const DrawPages& draw) {
-    QPdfWriter writer(QFile::decodeName(QByteArray::fromStdString(path)));
-    writer.setPageLayout(makePrinter()->pageLayout());
+std::string QtPrinters::pdfOf(const Paper* paper, const PdfTexts& texts, const DrawPages& draw) {
+    QBuffer bytes;
+    bytes.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&bytes);
+    writer.setPageLayout(layoutOf(paper));
     writer.setTitle(toQt(texts.title));
     writer.setCreator(QStringLiteral("Tallyvane"));
     if (!texts.author.empty())
         writer.setDocumentXmpMetadata(metadataOf(texts));
-    return drawOn(writer, draw);
+    return drawOn(writer, draw) ? bytes.data().toStdString() : std::string();
 }
 
 } // namespace tallyvane

@@ -8,8 +8,8 @@ class QtPrinters : public Printers {
 public:
     std::unique_ptr<Paper> makePaper() override;
     std::unique_ptr<Graphics> openDialog(const Paper* paper, int resolution, const std::string& pdfName) override;
-    void preview(const std::string& title, const DrawPages& draw) override;
-    [[nodiscard]] bool writePdf(const std::string& path, const PdfTexts& texts, const DrawPages& draw) override;
+    void preview(const Paper* paper, const std::string& title, const DrawPages& draw) override;
+    [[nodiscard]] std::string pdfOf(const Paper* paper, const PdfTexts& texts, const DrawPages& draw) override;
 };
 
 } // namespace tallyvane

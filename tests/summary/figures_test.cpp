@@ -54,13 +54,15 @@ TEST(EstimatedA1c, AgreesWithThePublishedTable) {
 }
 
 TEST(EstimatedA1c, TakesEnoughReadingsWellSpread) {
-    const Spread enough{28, 28, {28, 0, 14, 0, 14, 0, 0}};
+    const Spread enough{28, 28, {28, 0, 14, 0, 14, 0, 0}, 6};
     EXPECT_TRUE(isEnoughForA1c(enough));
     const struct {
         const char* what;
         Spread spread;
     } tooLittle[] = {
         {"none", {}},
+        {"a long period", {121, 121, {242, 0, 121, 0, 121, 0, 0}}},
+        {"a week without", {28, 21, {28, 0, 14, 0, 14, 0, 0}, 7}},
         {"a short period", {13, 13, {13, 13, 13, 13, 0, 0, 0}}},
         {"few days", {28, 11, {11, 11, 11, 11, 11, 11, 11}}},
         {"few readings", {28, 28, {19, 0, 18, 0, 18, 0, 0}}},

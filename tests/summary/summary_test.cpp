@@ -1,8 +1,10 @@
 /// A period of the table: which readings are its, what is said of them, and what the window and its pages show.
+#include <cmath>
 #include <fstream>
 #include <sstream>
 
 #include "diary/sort_keys.h"
+#include "platform/base/number.h"
 #include "platform/base/text.h"
 #include "settings/globals.h"
 #include "settings/headings.h"
@@ -82,10 +84,10 @@ TEST_F(SummaryTest, APeriodIsOfItsDatesInAnyOrder) {
         {Span::last14, 5, 3, 14, "2026-11-09"},
         {Span::last30, 5, 3, 30, "2026-10-24"},
         {Span::last90, 6, 4, 90, "2026-08-25"},
-        {Span::thisMonth, 5, 3, 30, "2026-11-01"},
+        {Span::thisMonth, 5, 3, 22, "2026-11-01"},
         {Span::lastMonth, 1, 1, 31, "2026-10-01"},
-        {Span::thisYear, 6, 4, 365, "2026-01-01"},
-        {Span::all, 7, 5, 53, "2026-10-01"},
+        {Span::thisYear, 6, 4, 326, "2026-01-01"},
+        {Span::all, 6, 4, 53, "2026-10-01"},
         {Span::selected, 0, 0, 0, ""},
     };
     for (const auto& [span, readings, days, dayCount, first] : cases) {
@@ -104,6 +106,10 @@ TEST_F(SummaryTest, APeriodIsOfItsDatesInAnyOrder) {
     table_.select({true, false, false, true, true, false});
     const PeriodSummary chosen = summarize(table_, Span::selected, today_);
     EXPECT_EQ(chosen.dayCount, 2);
+    EXPECT_FALSE(chosen.isContinuous);
+    EXPECT_FALSE(chosen.before);
+    EXPECT_EQ(week.undatedRows, 0);
+    EXPECT_EQ(summarize(table_, Span::all, today_).undatedRows, 1);
     EXPECT_EQ(chosen.all().figures.highest, 500);
 }
 
@@ -129,32 +135,47 @@ TEST_F(SummaryTest, SharesAreOfTheUsersRanges) {
 
 TEST_F(SummaryTest, TheUnitIsThatOfTheLimits) {
     addPatient("patient-01.csv");
-    const PeriodSummary inMg = summarize(table_, Span::all, today_);
+    const Date end(1991, 8, 6);
+    const PeriodSummary inMg = summarize(table_, Span::last90, end);
     EXPECT_EQ(nameOf(inMg.unit), "mg/dL");
-    EXPECT_EQ(inMg.readings.readings.size(), 368U);
     ASSERT_TRUE(inMg.a1c);
-    EXPECT_NEAR(inMg.a1c->percent, (inMg.all().figures.mean + 46.7) / 28.7, 1e-12);
-    EXPECT_EQ(keyFigures(inMg)[0].value, "159 mg/dL");
+    EXPECT_NEAR(inMg.a1c->percent, 6.99, 0.01) << "of 153.9 mg/dL";
+    EXPECT_EQ(keyFigures(inMg)[0].value, "154 mg/dL");
+    EXPECT_FALSE(summarize(table_, Span::all, end).a1c) << "136 days are more than a red cell lives";
     useMmol();
-    const PeriodSummary inMmol = summarize(table_, Span::all, today_);
-    EXPECT_FALSE(inMmol.a1c) << "nobody has 159 mmol/L";
-    ASSERT_EQ(remarksOn(inMmol).size(), 1U);
-    EXPECT_NE(remarksOn(inMmol)[0].find("Your limits are in mmol/L"), std::string::npos);
-    EXPECT_EQ(keyFigures(inMmol).back().value, "not enough readings");
+    const PeriodSummary wrong = summarize(table_, Span::last90, end);
+    EXPECT_FALSE(wrong.a1c) << "nobody has 154 mmol/L";
+    ASSERT_EQ(remarksOn(wrong).size(), 1U);
+    EXPECT_NE(remarksOn(wrong)[0].find("Your limits are in mmol/L"), std::string::npos);
+    EXPECT_EQ(keyFigures(wrong).size(), 1U);
+    for (int row = 0; row < table_.ListCount(); ++row)
+        for (int column = 1; column <= 7; ++column)
+            if (const std::string& cell = table_.Cell(row, column); !cell.empty())
+                table_.Cell(row, column, Format(Val(cell) / 18.0156, "0.00"));
+    const PeriodSummary inMmol = summarize(table_, Span::last90, end);
+    ASSERT_TRUE(inMmol.a1c);
+    EXPECT_NEAR(inMmol.a1c->percent, inMg.a1c->percent, 0.01);
+    EXPECT_EQ(keyFigures(inMmol)[0].value, "8.5 mmol/L");
+    table_.Cell(70, 1, "150");
+    const PeriodSummary mixed = summarize(table_, Span::last90, end);
+    EXPECT_FALSE(mixed.a1c) << "a reading of the other unit";
+    EXPECT_EQ(mixed.rowsOfOtherUnit, std::vector<int>{70});
+    EXPECT_EQ(leftOutWords(mixed), "1 reading looks like another unit.");
 }
 
 TEST_F(SummaryTest, SentencesFollowTheirRules) {
     const auto remarks = [this] { return remarksOn(summarize(table_, Span::last14, today_)); };
     EXPECT_EQ(remarks(), Texts());
     add("11/22/2026", {"100", "59"});
-    EXPECT_EQ(remarks(), (Texts{"1 reading was below 60: 59 after breakfast on 2026-11-22.",
+    EXPECT_EQ(remarks(), (Texts{"1 reading was below 60 mg/dL: 59 mg/dL after breakfast on 2026-11-22.",
                                 "There are readings on 1 of 14 days: of the other days nothing is known."}));
     table_.DeleteAllRows();
     for (int day = 9; day <= 22; ++day)
         add("11/" + std::to_string(day) + "/2026", {"100", "", day % 2 == 0 ? "150" : "141"});
-    EXPECT_EQ(remarks(), (Texts{"Before lunch is your highest time: median 146, 14 of 14 readings above your target "
-                                "zone.",
-                                "You did not measure after meals: nothing is known of these times."}));
+    EXPECT_EQ(remarks(),
+              (Texts{"Before lunch is your highest time: median 146 mg/dL, 14 of 14 readings above your target "
+                     "zone.",
+                     "You did not measure after meals: nothing is known of these times."}));
     for (int row = 0; row < 14; ++row)
         table_.Cell(row, 3, row == 0 ? "600" : "139");
     EXPECT_EQ(remarks()[0].find("Your readings lie far apart: the spread is"), 0U) << remarks()[0];
@@ -167,7 +188,8 @@ TEST_F(SummaryTest, SentencesFollowTheirRules) {
 TEST_F(SummaryTest, RisesAreOfDaysWithBothReadings) {
     add("11/20/2026", {"100", "150", "90", "", "", "120"});
     add("11/21/2026", {"", "200", "80", "130"});
-    add("11/22/2026", {"140", "130"});
+    add("11/22/2026", {"140"});
+    add("11/22/2026", {"", "130"}); // the same day in another row
     const PeriodSummary summary = summarize(table_, Span::all, today_);
     EXPECT_EQ(risesAt(summary, 0), (std::vector<double>{50, -10}));
     EXPECT_EQ(risesAt(summary, 1), std::vector<double>{50});
@@ -176,7 +198,7 @@ TEST_F(SummaryTest, RisesAreOfDaysWithBothReadings) {
 
 TEST_F(SummaryTest, TheCourseKnowsTheReadingUnderThePointer) {
     add("11/16/2026", {"100"});
-    add("11/22/2026", {"", "", "200"});
+    add("11/22/2026", {"", "", "200", "", "", "", "200"}); // and the median of the week, too
     CourseChart course(summarize(table_, Span::last7, today_));
     EXPECT_FALSE(course.readingAt(10, 10)) << "before it is drawn";
     GraphicsRecorder g(700, 300);
@@ -190,7 +212,7 @@ TEST_F(SummaryTest, TheCourseKnowsTheReadingUnderThePointer) {
     ASSERT_EQ(found.size(), 2U) << "from the left the first day, then the last";
     EXPECT_EQ(found[0].row, 0);
     EXPECT_EQ(found[1].row, 1);
-    EXPECT_EQ(found[1].testPeriod, 3);
+    EXPECT_EQ(found[1].testPeriod, 7) << "the one on top";
     EXPECT_EQ(found[1].value, 200);
 }
 
@@ -212,26 +234,63 @@ TEST_F(SummaryTest, PicturesOfLittleAreDrawnAndSaySo) {
         EXPECT_NE(texts.find("Blood glucose, 7 days|A. Patient|"), std::string::npos);
         EXPECT_NE(texts.find("Pills  twice a day|"), std::string::npos);
         EXPECT_NE(texts.find("Is it the walk?|"), std::string::npos);
-        EXPECT_NE(texts.find(std::to_string(readings) + " readings on " + std::to_string(readings) + " of 7 days"),
+        EXPECT_NE(texts.find(std::to_string(readings) + (readings == 1 ? " reading" : " readings") + " on " +
+                             std::to_string(readings) + " of 7 days"),
                   std::string::npos);
         EXPECT_EQ(texts.find("There are no readings in this period.") != std::string::npos, readings == 0);
     }
 }
 
-/// All texts that stand on the page, and nothing that leaves it.
-TEST_F(SummaryTest, ThePageHoldsARealPatient) {
-    addPatient("patient-20.csv");
-    const PeriodSummary summary = summarize(table_, Span::last30, Date(1991, 9, 23));
-    GraphicsRecorder g(559, 806);
-    drawVisitPage(g, summary, {{}, {}, today_, 1});
-    int lowest = 0;
-    for (const GraphicsRecorder::Call& call : g.calls())
-        if (call.operation == "DrawString") {
-            EXPECT_LE(call.numbers[1], 806) << call.text;
-            EXPECT_GE(call.numbers[0], 0) << call.text;
-            lowest += call.text.find(", before ") != std::string::npos ? 1 : 0;
+/// Letter and A4, all seven test periods, long lists: no text leaves the page or stands on another one.
+TEST_F(SummaryTest, NoTextOfAFullPageLeavesItOrStandsOnAnother) {
+    for (int day = 0; day < 90; ++day) {
+        Texts cells;
+        for (int column = 0; column < 7; ++column)
+            cells.push_back(std::to_string(45 + (day * 37 + column * 53) % 350));
+        table_.AddRow(daysAfter(Date(2026, 8, 25), day).ShortDate());
+        for (int column = 0; column < 7; ++column)
+            table_.Cell(table_.LastIndex(), column + 1, cells[static_cast<std::size_t>(column)]);
+    }
+    SortKeys::rebuild(table_);
+    makeApplicationFolder();
+    Headings headings = defaultHeadings();
+    headings[0] = "Fr\u00fchst\u00fcck und zweites Fr\u00fchst\u00fcck";
+    saveHeadings(headings);
+    std::vector<std::string> medications;
+    for (int i = 1; i <= 20; ++i)
+        medications.push_back("Medicine " + std::to_string(i) +
+                              "  500 mg  twice a day, with meals and a glass of water");
+    std::string questions;
+    for (int i = 1; i <= 60; ++i)
+        questions += "question" + std::to_string(i) + " ";
+    const VisitPage visit{{std::string(300, 'N'), questions}, medications, today_, 4};
+    const PeriodSummary summary = summarize(table_, Span::last90, today_);
+    for (const auto& [width, height] : {std::pair(576.0, 756.0), std::pair(559.0, 806.0)}) {
+        SCOPED_TRACE(height);
+        GraphicsRecorder g(width, height);
+        drawVisitPage(g, summary, visit);
+        struct Box {
+            double left, right, baseline;
+            std::string text;
+        };
+        std::vector<Box> boxes;
+        std::string all;
+        for (const GraphicsRecorder::Call& call : g.calls()) {
+            if (call.operation != "DrawString" || call.text.empty())
+                continue;
+            g.TextSize(call.textSize);
+            const Box box{call.numbers[0], call.numbers[0] + g.StringWidth(call.text), call.numbers[1], call.text};
+            all += call.text + "|";
+            EXPECT_TRUE(box.left >= 0 && box.baseline <= g.Height()) << box.text;
+            for (const Box& other : boxes) // a line of 7 points at the least
+                EXPECT_FALSE(std::abs(other.baseline - box.baseline) < 5 && box.left < other.right - 1 &&
+                             box.right > other.left + 1)
+                    << box.text << " on " << other.text;
+            boxes.push_back(box);
         }
-    EXPECT_EQ(lowest, 10);
+        EXPECT_NE(all.find("|and "), std::string::npos) << "medicines that have no room are told";
+        EXPECT_NE(all.find("...|"), std::string::npos);
+    }
 }
 
 TEST_F(SummaryTest, PagesOfDaysHoldEachDayOnce) {
@@ -279,12 +338,16 @@ TEST_F(SummaryTest, TheFileOfFiguresIsExact) {
         return all;
     }();
     ASSERT_EQ(lines.size(), 10U);
-    EXPECT_EQ(lines[1].substr(0, 34), "All readings,mg/dL,3,2,97.16666666");
-    EXPECT_EQ(lines[2],
-              "Before breakfast,mg/dL,2,2,75.25,75.25,35.0017856687341,0.4651400088868319,50.5,2026-11-21,100,"
-              "2026-11-22,1,0,1,0,0");
-    EXPECT_EQ(lines[3], "After breakfast,mg/dL,0,0,,,,,,,,,0,0,0,0,0");
-    EXPECT_EQ(lines[8], "\"Night, \"\"late\"\"\",mg/dL,1,1,141,141,,,141,2026-11-22,141,2026-11-22,0,0,0,1,0");
+    EXPECT_EQ(lines[1].substr(0, 50), "All readings,2026-11-16,2026-11-22,mg/dL,3,2,97.16");
+    EXPECT_EQ(
+        lines[2],
+        "Before "
+        "breakfast,2026-11-16,2026-11-22,mg/dL,2,2,75.25,75.25,35.0017856687341,0.4651400088868319,50.5,2026-11-21,100,"
+        "2026-11-22,1,0,1,0,0,,,,");
+    EXPECT_EQ(lines[3], "After breakfast,2026-11-16,2026-11-22,mg/dL,0,0,,,,,,,,,0,0,0,0,0,,,,");
+    EXPECT_EQ(lines[8],
+              "\"Night, "
+              "\"\"late\"\"\",2026-11-16,2026-11-22,mg/dL,1,1,141,141,,,141,2026-11-22,141,2026-11-22,0,0,0,1,0,,,,");
 }
 
 TEST_F(SummaryTest, TheWindowFollowsTheTableAndKeepsItsTexts) {
@@ -304,7 +367,7 @@ TEST_F(SummaryTest, TheWindowFollowsTheTableAndKeepsItsTexts) {
         window.daysChanged();
         window.Timer1.fire();
         EXPECT_EQ(window.ListBox1.Cell(0, 1), "2");
-        EXPECT_EQ(window.ListBox1.Cell(2, 8), "200");
+        EXPECT_EQ(window.ListBox1.Cell(2, 8), "200 \u00b7 11/21");
         window.Periods[0].userChose();
         EXPECT_EQ(window.summary().span, Span::last7);
         window.TextField1.Text("A. Patient");
@@ -314,10 +377,13 @@ TEST_F(SummaryTest, TheWindowFollowsTheTableAndKeepsItsTexts) {
         EXPECT_EQ(toolkit_.previews, Texts{"Blood glucose, 7 days"});
         EXPECT_EQ(toolkit_.pageBreaks(), 1) << "one page of days";
         toolkit_.answer = applicationFile("page.pdf").string();
+        window.PushButton2_Action();
+        EXPECT_EQ(toolkit_.pdfs, Texts{"Blood glucose, 7 days|A. Patient"});
+        EXPECT_EQ(read(toolkit_.answer), "a PDF");
         toolkit_.printerReady = false;
         window.PushButton2_Action();
-        EXPECT_EQ(toolkit_.pdfs, Texts{toolkit_.answer + "|Blood glucose, 7 days|A. Patient"});
-        ASSERT_EQ(toolkit_.messages.size(), 1U) << "the file could not be written";
+        ASSERT_EQ(toolkit_.messages.size(), 1U);
+        EXPECT_EQ(read(toolkit_.answer), "a PDF") << "the old one stays";
         toolkit_.answer = applicationFile("figures.csv").string();
         window.PushButton3_Action();
         EXPECT_EQ(read(toolkit_.answer), figuresCsv(window.summary()));
@@ -329,6 +395,30 @@ TEST_F(SummaryTest, TheWindowFollowsTheTableAndKeepsItsTexts) {
     EXPECT_EQ(again.TextField1.Text(), "A. Patient");
     EXPECT_EQ(again.TextArea1.Text(), std::string("Is it the walk?") + std::string(EndOfLine) + "And the pills?");
     again.Close();
+}
+
+/// The rows of a click are looked up in the table as it is.
+TEST_F(SummaryTest, AClickAfterASortSelectsNoOtherDay) {
+    add("11/20/2026", {"100"});
+    add("11/22/2026", {"x"});
+    SummaryWindow window(table_);
+    std::vector<std::vector<bool>> selections;
+    window.selectRows = [&](const std::vector<bool>& rows) { selections.push_back(rows); };
+    window1_.daysChanged = [&] { window.daysChanged(); };
+    window.Open();
+    EXPECT_EQ(window.summary().readings.unreadableRows, std::vector<int>{1});
+    window1_.ListBox1_HeaderPressed(0);
+    window1_.ListBox1_HeaderPressed(0);
+    window.LinkLine1.userPressed(0);
+    EXPECT_TRUE(selections.empty()) << "the window looks anew first";
+    window.LinkLine1.userPressed(0);
+    ASSERT_EQ(selections.size(), 1U);
+    EXPECT_EQ(selections[0], (std::vector<bool>{true, false}));
+    Globals::gCaution = 99;
+    window1_.Timer1_Action();
+    window.Timer1.fire();
+    EXPECT_EQ(window.summary().all().above(), 1) << "the limits are others";
+    window.Close();
 }
 
 } // namespace

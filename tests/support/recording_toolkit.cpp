@@ -69,17 +69,17 @@ std::unique_ptr<Paper> RecordingToolkit::makePaper() {
     return nextPaper ? nextPaper() : std::make_unique<RecordedPaper>(letterWidth, letterHeight, pageSetupReady);
 }
 
-void RecordingToolkit::preview(const std::string& title, const DrawPages& draw) {
+void RecordingToolkit::preview(const Paper* /*paper*/, const std::string& title, const DrawPages& draw) {
     previews.push_back(title);
     RecordedPages pages(printed, lastPage, letterWidth, letterHeight, pointsPerInch);
     draw(pages);
 }
 
-bool RecordingToolkit::writePdf(const std::string& path, const PdfTexts& texts, const DrawPages& draw) {
-    pdfs.push_back(path + "|" + texts.title + "|" + texts.author);
+std::string RecordingToolkit::pdfOf(const Paper* /*paper*/, const PdfTexts& texts, const DrawPages& draw) {
+    pdfs.push_back(texts.title + "|" + texts.author);
     RecordedPages pages(printed, lastPage, letterWidth, letterHeight, pointsPerInch);
     draw(pages);
-    return printerReady;
+    return printerReady ? "a PDF" : "";
 }
 
 std::unique_ptr<Graphics> RecordingToolkit::openDialog(const Paper* chosen, int resolution,

@@ -52,8 +52,8 @@ public:
     }
     std::unique_ptr<Paper> makePaper() override;
     std::unique_ptr<Graphics> openDialog(const Paper* paper, int resolution, const std::string& pdfName) override;
-    void preview(const std::string& title, const DrawPages& draw) override;
-    bool writePdf(const std::string& path, const PdfTexts& texts, const DrawPages& draw) override;
+    void preview(const Paper* paper, const std::string& title, const DrawPages& draw) override;
+    std::string pdfOf(const Paper* paper, const PdfTexts& texts, const DrawPages& draw) override;
     std::unique_ptr<Download> start(const std::string& address, const std::string& path,
                                     std::function<void(int status)> done) override {
         downloads.push_back({address, path, std::move(done)});
@@ -98,7 +98,7 @@ public:
     PageSize lastPage; // in the units that it had at its end
     std::function<std::unique_ptr<Paper>()> nextPaper; // in place of the usual letter paper
     std::vector<std::string> previews; // their titles
-    std::vector<std::string> pdfs; // "path|title|author"
+    std::vector<std::string> pdfs; // "title|author"
     std::vector<std::string> printDialogs; // that were shown, by the name of the PDF that they offered
     const Paper* paper = nullptr; // that was given to the last of them
     std::unique_ptr<Paper> printerPaper; // that the user chooses in the print dialog; null leaves what was given
