@@ -27,7 +27,7 @@ namespace {
 constexpr int width = 980;
 constexpr int height = 600;
 constexpr Rect tabPage{174, 96, 792, 484}; // below the row of tabs
-constexpr int figureColumns = 14;
+constexpr std::size_t figureColumns = 9; // of the table, with the names; those of the ranges follow
 constexpr double screenSize = 1.2; // of the first figures, against paper
 
 constexpr Rect onPage(int left, int top, int w, int h) { return {tabPage.left + left, tabPage.top + top, w, h}; }
@@ -49,6 +49,30 @@ std::function<void(Graphics& g)> onWhite(Draw draw) {
     };
 }
 
+enum class Part { figures, ranges };
+
+/// The name of the test period, and of the other columns those that a list shows.
+Summary::TableRow part(const Summary::TableRow& row, Part part) {
+    const auto ranges = row.begin() + static_cast<std::ptrdiff_t>(figureColumns);
+    if (part == Part::figures)
+        return {row.begin(), ranges};
+    Summary::TableRow shown{row.front()};
+    shown.insert(shown.end(), ranges, row.end());
+    return shown;
+}
+
+void buildList(Listbox& list, const Summary::TableRow& headings) {
+    for (int column = 0; column < list.ColumnCount(); ++column) {
+        list.Heading(column, headings[static_cast<std::size_t>(column)]);
+        list.ColumnAlignment(column, column == 0 ? Listbox::AlignLeft : Listbox::AlignRight);
+    }
+    list.HeaderPressed = [](int) { return true; }; // the order stays
+    list.Colors(listColors);
+    list.Border(true);
+    list.DefaultRowHeight(22);
+    list.TextSize(13);
+}
+
 std::string joined(const std::vector<std::string>& lines) {
     std::string text;
     for (const std::string& line : lines)
@@ -58,7 +82,8 @@ std::string joined(const std::vector<std::string>& lines) {
 
 } // namespace
 
-SummaryWindow::SummaryWindow(const Listbox& days) : ListBox1(figureColumns), days_(days) {
+SummaryWindow::SummaryWindow(const Listbox& days)
+    : ListBox1(figureColumns), ListBox2(1 + Ranges::all.size()), days_(days) {
     shape(Kind::document, width, height, {width, anySize, height, anySize});
     Title(tr("Summary"));
     layOut();
@@ -69,7 +94,6 @@ SummaryWindow::SummaryWindow(const Listbox& days) : ListBox1(figureColumns), day
 void SummaryWindow::layOut() {
     constexpr unsigned lockWidth = lockLeft | lockTop | lockRight;
     const int third = tabPage.width / 3;
-    const int row = 250;
     place({
         {&GroupBox1, {10, 12, 148, 292}},
         {&Periods[0], {18, 40, 136, 24}},
@@ -84,8 +108,8 @@ void SummaryWindow::layOut() {
         {&PushButton1, {10, 320, 148, 32}},
         {&PushButton2, {10, 360, 148, 32}},
         {&PushButton3, {10, 400, 148, 32}},
-        {&StaticText1, {168, 12, 806, 20}, lockWidth},
-        {&LinkLine1, {168, 34, 806, 20}, lockWidth},
+        {&StaticText1, {168, 4, 806, 36}, lockWidth},
+        {&LinkLine1, {168, 40, 806, 20}, lockWidth},
         {&TabPanel1, {166, 60, 808, 528}, lockAll},
         {&Canvas1, onPage(0, 0, tabPage.width, 100), lockWidth, &TabPanel1, 0},
         {&ListBox1, onPage(0, 108, tabPage.width, 206), lockWidth, &TabPanel1, 0},
@@ -93,16 +117,17 @@ void SummaryWindow::layOut() {
         {&Canvas2, onPage(0, 0, tabPage.width, 452), lockAll, &TabPanel1, 1},
         {&StaticText3, onPage(0, 458, tabPage.width, 22), lockLeft | lockRight | lockBottom, &TabPanel1, 1},
         {&StaticText4, onPage(0, 0, 2 * third - 6, 20), lockLeft | lockTop, &TabPanel1, 2},
-        {&Canvas3, onPage(0, 22, 2 * third - 6, row - 30), lockLeft | lockTop, &TabPanel1, 2},
-        {&StaticText5, onPage(0, row, tabPage.width, 20), lockLeft | lockTop, &TabPanel1, 2},
-        {&Canvas4, onPage(0, row + 22, tabPage.width, 210), lockAll, &TabPanel1, 2},
+        {&Canvas3, onPage(0, 24, 2 * third - 10, 456), lockLeft | lockTop | lockBottom, &TabPanel1, 2},
         {&StaticText6, onPage(2 * third, 0, third, 20), lockWidth, &TabPanel1, 2},
-        {&Canvas5, onPage(2 * third, 22, tabPage.width - 2 * third, row - 30), lockWidth, &TabPanel1, 2},
-        {&StaticText7, onPage(0, 8, 300, 20), lockLeft | lockTop, &TabPanel1, 3},
-        {&TextField1, onPage(0, 30, 400, 28), lockWidth, &TabPanel1, 3},
-        {&StaticText8, onPage(0, 72, 300, 20), lockLeft | lockTop, &TabPanel1, 3},
-        {&TextArea1, onPage(0, 94, tabPage.width, 220), lockAll, &TabPanel1, 3},
-        {&CheckBox1, onPage(0, 326, tabPage.width, 24), lockLeft | lockRight | lockBottom, &TabPanel1, 3},
+        {&Canvas5, onPage(2 * third, 24, tabPage.width - 2 * third, 456), lockAll, &TabPanel1, 2},
+        {&ListBox2, onPage(0, 0, tabPage.width, 206), lockWidth, &TabPanel1, 3},
+        {&StaticText5, onPage(0, 218, tabPage.width, 20), lockWidth, &TabPanel1, 3},
+        {&Canvas4, onPage(0, 242, tabPage.width, 240), lockAll, &TabPanel1, 3},
+        {&StaticText7, onPage(0, 8, 300, 20), lockLeft | lockTop, &TabPanel1, 4},
+        {&TextField1, onPage(0, 30, 400, 28), lockWidth, &TabPanel1, 4},
+        {&StaticText8, onPage(0, 72, 300, 20), lockLeft | lockTop, &TabPanel1, 4},
+        {&TextArea1, onPage(0, 94, tabPage.width, 220), lockAll, &TabPanel1, 4},
+        {&CheckBox1, onPage(0, 326, tabPage.width, 24), lockLeft | lockRight | lockBottom, &TabPanel1, 4},
         {&Timer1},
     });
 }
@@ -121,20 +146,16 @@ void SummaryWindow::build() {
     PushButton2.Caption(tr("Save as PDF..."));
     PushButton3.Caption(tr("Export Figures..."));
     StaticText1.Bold(true);
-    TabPanel1.Captions({tr("Figures"), tr("Course"), tr("The Day"), tr("For the Visit")});
+    StaticText1.Multiline(true); // in large letters
+    TabPanel1.Captions({tr("Figures"), tr("Course"), tr("The Day"), tr("Ranges"), tr("For the Visit")});
 
-    const Summary::TableRow headings = Summary::tableHeadings();
-    ListBox1.ColumnWidths("14%,4%,4%,5%,6%,4%,5%,9%,9%,8%,8%,8%,8%,8%");
-    for (int column = 0; column < figureColumns; ++column) {
-        ListBox1.Heading(column, headings[static_cast<std::size_t>(column)]);
-        ListBox1.ColumnAlignment(column, column == 0 ? Listbox::AlignLeft : Listbox::AlignRight);
-    }
-    ListBox1.HeaderPressed = [](int) { return true; }; // the order stays
-    ListBox1.Colors(listColors);
-    ListBox1.Border(true);
-    ListBox1.DefaultRowHeight(22);
-    ListBox1.TextSize(11);
+    ListBox1.ColumnWidths("18%,8%,8%,10%,10%,8%,8%,15%,15%");
+    ListBox2.ColumnWidths("25%,15%,15%,15%,15%,15%");
     ListBox1.AccessibleName(tr("Figures by test period"));
+    ListBox2.AccessibleName(tr("Ranges by test period"));
+    const Summary::TableRow headings = Summary::tableHeadings();
+    buildList(ListBox1, part(headings, Part::figures));
+    buildList(ListBox2, part(headings, Part::ranges));
     TextArea2.ReadOnly(true);
     TextArea2.AccessibleName(tr("What stands out"));
     StaticText3.Text(tr("Point at a reading to see it; a click selects its day."));
@@ -211,8 +232,12 @@ void SummaryWindow::showFigures() {
     if (!rows.empty())
         links.push_back({tr("Select their days"), [this, rows] { selectAll(rows); }});
     LinkLine1.show(Summary::leftOutWords(summary_), std::move(links));
-    ListBox1.DeleteAllRows();
-    ListBox1.AddRows(Summary::tableRows(summary_));
+    for (Listbox* list : {&ListBox1, &ListBox2})
+        list->DeleteAllRows();
+    for (const Summary::TableRow& row : Summary::tableRows(summary_)) {
+        ListBox1.AddRows({part(row, Part::figures)});
+        ListBox2.AddRows({part(row, Part::ranges)});
+    }
     std::vector<std::string> lines = Summary::remarksOn(summary_);
     lines.push_back(Summary::weightWords(summary_));
     lines.push_back(Summary::limitsWords(summary_));

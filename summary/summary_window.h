@@ -26,7 +26,8 @@ public:
     LinkLine LinkLine1; // readings that could not be read
     TabPanel TabPanel1;
     Canvas Canvas1; // the first figures
-    Listbox ListBox1; // all figures
+    Listbox ListBox1; // all figures but the ranges
+    Listbox ListBox2; // the ranges
     TextArea TextArea2; // what stands out, and the weight
     Canvas Canvas2; // the course
     StaticText StaticText3; // the reading under the pointer

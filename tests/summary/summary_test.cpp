@@ -368,6 +368,7 @@ TEST_F(SummaryTest, TheWindowFollowsTheTableAndKeepsItsTexts) {
         window.Timer1.fire();
         EXPECT_EQ(window.ListBox1.Cell(0, 1), "2");
         EXPECT_EQ(window.ListBox1.Cell(2, 8), "200 \u00b7 11/21");
+        EXPECT_EQ(window.ListBox2.Cell(0, 5), "1 \u00b7 50\u00a0%");
         window.Periods[0].userChose();
         EXPECT_EQ(window.summary().span, Span::last7);
         window.TextField1.Text("A. Patient");
