@@ -25,12 +25,13 @@ bool isNameOfCopy(const std::string& name) {
 std::optional<Copy> first(const std::vector<std::string>& exceptPaths) {
     const std::string folder = StartupGlobals::gDataFolder ? StartupGlobals::gDataFolder->AbsolutePath() : "";
     for (const std::string& name : SystemFiles::namesIn(folder)) {
-        const std::string path = folder + "/" + name;
+        std::string path = folder;
+        path.append("/").append(name);
         if (!isNameOfCopy(name) || std::find(exceptPaths.begin(), exceptPaths.end(), path) != exceptPaths.end())
             continue;
         std::optional<std::string> content = SystemFiles::read(path);
         if (content && !content->empty() && DamagedFiles::isWholeTable(*content))
-            return Copy{path, std::move(*content)};
+            return Copy{std::move(path), std::move(*content)};
     }
     return std::nullopt;
 }

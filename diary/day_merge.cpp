@@ -175,6 +175,7 @@ private:
 std::vector<Day> groundOf(const std::vector<std::string>& known, const std::vector<Day>& here,
                           const std::vector<Day>& there) {
     std::vector<Side> knownSides;
+    knownSides.reserve(known.size());
     for (const std::string& text : known)
         knownSides.push_back(sideOf(daysIn(text)));
     const auto stoodIn = [&](const Id& id, std::size_t column, const std::string& value) {

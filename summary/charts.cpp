@@ -89,13 +89,13 @@ void drawShareLegend(Graphics& g, double left, double baseline) {
         gap -= swatch + 4 + g.StringWidth(Ranges::title(range));
     gap = std::min(10.0, gap / static_cast<double>(Ranges::all.size()));
     double x = left;
-    for (auto range = Ranges::all.rbegin(); range != Ranges::all.rend(); ++range) {
-        const RangeFill fill = fillOf(*range);
+    for (const Ranges::Range range : rangesUpward) {
+        const RangeFill fill = fillOf(range);
         g.ForeColor(fill.color);
         g.FillRect(x, baseline - 8, swatch, 9);
         renderHatching(g, fill.hatching, x, baseline - 8, swatch, 9, 4);
         g.ForeColor(chartText);
-        const std::string name = Ranges::title(*range);
+        const std::string name = Ranges::title(range);
         g.DrawString(name, x + swatch + 4, baseline);
         x += swatch + 4 + g.StringWidth(name) + gap;
     }
@@ -110,13 +110,12 @@ void drawOnGround(Graphics& g, const std::string& text, double x, double baselin
     drawCentred(g, text, x, baseline);
 }
 
+/// Of the pieces of a bar, from too low, at the left, to too high.
+Ranges::Range rangeOfPiece(int piece) { return rangesUpward.at(static_cast<std::size_t>(piece)); }
+
 class RangeColors : public GTColorTableProvider {
 public:
-    /// From too low, at the left, to too high.
-    Color getColor(int index) override { return fillOf(rangeAt(index)).color; }
-    static Ranges::Range rangeAt(int index) {
-        return Ranges::all.at(Ranges::all.size() - 1 - static_cast<std::size_t>(index));
-    }
+    Color getColor(int index) override { return fillOf(rangeOfPiece(index)).color; }
 };
 
 } // namespace
@@ -147,12 +146,12 @@ void drawShares(const PeriodSummary& summary, Graphics& g) {
     graph->Series(0)->YAxis().visible(false);
     const auto bars = addSeries(*graph, GTSeries::percentBar, RGB(255, 255, 255));
     bars->colorTable(std::make_shared<RangeColors>());
-    bars->hatching = [](int index) { return fillOf(RangeColors::rangeAt(index)).hatching; };
+    bars->hatching = [](int index) { return fillOf(rangeOfPiece(index)).hatching; };
     for (int i = 1; i <= testPeriods; ++i) {
         const Sample& sample = summary.samples[static_cast<std::size_t>(i)];
-        auto point = std::make_shared<GTDataPoint>(sample.inRange.back(), 2.0 * (testPeriods - i) + 0.5);
+        auto point = std::make_shared<GTDataPoint>(sample.in(rangeOfPiece(0)), 2.0 * (testPeriods - i) + 0.5);
         for (int piece = 1; piece < static_cast<int>(Ranges::all.size()); ++piece)
-            point->extraXValue(sample.inRange.at(static_cast<std::size_t>(RangeColors::rangeAt(piece))));
+            point->extraXValue(sample.in(rangeOfPiece(piece)));
         bars->AddDataPoint(std::move(point));
     }
     alignSeries(*graph);
@@ -177,8 +176,8 @@ void drawShares(const PeriodSummary& summary, Graphics& g) {
         g.DrawString(name, plot.left - 6 - g.StringWidth(name), baseline);
         double before = 0;
         for (int piece = 0; piece < static_cast<int>(Ranges::all.size()); ++piece) {
-            const Ranges::Range range = RangeColors::rangeAt(piece);
-            const int count = sample.inRange.at(static_cast<std::size_t>(range));
+            const Ranges::Range range = rangeOfPiece(piece);
+            const int count = sample.in(range);
             const double share = count == 0 ? 0 : percent * count / sample.figures.count;
             if (share >= leastForText)
                 drawOnGround(g, Format(share, "0"), plot.left + plot.width * (before + share / 2) / percent, baseline,

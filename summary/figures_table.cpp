@@ -54,8 +54,9 @@ TableRow rowOf(const std::string& name, const Sample& sample, Unit unit) {
                  variation ? Format(*variation * percent, "0") + "\u00a0%" : none,
                  valueOn(sample.lowest, unit),
                  valueOn(sample.highest, unit)};
-    for (auto range = sample.inRange.rbegin(); range != sample.inRange.rend(); ++range)
-        row.push_back(figures.count > 0 ? Grouped(*range) + " \u00b7 " + share(*range, figures.count) : none);
+    for (const Ranges::Range range : rangesUpward)
+        row.push_back(
+            figures.count > 0 ? Grouped(sample.in(range)) + " \u00b7 " + share(sample.in(range), figures.count) : none);
     return row;
 }
 
@@ -107,8 +108,8 @@ TableRow csvRow(const PeriodSummary& summary, std::size_t testPeriod) {
                  dayOf(sample.lowest),
                  number(figures.highest),
                  dayOf(sample.highest)};
-    for (auto range = sample.inRange.rbegin(); range != sample.inRange.rend(); ++range)
-        row.push_back(Str(*range));
+    for (const Ranges::Range range : rangesUpward)
+        row.push_back(Str(sample.in(range)));
     if (testPeriod == 0) {
         const std::vector<Weight>& weights = summary.readings.weights;
         row.push_back(summary.a1c ? Str(summary.a1c->percent) : "");

@@ -159,13 +159,11 @@ void sift(PeriodSummary& summary) {
     summary.undatedRows = static_cast<int>(undated.size());
 }
 
-int countIn(const Sample& sample, Ranges::Range range) { return sample.inRange[static_cast<std::size_t>(range)]; }
-
 } // namespace
 
-int Sample::above() const { return countIn(*this, Ranges::Range::over) + countIn(*this, Ranges::Range::caution); }
-int Sample::below() const { return countIn(*this, Ranges::Range::low) + countIn(*this, Ranges::Range::under); }
-int Sample::within() const { return countIn(*this, Ranges::Range::inZone); }
+int Sample::above() const { return in(Ranges::Range::over) + in(Ranges::Range::caution); }
+int Sample::below() const { return in(Ranges::Range::low) + in(Ranges::Range::under); }
+int Sample::within() const { return in(Ranges::Range::inZone); }
 
 PeriodSummary summarize(const Listbox& table, Span span, const Date& today) {
     PeriodSummary summary;

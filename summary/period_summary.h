@@ -18,6 +18,10 @@ namespace tallyvane::Summary {
 
 enum class Span { last7, last14, last30, last90, thisMonth, lastMonth, thisYear, all, selected };
 
+/// The ranges in the order in which they are shown: from too low to too high.
+inline constexpr std::array<Ranges::Range, Ranges::all.size()> rangesUpward{
+    Ranges::Range::under, Ranges::Range::low, Ranges::Range::inZone, Ranges::Range::caution, Ranges::Range::over};
+
 /// The readings of one test period, or of all.
 struct Sample {
     Figures figures;
@@ -26,6 +30,7 @@ struct Sample {
     std::optional<Reading> lowest; // the first of that value
     std::optional<Reading> highest;
 
+    int in(Ranges::Range range) const { return inRange[static_cast<std::size_t>(range)]; }
     int above() const; // the target zone
     int below() const;
     int within() const;

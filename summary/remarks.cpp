@@ -19,7 +19,7 @@ constexpr int enoughForAll = 14;
 using Remark = std::optional<std::string>;
 
 Remark tooLow(const PeriodSummary& summary, const TestPeriodNames& names) {
-    const int count = summary.all().inRange[static_cast<std::size_t>(Ranges::Range::under)];
+    const int count = summary.all().in(Ranges::Range::under);
     if (count == 0)
         return std::nullopt;
     const Reading& lowest = *summary.all().lowest;

@@ -100,6 +100,7 @@ std::vector<double> columnEnds(double width) {
     constexpr std::array<double, 14> shares{90, 20, 24, 28, 34, 24, 32, 60, 62, 36, 40, 44, 40, 42}; // of the width
     const double all = std::accumulate(shares.begin(), shares.end(), 0.0);
     std::vector<double> ends;
+    ends.reserve(shares.size());
     for (const double share : shares)
         ends.push_back((ends.empty() ? 0 : ends.back()) + share * width / all);
     return ends;
