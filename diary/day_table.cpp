@@ -60,8 +60,8 @@ void setBaseline(const Listbox& table) { UnsavedFiles::setBaseline(userFile(), t
 
 std::optional<UnsavedFiles::OutsideChange> changedOutside() { return UnsavedFiles::changedOutside(userFile()); }
 
-std::vector<std::string> knownToBoth(const std::string& version) {
-    return UnsavedFiles::knownToBoth(userFile(), version);
+std::vector<std::string> ancestorsOf(const std::string& version) {
+    return UnsavedFiles::ancestorsOf(userFile(), version);
 }
 
 void acceptOutside(const Listbox& table, const UnsavedFiles::OutsideChange& change, bool saysTheSame) {

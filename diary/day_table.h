@@ -44,8 +44,8 @@ void save(const Listbox& table);
 
 /// What another program has made of the file since it was read or saved.
 [[nodiscard]] std::optional<UnsavedFiles::OutsideChange> changedOutside();
-/// Earlier tables that a version left by a synchroniser may stem from.
-[[nodiscard]] std::vector<std::string> knownToBoth(const std::string& version);
+/// Earlier tables that a version left by a synchroniser stems from, as far as that is sure.
+[[nodiscard]] std::vector<std::string> ancestorsOf(const std::string& version);
 /// It is in the table now. `saysTheSame`: the table holds nothing else.
 void acceptOutside(const Listbox& table, const UnsavedFiles::OutsideChange& change, bool saysTheSame);
 /// Keep the file as another program wrote it, and as it was before, in a dated file beside it. Throw IOException when

@@ -24,7 +24,7 @@ void Window1::bringInChanges() {
 /// What both sides had before is not known for sure: nothing is taken away.
 void Window1::bringIn(const ConflictCopies::Copy& copy) {
     const DayMerge::Result joined =
-        DayMerge::joinVersion(DayTable::knownToBoth(copy.content), DayMerge::daysOf(ListBox1), copy.content);
+        DayMerge::joinVersion(DayTable::ancestorsOf(copy.content), DayMerge::daysOf(ListBox1), copy.content);
     show(joined);
     saveData(); // before the copy is out of sight
     ConflictCopies::putAway(copy);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <deque>
+#include <iterator>
 #include <map>
 
 #include "platform/base/date.h"
@@ -175,14 +176,11 @@ void acceptOutside(const UserFile& file, const OutsideChange& change, const std:
     known.beforeLast = change.base;
 }
 
-std::vector<std::string> knownToBoth(const UserFile& file, const std::string& version) {
+std::vector<std::string> ancestorsOf(const UserFile& file, const std::string& version) {
     const Known* known = knownOf(file);
-    if (known == nullptr)
+    if (known == nullptr || known->broughtIn.empty() || version != known->beforeLast)
         return {};
-    std::vector<std::string> texts(known->broughtIn.begin(), known->broughtIn.end());
-    if (!texts.empty() && version == known->beforeLast)
-        texts.pop_back();
-    return texts;
+    return {known->broughtIn.begin(), std::prev(known->broughtIn.end())};
 }
 
 std::optional<std::string> joinOutside(const UserFile& file, const std::string& text, const Join& join) {

@@ -53,10 +53,10 @@ struct OutsideChange {
 /// there, in whatever form, it is not written.
 void acceptOutside(const UserFile& file, const OutsideChange& change, const std::string& text, bool saysTheSame);
 
-/// Of the last texts that other programs wrote and that were brought in here, those that the writer of a version knew,
-/// too: another program's version of the file that a synchroniser has left beside it. If the version is what stood here
-/// until the last of them came, its writer did not know that one.
-[[nodiscard]] std::vector<std::string> knownToBoth(const UserFile& file, const std::string& version);
+/// Earlier texts of the file that a version which a synchroniser has left beside it stems from, as far as that is sure:
+/// of the version that stood here itself, until the last text of another program came, those that had come before. None
+/// for a version that somebody else has written.
+[[nodiscard]] std::vector<std::string> ancestorsOf(const UserFile& file, const std::string& version);
 
 /// Joins a text with what another program has made of its file: `join` gets the common base, the text and what stands
 /// there. The joined text, if it is another than the text; it then counts as brought in, and is to be shown and saved.

@@ -180,8 +180,8 @@ void drawShares(const PeriodSummary& summary, Graphics& g) {
             const int count = sample.in(range);
             const double share = count == 0 ? 0 : percent * count / sample.figures.count;
             if (share >= leastForText)
-                drawOnGround(g, Format(share, "0"), plot.left + plot.width * (before + share / 2) / percent, baseline,
-                             fillOf(range));
+                drawOnGround(g, percentText(count, sample.figures.count),
+                             plot.left + plot.width * (before + share / 2) / percent, baseline, fillOf(range));
             before += share;
         }
     }

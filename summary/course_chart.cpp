@@ -13,6 +13,7 @@ namespace tallyvane::Summary {
 namespace {
 
 constexpr double halfADay = 12 * 60 * 60; // seconds
+constexpr int daysOfWeek = 7;
 constexpr int daysOfMedian = 7;
 constexpr int markSize = 6; // points
 constexpr int smallMark = 4;
@@ -23,8 +24,10 @@ constexpr double toText = 8; // from the middle of a mark to its name
 /// Days a week or some weeks apart, up to the last.
 std::vector<Tick> weekTicks(const Finding::Period& period, int weeks) {
     std::vector<Tick> ticks;
-    for (Date day = period.second; day.TotalSeconds() >= period.first.TotalSeconds(); day = daysAfter(day, -7 * weeks))
+    for (int back = 0; back <= daysBetween(period.first, period.second); back += daysOfWeek * weeks) {
+        const Date day = daysAfter(period.second, -back);
         ticks.emplace_back(day.TotalSeconds(), day.MonthAndDay());
+    }
     return ticks;
 }
 
@@ -45,7 +48,7 @@ std::vector<Tick> dateTicks(const Finding::Period& period) {
     constexpr int daysByWeeks = 120;
     const int days = daysBetween(period.first, period.second) + 1;
     if (days <= daysByWeeks)
-        return weekTicks(period, days / (7 * most) + 1);
+        return weekTicks(period, days / (daysOfWeek * most) + 1);
     constexpr double daysOfMonth = 30.4;
     const double least = days / daysOfMonth / most;
     int months = 1;
@@ -96,16 +99,16 @@ void CourseChart::addMedian(const PeriodSummary& summary) {
     constexpr std::ptrdiff_t fewest = 3;
     const std::vector<Reading>& all = summary.readings.readings;
     std::shared_ptr<GTSeries> line;
+    std::optional<Date> last; // of the line
     auto from = all.begin();
     for (auto to = all.begin(); to != all.end();) {
         const Date day = *to->day;
-        const bool isAfterGap = to != all.begin() && daysBetween(*std::prev(to)->day, day) > daysOfMedian;
         to = std::find_if(to, all.end(), [&](const Reading& reading) { return reading.day != day; });
         while (daysBetween(*from->day, day) >= daysOfMedian)
             ++from;
         if (daysBetween(*all.front().day, day) < daysOfMedian - 1 || to - from < fewest)
             continue;
-        if (!line || isAfterGap) {
+        if (!last || daysBetween(*last, day) > daysOfMedian) {
             line = addSeries(*graph_, GTSeries::line, medianLine);
             line->PenSize(2);
             line->isPointable = false;
@@ -113,6 +116,7 @@ void CourseChart::addMedian(const PeriodSummary& summary) {
         std::vector<double> values;
         std::transform(from, to, std::back_inserter(values), [](const Reading& reading) { return reading.value; });
         line->AddDataValue(day.TotalSeconds(), medianOf(std::move(values)));
+        last = day;
         hasMedian_ = true;
     }
 }

@@ -13,15 +13,8 @@ namespace {
 
 constexpr double percent = 100;
 
-/// "31 %", with a blank that breaks no line. Only none is 0 and only all is 100.
-std::string share(int count, int all) {
-    const std::string unit = "\u00a0%";
-    if (count > 0 && percent * count < 0.5 * all)
-        return "<1" + unit;
-    if (count < all && percent * count >= 99.5 * all)
-        return ">99" + unit;
-    return (all == 0 ? "0" : Format(percent * count / all, "0")) + unit;
-}
+/// "31 %", with a blank that breaks no line.
+std::string share(int count, int all) { return percentText(count, all) + "\u00a0%"; }
 
 /// Day and month in the short form of the desktop: "6/10".
 std::string dayAndMonth(const Date& day) {
@@ -34,13 +27,14 @@ std::string dayAndMonth(const Date& day) {
     return text;
 }
 
-std::string valueOn(const std::optional<Reading>& reading, Unit unit) {
+/// As it was typed, with its day.
+std::string valueOn(const std::optional<Reading>& reading, bool isOfOneYear) {
     if (!reading)
         return "\u2013";
-    return valueText(reading->value, unit) + (reading->day ? " \u00b7 " + dayAndMonth(*reading->day) : "");
+    return Str(reading->value) + " \u00b7 " + (isOfOneYear ? dayAndMonth(*reading->day) : reading->day->ShortDate());
 }
 
-TableRow rowOf(const std::string& name, const Sample& sample, Unit unit) {
+TableRow rowOf(const std::string& name, const Sample& sample, Unit unit, bool isOfOneYear) {
     const std::string none = "\u2013";
     const Figures& figures = sample.figures;
     const auto value = [&](double figure) { return figures.count > 0 ? valueText(figure, unit) : none; };
@@ -52,8 +46,8 @@ TableRow rowOf(const std::string& name, const Sample& sample, Unit unit) {
                  value(figures.median),
                  figures.deviation ? valueText(*figures.deviation, unit) : none,
                  variation ? Format(*variation * percent, "0") + "\u00a0%" : none,
-                 valueOn(sample.lowest, unit),
-                 valueOn(sample.highest, unit)};
+                 valueOn(sample.lowest, isOfOneYear),
+                 valueOn(sample.highest, isOfOneYear)};
     for (const Ranges::Range range : rangesUpward)
         row.push_back(
             figures.count > 0 ? Grouped(sample.in(range)) + " \u00b7 " + share(sample.in(range), figures.count) : none);
@@ -68,7 +62,7 @@ KeyFigure estimatedA1c(const PeriodSummary& summary) {
     const std::string estimate = tr("estimated from finger-stick readings, no laboratory value");
     if (!summary.a1c)
         return {tr("Estimated HbA1c"),
-                summary.dayCount > mostDaysForA1c ? tr("period too long") : tr("not enough readings"), estimate};
+                summary.calendarDays() > mostDaysForA1c ? tr("period too long") : tr("not enough readings"), estimate};
     return {
         tr("Estimated HbA1c"),
         tr("%1\u00a0% (%2\u00a0mmol/mol)", {Format(summary.a1c->percent, "0.0"), Format(summary.a1c->mmolPerMol, "0")}),
@@ -82,8 +76,8 @@ std::string csvField(const std::string& text) {
 
 std::string csvLine(const TableRow& fields) {
     std::string line;
-    for (const std::string& field : fields)
-        line += (line.empty() ? "" : ",") + csvField(field);
+    for (std::size_t i = 0; i < fields.size(); ++i)
+        line.append(i == 0 ? "" : ",").append(csvField(fields[i]));
     return line + "\r\n";
 }
 
@@ -130,9 +124,10 @@ TableRow tableHeadings() {
 }
 
 std::vector<TableRow> tableRows(const PeriodSummary& summary) {
+    const bool isOfOneYear = !summary.days || summary.days->first.Year() == summary.days->second.Year();
     std::vector<TableRow> rows;
     for (std::size_t i = 0; i < summary.samples.size(); ++i)
-        rows.push_back(rowOf(summary.names.title[i], summary.samples[i], summary.unit));
+        rows.push_back(rowOf(summary.names.title[i], summary.samples[i], summary.unit, isOfOneYear));
     return rows;
 }
 
@@ -174,7 +169,8 @@ std::string leftOutWords(const PeriodSummary& summary) {
     };
     add(summary.readings.unreadable, tr("1 reading could not be read."), "%1 readings could not be read.");
     add(summary.ofOtherUnit, tr("1 reading looks like another unit."), "%1 readings look like another unit.");
-    add(summary.undatedRows, tr("1 row with readings has no date."), "%1 rows with readings have no date.");
+    add(static_cast<int>(summary.undatedRows.size()), tr("1 row with readings has no date."),
+        "%1 rows with readings have no date.");
     return words;
 }
 
@@ -221,9 +217,11 @@ std::string weightWords(const PeriodSummary& summary) {
 }
 
 std::string figuresCsv(const PeriodSummary& summary) {
-    std::string text =
-        csvLine({"test period", "from", "to", "unit", "n", "days", "mean", "median", "sd", "cv", "lowest", "lowest on",
-                 "highest", "highest on", "too low", "low", "target zone", "high", "too high"});
+    std::string text = csvLine({"test period",  "from",        "to",        "unit",       "n",
+                                "days",         "mean",        "median",    "sd",         "cv",
+                                "lowest",       "lowest on",   "highest",   "highest on", "too low",
+                                "low",          "target zone", "high",      "too high",   "hba1c estimated %",
+                                "first weight", "last weight", "unreadable"});
     for (std::size_t i = 0; i < summary.samples.size(); ++i)
         text += csvLine(csvRow(summary, i));
     return text;

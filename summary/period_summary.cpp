@@ -107,7 +107,7 @@ std::array<Sample, testPeriods + 1> samplesOf(const std::vector<Reading>& readin
 
 Spread spreadOf(const PeriodSummary& summary) {
     Spread spread;
-    spread.daysOfPeriod = summary.days ? daysOf(*summary.days) : 0;
+    spread.daysOfPeriod = summary.calendarDays();
     spread.daysWithReadings = summary.all().days;
     for (std::size_t i = 0; i < spread.readings.size(); ++i)
         spread.readings[i] = summary.samples[i + 1].figures.count;
@@ -135,16 +135,10 @@ void addRow(std::vector<int>& rows, int row) {
         rows.push_back(row);
 }
 
-/// Takes out of the readings those that no meter shows, and those of rows without a date; notes those that can't be of
-/// the unit.
+/// Takes out of the readings those that no meter shows, and notes those that can't be of the unit.
 void sift(PeriodSummary& summary) {
-    std::vector<int> undated;
     Readings& all = summary.readings;
     std::erase_if(all.readings, [&](const Reading& reading) {
-        if (!reading.day) {
-            addRow(undated, reading.row);
-            return true;
-        }
         if (reading.value > highestReading) {
             ++all.unreadable;
             addRow(all.unreadableRows, reading.row);
@@ -156,10 +150,34 @@ void sift(PeriodSummary& summary) {
         }
         return false;
     });
-    summary.undatedRows = static_cast<int>(undated.size());
+}
+
+/// Nothing where there are no readings, or some that are none or of another unit.
+std::optional<Sample> sampleBefore(const Listbox& table, const Finding::Period& period, Unit unit) {
+    const int length = daysOf(period);
+    const Finding::Period before(daysAfter(period.first, -length), daysAfter(period.first, -1));
+    const std::vector<Reading> readings = readingsOf(table, Finding::rowsIn(table, before)).readings;
+    const bool isSound = std::all_of(readings.begin(), readings.end(), [unit](const Reading& reading) {
+        return reading.value <= highestReading && canBeOf(unit, reading.value);
+    });
+    return !readings.empty() && isSound ? std::optional(sampleOf(readings)) : std::nullopt;
+}
+
+/// Takes the rows without a date out of those of the period; those of the whole table that have readings are noted.
+void dropUndated(const Listbox& table, std::vector<bool>& rows, PeriodSummary& summary) {
+    for (int row = 0; row < table.ListCount(); ++row) {
+        if (!table.Cell(row, DayTable::firstKey).empty() || dayOf(table, row))
+            continue;
+        rows[static_cast<std::size_t>(row)] = false;
+        for (int testPeriod = 1; testPeriod <= testPeriods; ++testPeriod)
+            if (!table.Cell(row, testPeriod).empty())
+                addRow(summary.undatedRows, row);
+    }
 }
 
 } // namespace
+
+int PeriodSummary::calendarDays() const { return days ? daysOf(*days) : 0; }
 
 int Sample::above() const { return in(Ranges::Range::over) + in(Ranges::Range::caution); }
 int Sample::below() const { return in(Ranges::Range::low) + in(Ranges::Range::under); }
@@ -180,18 +198,15 @@ PeriodSummary summarize(const Listbox& table, Span span, const Date& today) {
         summary.dayCount = span == Span::selected ? static_cast<int>(dates.size()) : daysOf(*summary.days);
         summary.isContinuous = summary.dayCount == daysOf(*summary.days);
     }
+    dropUndated(table, rows, summary);
     for (int row = 0; row < table.ListCount(); ++row)
         if (rows[static_cast<std::size_t>(row)])
             summary.rows.push_back(row);
     summary.readings = readingsOf(table, rows);
     sift(summary);
     summary.samples = samplesOf(summary.readings.readings);
-    if (span != Span::all && summary.days && summary.isContinuous) {
-        const int length = daysOf(*summary.days);
-        const Finding::Period before(daysAfter(summary.days->first, -length), daysAfter(summary.days->first, -1));
-        const Sample sample = sampleOf(readingsOf(table, Finding::rowsIn(table, before)).readings);
-        summary.before = sample.figures.count > 0 ? std::optional(sample) : std::nullopt;
-    }
+    if (span != Span::all && summary.days && summary.isContinuous)
+        summary.before = sampleBefore(table, *summary.days, summary.unit);
     if (isEnoughForA1c(spreadOf(summary)) && summary.ofOtherUnit == 0)
         summary.a1c = a1cOfMean(inMgPerDecilitre(summary.all().figures.mean, summary.unit));
     return summary;

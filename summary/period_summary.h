@@ -42,8 +42,10 @@ struct PeriodSummary {
     TestPeriodNames names;
     /// Nothing where no row has a date.
     std::optional<Finding::Period> days;
-    /// Of the calendar, up to today; of selected days those that are selected.
+    /// Of the calendar; of selected days those that are selected.
     int dayCount = 0;
+    /// From the first to the last.
+    int calendarDays() const;
     /// Every day from the first to the last belongs to it.
     bool isContinuous = true;
     std::vector<int> rows; // of the table
@@ -59,7 +61,7 @@ struct PeriodSummary {
     int ofOtherUnit = 0;
     std::vector<int> rowsOfOtherUnit;
     /// Rows of the table with readings and without a date, which are no part of any period.
-    int undatedRows = 0;
+    std::vector<int> undatedRows;
 
     /// More than half of the readings are of the other unit, so that the ranges say nothing of them.
     bool isOfOtherUnit() const { return 2 * ofOtherUnit > all().figures.count; }

@@ -24,7 +24,7 @@ Remark tooLow(const PeriodSummary& summary, const TestPeriodNames& names) {
         return std::nullopt;
     const Reading& lowest = *summary.all().lowest;
     const std::string when = names.words[static_cast<std::size_t>(lowest.testPeriod)];
-    const std::string value = valueWithUnit(lowest.value, summary.unit);
+    const std::string value = Str(lowest.value) + " " + nameOf(summary.unit);
     const std::string where =
         lowest.day ? tr("%1 %2 on %3", {value, when, lowest.day->AbbreviatedDate()}) : tr("%1 %2", {value, when});
     const std::string limit = valueWithUnit(Globals::gUnder, summary.unit);
@@ -94,8 +94,11 @@ std::vector<std::string> remarksOn(const PeriodSummary& summary) {
                    {nameOf(summary.unit)})};
     const TestPeriodNames& names = summary.names;
     if (summary.ofOtherUnit > 0)
-        remarks.push_back(tr("%1 readings can't be in %2, the unit of your limits: look at their days first.",
-                             {Grouped(summary.ofOtherUnit), nameOf(summary.unit)}));
+        remarks.push_back(summary.ofOtherUnit == 1
+                              ? tr("1 reading can't be in %1, the unit of your limits: look at its day first.",
+                                   {nameOf(summary.unit)})
+                              : tr("%1 readings can't be in %2, the unit of your limits: look at their days first.",
+                                   {Grouped(summary.ofOtherUnit), nameOf(summary.unit)}));
     for (Remark& remark : std::vector{tooLow(summary, names), highestTime(summary, names), spread(summary)})
         if (remark)
             remarks.push_back(std::move(*remark));

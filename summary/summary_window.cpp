@@ -228,9 +228,10 @@ void SummaryWindow::showFigures() {
                          tr("all values in %1", {Summary::nameOf(summary_.unit)}));
     std::vector<int> rows = summary_.readings.unreadableRows;
     rows.insert(rows.end(), summary_.rowsOfOtherUnit.begin(), summary_.rowsOfOtherUnit.end());
+    rows.insert(rows.end(), summary_.undatedRows.begin(), summary_.undatedRows.end());
     std::vector<LinkLine::Link> links;
     if (!rows.empty())
-        links.push_back({tr("Select their days"), [this, rows] { selectAll(rows); }});
+        links.push_back({tr("Select them"), [this, rows] { selectAll(rows); }});
     LinkLine1.show(Summary::leftOutWords(summary_), std::move(links));
     for (Listbox* list : {&ListBox1, &ListBox2})
         list->DeleteAllRows();
@@ -299,12 +300,14 @@ void SummaryWindow::selectAll(const std::vector<int>& rows) {
 
 // The page for the visit
 
+/// Of the table as it is at that moment: a preview stays open while other programs change it.
 void SummaryWindow::drawPages(Graphics& g) const {
-    const int pages = 1 + (CheckBox1.Value() ? Summary::dayPageCount(summary_) : 0);
-    Summary::drawVisitPage(g, summary_,
+    const Summary::PeriodSummary summary = Summary::summarize(days_, span(), Date());
+    const int pages = 1 + (CheckBox1.Value() ? Summary::dayPageCount(summary) : 0);
+    Summary::drawVisitPage(g, summary,
                            {{TextField1.Text(), TextArea1.Text()}, Summary::medicationLines(), Date(), pages});
     if (CheckBox1.Value())
-        Summary::drawDayPages(g, days_, summary_, 2, pages);
+        Summary::drawDayPages(g, days_, summary, 2, pages);
 }
 
 const Paper* SummaryWindow::paper() { return Globals::ps ? Globals::ps->paper() : nullptr; }

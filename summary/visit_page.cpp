@@ -149,7 +149,7 @@ void drawLowest(Page& page, const PeriodSummary& summary, double width) {
     double baseline = page.y + 14;
     for (const Reading& reading : readings) {
         page.font(8.5, black, true);
-        page.right(valueText(reading.value, summary.unit), 22, baseline);
+        page.right(Str(reading.value), 22, baseline);
         page.font(8.5, black);
         const std::string day = reading.day ? reading.day->AbbreviatedDate() : "";
         page.left(page.fitting(day + ", " + names.words[static_cast<std::size_t>(reading.testPeriod)], width - 28), 28,

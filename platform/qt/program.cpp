@@ -17,6 +17,7 @@
 #include "platform/qt/font_scale.h"
 #include "platform/qt/instance_channel.h"
 #include "platform/qt/pictures.h"
+#include "platform/qt/qt_slow_work.h"
 #include "platform/qt/qt_toolkit.h"
 #include "platform/qt/unix_signals.h"
 
@@ -113,7 +114,10 @@ QtProgram::QtProgram(int& argc, char** argv, const Rect& largestWindow)
                      });
     QObject::connect(
         &application, &QGuiApplication::commitDataRequest, &application,
-        [this](QSessionManager&) { deliverUnasked(QCoreApplication::instance(), onEndRequested); },
+        [this](QSessionManager&) {
+            QtSlowWork::finish(); // when this returns the session may end the program
+            deliver(onEndRequested);
+        },
         Qt::DirectConnection);
 }
 

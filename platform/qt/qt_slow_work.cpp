@@ -2,10 +2,13 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QThread>
 
 #include <algorithm>
 #include <chrono>
+#include <functional>
 #include <future>
+#include <system_error>
 #include <thread>
 
 #include "platform/qt/convert.h"
@@ -70,14 +73,22 @@ bool isDone(const std::future<void>& work, std::chrono::milliseconds wait) {
 } // namespace
 
 void QtSlowWork::run(const std::string& notice, const std::function<void()>& work) {
-    if (underWay != nullptr) { // a part of that work
+    const bool isPartOfIt = QThread::currentThread() != QCoreApplication::instance()->thread();
+    if (underWay != nullptr && !isPartOfIt)
+        underWay->wait();
+    if (underWay != nullptr || isPartOfIt) {
         work();
         return;
     }
     std::packaged_task<void()> task(work);
     std::future<void> result = task.get_future();
     const UnderWay held(result);
-    const std::jthread thread(std::move(task));
+    std::jthread thread;
+    try {
+        thread = std::jthread(std::ref(task));
+    } catch (const std::system_error&) { // no thread can be had
+        task();
+    }
     if (!isDone(result, moment)) {
         const UnaskedEventsHeld eventsHeld;
         const Notice shown(notice);

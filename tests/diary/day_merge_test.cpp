@@ -83,13 +83,15 @@ TEST_F(DayMergeTest, WhatAVersionStemsFromIsWhatCameFromOutside) {
     };
     write(applicationFile("7VXData"), "loaded\n");
     UnsavedFiles::setBaseline(days, "loaded\n");
-    EXPECT_EQ(UnsavedFiles::knownToBoth(days, "version\n"), Texts()) << "what was loaded may be nobody else's";
+    EXPECT_EQ(UnsavedFiles::ancestorsOf(days, "loaded\n"), Texts()) << "what was loaded may be nobody else's";
     arrives("first\n");
     EXPECT_TRUE(UnsavedFiles::save(days, "mine\n"));
-    EXPECT_EQ(UnsavedFiles::knownToBoth(days, "version\n"), Texts{"first\n"});
+    EXPECT_EQ(UnsavedFiles::ancestorsOf(days, "mine\n"), Texts()) << "it is no version yet";
     arrives("second\n");
-    EXPECT_EQ(UnsavedFiles::knownToBoth(days, "version\n"), (Texts{"first\n", "second\n"}));
-    EXPECT_EQ(UnsavedFiles::knownToBoth(days, "mine\n"), Texts{"first\n"}) << "its writer did not know the second";
+    EXPECT_EQ(UnsavedFiles::ancestorsOf(days, "mine\n"), Texts{"first\n"}) << "its writer did not know the second";
+    EXPECT_EQ(UnsavedFiles::ancestorsOf(days, "version\n"), Texts()) << "nobody knows what its writer knew";
+    arrives("third\n");
+    EXPECT_EQ(UnsavedFiles::ancestorsOf(days, "mine\n"), Texts());
 }
 
 TEST_F(DayMergeTest, WhatOneSideHasChangedIsTaken) {

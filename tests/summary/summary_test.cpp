@@ -108,8 +108,8 @@ TEST_F(SummaryTest, APeriodIsOfItsDatesInAnyOrder) {
     EXPECT_EQ(chosen.dayCount, 2);
     EXPECT_FALSE(chosen.isContinuous);
     EXPECT_FALSE(chosen.before);
-    EXPECT_EQ(week.undatedRows, 0);
-    EXPECT_EQ(summarize(table_, Span::all, today_).undatedRows, 1);
+    EXPECT_EQ(week.undatedRows, std::vector<int>{5});
+    EXPECT_EQ(summarize(table_, Span::all, today_).undatedRows, std::vector<int>{5});
     EXPECT_EQ(chosen.all().figures.highest, 500);
 }
 
@@ -214,6 +214,33 @@ TEST_F(SummaryTest, TheCourseKnowsTheReadingUnderThePointer) {
     EXPECT_EQ(found[1].row, 1);
     EXPECT_EQ(found[1].testPeriod, 7) << "the one on top";
     EXPECT_EQ(found[1].value, 200);
+}
+
+TEST_F(SummaryTest, TheMedianOfAWeekBreaksWhereThereAreNoReadings) {
+    for (int day = 0; day < 90; ++day)
+        if (day < 20 || day >= 50)
+            add(daysAfter(Date(2026, 8, 25), day).ShortDate(), {"100"});
+    CourseChart course(summarize(table_, Span::last90, today_));
+    GraphicsRecorder g(900, 300);
+    course.draw(g);
+    int segments = 0;
+    for (const GraphicsRecorder::Call& call : g.calls())
+        for (const Object2D& shape : call.shapes)
+            if (const auto* segment = std::get_if<CurveShape>(&shape)) {
+                ++segments;
+                EXPECT_LT(segment->X2 - segment->X, 100) << "a line over 30 days without readings";
+            }
+    EXPECT_GT(segments, 30);
+}
+
+TEST_F(SummaryTest, TheComparisonIsOfSoundReadingsAlone) {
+    add("11/22/2026", {"100"});
+    add("11/15/2026", {"150"});
+    EXPECT_EQ(summarize(table_, Span::last7, today_).before->figures.mean, 150);
+    table_.Cell(1, 2, "15000");
+    EXPECT_FALSE(summarize(table_, Span::last7, today_).before) << "a slip of the finger";
+    table_.Cell(1, 2, "5.5");
+    EXPECT_FALSE(summarize(table_, Span::last7, today_).before) << "another unit";
 }
 
 TEST_F(SummaryTest, PicturesOfLittleAreDrawnAndSaySo) {
@@ -338,6 +365,8 @@ TEST_F(SummaryTest, TheFileOfFiguresIsExact) {
         return all;
     }();
     ASSERT_EQ(lines.size(), 10U);
+    for (const std::size_t line : {0U, 1U, 3U})
+        EXPECT_EQ(CountFields(lines[line], ","), 23) << lines[line];
     EXPECT_EQ(lines[1].substr(0, 50), "All readings,2026-11-16,2026-11-22,mg/dL,3,2,97.16");
     EXPECT_EQ(
         lines[2],
