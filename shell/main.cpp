@@ -28,8 +28,8 @@ int main(int argc, char** argv) {
         return 0;
     }
     SystemFiles::hideMemory();
-    // As wide as the summary, as high as the main window, with frames, menus and toolbar.
-    constexpr Rect largestWindow{0, 0, 980, 660};
+    // As wide as the editor of headings and the summary, as high as the main window, with frames, menus and toolbar.
+    constexpr Rect largestWindow{0, 0, 930, 660};
     QtProgram program(argc, argv, largestWindow);
     const CommandLine commandLine({argv + 1, argv + argc}); // without the toolkit's own options
     if (!commandLine.error.empty())

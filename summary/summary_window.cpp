@@ -24,9 +24,9 @@ namespace tallyvane {
 
 namespace {
 
-constexpr int width = 980;
+constexpr int width = 930;
 constexpr int height = 600;
-constexpr Rect tabPage{174, 96, 792, 484}; // below the row of tabs
+constexpr Rect tabPage{174, 96, 742, 484}; // below the row of tabs
 constexpr std::size_t figureColumns = 9; // of the table, with the names; those of the ranges follow
 constexpr double screenSize = 1.2; // of the first figures, against paper
 
@@ -108,9 +108,9 @@ void SummaryWindow::layOut() {
         {&PushButton1, {10, 320, 148, 32}},
         {&PushButton2, {10, 360, 148, 32}},
         {&PushButton3, {10, 400, 148, 32}},
-        {&StaticText1, {168, 4, 806, 36}, lockWidth},
-        {&LinkLine1, {168, 40, 806, 20}, lockWidth},
-        {&TabPanel1, {166, 60, 808, 528}, lockAll},
+        {&StaticText1, {168, 4, 756, 36}, lockWidth},
+        {&LinkLine1, {168, 40, 756, 20}, lockWidth},
+        {&TabPanel1, {166, 60, 758, 528}, lockAll},
         {&Canvas1, onPage(0, 0, tabPage.width, 100), lockWidth, &TabPanel1, 0},
         {&ListBox1, onPage(0, 108, tabPage.width, 206), lockWidth, &TabPanel1, 0},
         {&TextArea2, onPage(0, 324, tabPage.width, 158), lockAll, &TabPanel1, 0},

@@ -28,7 +28,7 @@ xdotool key Return # the dates are not in the form of this desktop
 in_front
 click_from_bottom 200 465 # a reading of the first day
 xdotool key Escape shift+Next
-click_from_bottom 712 548
+click_from_bottom 640 548
 until_true graph_window
 until_true active "$graph"
 one=$(picture)

@@ -56,7 +56,7 @@ in_front
 until_true grep -qx Breakfast "$folder/7VXHeadings"
 
 # Logs: two lines of food, typed at once, closed by the close button.
-toolbar 581
+toolbar 506
 side_window Logs
 xdotool type bread
 xdotool key Return
@@ -66,7 +66,7 @@ close_by Logs alt+F4
 until_true holds Tallyvane/QVXLogData '@#@bread$%$milk@#@@#@'
 
 # Team: a new contact with a name.
-toolbar 646
+toolbar 571
 side_window Information
 click_in_side 44 398
 sleep 0.3
@@ -112,7 +112,7 @@ close_by Files alt+F4
 until_true grep -qx 'Handbook@@@www.example.org' "$folder/Tallyvane/QVXFileData"
 
 # The end of the program closes what is still open, and saves it.
-toolbar 581
+toolbar 506
 side_window Logs
 xdotool key ctrl+End
 xdotool type ", tea"
@@ -127,7 +127,7 @@ for file in "Brindlemarks Preferences" 7VXHeadings QVXContacts QVXMedications Ta
 done
 start
 in_front
-for look in '119 Headings Editor' '581 Logs' '646 Information'; do
+for look in '119 Headings Editor' '506 Logs' '571 Information'; do
     toolbar "${look%% *}"
     side_window "${look#* }"
     close_by "${look#* }" alt+F4
