@@ -172,14 +172,14 @@ private:
 
 /// A base for days that stand on both sides: where one value of a cell was known to both and the other is new, the
 /// known one.
-std::vector<Day> groundOf(const std::vector<std::string>& known, const std::vector<Day>& here,
+std::vector<Day> groundOf(const std::vector<std::string>& ancestors, const std::vector<Day>& here,
                           const std::vector<Day>& there) {
-    std::vector<Side> knownSides;
-    knownSides.reserve(known.size());
-    for (const std::string& text : known)
-        knownSides.push_back(sideOf(daysIn(text)));
+    std::vector<Side> ancestorSides;
+    ancestorSides.reserve(ancestors.size());
+    for (const std::string& text : ancestors)
+        ancestorSides.push_back(sideOf(daysIn(text)));
     const auto stoodIn = [&](const Id& id, std::size_t column, const std::string& value) {
-        return std::any_of(knownSides.begin(), knownSides.end(), [&](const Side& side) {
+        return std::any_of(ancestorSides.begin(), ancestorSides.end(), [&](const Side& side) {
             const auto day = side.days.find(id);
             return day != side.days.end() && day->second[column] == value;
         });
@@ -209,9 +209,9 @@ std::vector<Day> groundOf(const std::vector<std::string>& known, const std::vect
 
 } // namespace
 
-Result joinVersion(const std::vector<std::string>& known, const std::vector<Day>& here, const std::string& there) {
+Result joinVersion(const std::vector<std::string>& ancestors, const std::vector<Day>& here, const std::string& there) {
     const std::vector<Day> version = daysIn(there);
-    return Joining(groundOf(known, here, version), here, version).result();
+    return Joining(groundOf(ancestors, here, version), here, version).result();
 }
 
 std::vector<Day> daysOf(const Listbox& table) {

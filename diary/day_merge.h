@@ -53,8 +53,9 @@ std::vector<Day> daysIn(const std::string& file);
 Result join(const std::string& base, const std::vector<Day>& here, const std::string& there);
 
 /// Joins with a version of which nobody knows what both began with. Days and readings of both stay. Of two values of a
-/// cell the new one is taken, if the other one stood there in a table that both sides knew; else they are a conflict.
-Result joinVersion(const std::vector<std::string>& known, const std::vector<Day>& here, const std::string& there);
+/// cell the new one is taken, if the other one stood there in a table that the version stems from; else they are a
+/// conflict.
+Result joinVersion(const std::vector<std::string>& ancestors, const std::vector<Day>& here, const std::string& there);
 
 /// Puts the value from there in the cell of a conflict, as a change of the step that was begun before. False, and
 /// nothing done, when the cell does not hold the value from here any more.

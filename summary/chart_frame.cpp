@@ -59,10 +59,7 @@ std::unique_ptr<GTGraph> framedGraph(const Extent& across, std::vector<Tick> tic
     return graph;
 }
 
-RoundTicks upTo(double highest) {
-    constexpr int mostSteps = 6;
-    return roundTicks({0, std::max(highest, Globals::gOver)}, mostSteps);
-}
+RoundTicks upTo(double highest) { return roundTicks({0, std::max(highest, Globals::gOver)}, mostTicks); }
 
 void addLimits(GTGraph& graph) {
     graph.addBand({Globals::gLow, Globals::gCaution, targetBand});
@@ -132,6 +129,11 @@ std::string fitted(const Graphics& g, const std::string& text, double width) {
         while (fits + step < Len(text) && g.StringWidth(Left(text, fits + step) + "...") <= width)
             fits += step;
     return Left(text, fits) + "...";
+}
+
+double halfFigure(const Graphics& g) {
+    constexpr double partOfAscent = 0.36;
+    return g.TextAscent() * partOfAscent;
 }
 
 void drawCentred(Graphics& g, const std::string& text, double x, double baseline) {

@@ -15,6 +15,7 @@ namespace tallyvane::Summary {
 
 inline constexpr int chartTextSize = 10; // points
 inline constexpr const char* summaryFont = "Arial"; // narrow, and the same on screen and paper
+inline constexpr int mostTicks = 6; // of a vertical axis, but for its first
 inline constexpr Color chartText = RGB(60, 60, 60);
 inline constexpr Color targetBand = RGB(222, 239, 222);
 inline constexpr Color limitLine = RGB(120, 120, 120);
@@ -57,6 +58,8 @@ RangeFill fillOf(Ranges::Range range);
 void setChartFont(Graphics& g, bool isBold = false);
 /// As much of a text as has room, with "..." where it is cut.
 [[nodiscard]] std::string fitted(const Graphics& g, const std::string& text, double width);
+/// Half the height of a figure: so far below a place a baseline has its text stand in the middle.
+[[nodiscard]] double halfFigure(const Graphics& g);
 /// A line of text with its middle at x.
 void drawCentred(Graphics& g, const std::string& text, double x, double baseline);
 

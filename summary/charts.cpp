@@ -8,7 +8,7 @@
 #include "platform/base/translation.h"
 #include "platform/drawing/wrapped_text.h"
 #include "summary/chart_frame.h"
-#include "summary/test_period_names.h"
+#include "summary/figures_table.h"
 
 namespace tallyvane::Summary {
 
@@ -16,7 +16,6 @@ namespace {
 
 constexpr double lineHeight = 14;
 constexpr double axisToLabel = 9;
-constexpr int mostSteps = 6;
 constexpr Color boxLine = RGB(31, 92, 170);
 constexpr Color boxFill = RGB(207, 220, 241);
 
@@ -118,6 +117,36 @@ public:
     Color getColor(int index) override { return fillOf(rangeOfPiece(index)).color; }
 };
 
+constexpr double percent = 100;
+constexpr double rowsOfShares = 2.0 * testPeriods; // a bar, and the gap to the next one
+
+void addShares(GTGraph& graph, const PeriodSummary& summary) {
+    const auto bars = addSeries(graph, GTSeries::percentBar, RGB(255, 255, 255));
+    bars->colorTable(std::make_shared<RangeColors>());
+    bars->hatching = [](int index) { return fillOf(rangeOfPiece(index)).hatching; };
+    for (int i = 1; i <= testPeriods; ++i) {
+        const Sample& sample = summary.samples[static_cast<std::size_t>(i)];
+        auto point = std::make_shared<GTDataPoint>(sample.in(rangeOfPiece(0)), 2.0 * (testPeriods - i) + 0.5);
+        for (int piece = 1; piece < static_cast<int>(Ranges::all.size()); ++piece)
+            point->extraXValue(sample.in(rangeOfPiece(piece)));
+        bars->AddDataPoint(std::move(point));
+    }
+}
+
+/// The shares of one bar, in the pieces that hold a text.
+void drawShareTexts(Graphics& g, const Sample& sample, const Rect& plot, double baseline) {
+    constexpr double leastForText = 9; // percent
+    double before = 0;
+    for (const Ranges::Range range : rangesUpward) {
+        const int count = sample.in(range);
+        const double share = count == 0 ? 0 : percent * count / sample.figures.count;
+        if (share >= leastForText)
+            drawOnGround(g, percentText(count, sample.figures.count),
+                         plot.left + plot.width * (before + share / 2) / percent, baseline, fillOf(range));
+        before += share;
+    }
+}
+
 } // namespace
 
 void drawDay(const PeriodSummary& summary, Graphics& g) {
@@ -137,29 +166,16 @@ void drawDay(const PeriodSummary& summary, Graphics& g) {
 }
 
 void drawShares(const PeriodSummary& summary, Graphics& g) {
-    constexpr double percent = 100;
-    constexpr double leastForText = 9; // percent that hold the text of one
-    const TestPeriodNames& names = summary.names;
-    const RoundTicks rows{{0, 2.0 * testPeriods}, 1};
     const std::vector<Tick> ticks{{0, "0 %"}, {25, "25 %"}, {50, "50 %"}, {75, "75 %"}, {100, "100 %"}};
-    std::unique_ptr<GTGraph> graph = framedGraph({0, percent}, ticks, rows);
-    graph->Series(0)->YAxis().visible(false);
-    const auto bars = addSeries(*graph, GTSeries::percentBar, RGB(255, 255, 255));
-    bars->colorTable(std::make_shared<RangeColors>());
-    bars->hatching = [](int index) { return fillOf(rangeOfPiece(index)).hatching; };
-    for (int i = 1; i <= testPeriods; ++i) {
-        const Sample& sample = summary.samples[static_cast<std::size_t>(i)];
-        auto point = std::make_shared<GTDataPoint>(sample.in(rangeOfPiece(0)), 2.0 * (testPeriods - i) + 0.5);
-        for (int piece = 1; piece < static_cast<int>(Ranges::all.size()); ++piece)
-            point->extraXValue(sample.in(rangeOfPiece(piece)));
-        bars->AddDataPoint(std::move(point));
-    }
-    alignSeries(*graph);
     setChartFont(g);
     double widest = 0;
     for (std::size_t i = 1; i <= testPeriods; ++i)
-        widest = std::max(widest, g.StringWidth(names.title[i]));
+        widest = std::max(widest, g.StringWidth(summary.names.title[i]));
     widest = std::min(widest, g.Width() / 3);
+    std::unique_ptr<GTGraph> graph = framedGraph({0, percent}, ticks, {{0, rowsOfShares}, 1});
+    graph->Series(0)->YAxis().visible(false);
+    addShares(*graph, summary);
+    alignSeries(*graph);
     graph->marginLeft = static_cast<int>(widest) + 8;
     graph->marginRight = 16;
     graph->marginBottom = static_cast<int>(lineHeight) + 2;
@@ -168,22 +184,11 @@ void drawShares(const PeriodSummary& summary, Graphics& g) {
     setChartFont(g);
     const Rect& plot = graph->plot();
     for (std::size_t i = 1; i <= testPeriods; ++i) {
-        const Sample& sample = summary.samples[i];
-        const double baseline =
-            plot.top + plot.height * (2.0 * static_cast<double>(i) - 1) / rows.range.high + g.TextAscent() * 0.36;
+        const double middle = plot.top + plot.height * (2.0 * static_cast<double>(i) - 1) / rowsOfShares;
         g.ForeColor(chartText);
-        const std::string name = fitted(g, names.title[i], widest);
-        g.DrawString(name, plot.left - 6 - g.StringWidth(name), baseline);
-        double before = 0;
-        for (int piece = 0; piece < static_cast<int>(Ranges::all.size()); ++piece) {
-            const Ranges::Range range = rangeOfPiece(piece);
-            const int count = sample.in(range);
-            const double share = count == 0 ? 0 : percent * count / sample.figures.count;
-            if (share >= leastForText)
-                drawOnGround(g, percentText(count, sample.figures.count),
-                             plot.left + plot.width * (before + share / 2) / percent, baseline, fillOf(range));
-            before += share;
-        }
+        const std::string name = fitted(g, summary.names.title[i], widest);
+        g.DrawString(name, plot.left - 6 - g.StringWidth(name), middle + halfFigure(g));
+        drawShareTexts(g, summary.samples[i], plot, middle + halfFigure(g));
     }
     drawShareLegend(g, 4, g.Height() - 4);
 }
@@ -215,19 +220,23 @@ void drawRises(const PeriodSummary& summary, Graphics& g) {
     const TestPeriodNames& names = summary.names;
     Boxes boxes;
     Extent extent{0, 0};
+    int rises = 0;
     for (int meal = 0; meal < static_cast<int>(names.meals.size()); ++meal) {
         const Figures& figures = boxes.figures.emplace_back(figuresOf(risesAt(summary, meal)));
         boxes.labels.push_back(names.meals[static_cast<std::size_t>(meal)]);
         extent = {std::min(extent.low, figures.lowest), std::max(extent.high, figures.highest)};
+        rises += figures.count;
     }
-    if (!names.areUsual)
-        return;
-    if (std::all_of(boxes.figures.begin(), boxes.figures.end(), [](const Figures& f) { return f.count == 0; })) {
+    if (rises == 0 || !names.areUsual) {
         setChartFont(g);
-        DrawString(g, tr("No day has readings both before and after a meal."), 4, 4 * lineHeight, g.Width() - 8);
+        DrawString(g,
+                   names.areUsual
+                       ? tr("No day has readings both before and after a meal.")
+                       : tr("Columns have other names: which ones are before and after a meal is not known."),
+                   4, 4 * lineHeight, g.Width() - 8);
         return;
     }
-    boxes.up = roundTicks(extent, mostSteps);
+    boxes.up = roundTicks(extent, mostTicks);
     static_cast<void>(drawBoxes(boxes, summary.unit, false, 0, g));
 }
 

@@ -87,7 +87,7 @@ void CourseChart::addReadings(const PeriodSummary& summary, int testPeriod) {
     shown_.push_back(testPeriod);
     readings_.emplace_back();
     for (const Reading& reading : summary.readings.readings)
-        if (reading.testPeriod == testPeriod && reading.day) {
+        if (reading.testPeriod == testPeriod) {
             series->AddDataValue(reading.day->TotalSeconds(), reading.value);
             readings_.back().push_back(reading);
         }
@@ -159,7 +159,7 @@ std::vector<CourseChart::LegendPart> CourseChart::legendOn(const Graphics& g) co
 void CourseChart::drawLegend(Graphics& g, const LegendPart& part) const {
     setChartFont(g);
     const double baseline = part.y + g.TextAscent() + 1;
-    const double middle = baseline - g.TextAscent() * 0.36;
+    const double middle = baseline - halfFigure(g);
     if (part.testPeriod > 0) {
         const PeriodMark look = markOf(part.testPeriod);
         Picture picture(markSize, markSize, 0);

@@ -6,22 +6,17 @@
 #include "diary/day_table.h"
 #include "platform/base/number.h"
 #include "platform/base/translation.h"
-#include "summary/chart_frame.h"
 #include "summary/figures_table.h"
+#include "summary/page_pen.h"
 
 namespace tallyvane::Summary {
 
 namespace {
 
-constexpr double leastWidth = 540; // points
-constexpr double leastHeight = 740;
 constexpr double lineHeight = 16;
 constexpr double headHeight = 62;
 constexpr double dateWidth = 108;
 constexpr int columns = 9; // seven readings, average, weight
-constexpr Color black = RGB(0, 0, 0);
-constexpr Color grey = RGB(95, 95, 95);
-constexpr Color rule = RGB(190, 190, 190);
 constexpr Color weekendGround = RGB(236, 236, 236);
 
 bool isWeekend(const Date& day) {
@@ -50,79 +45,63 @@ std::string arrowsOf(const std::string& cell) {
 }
 
 /// A page of the grid.
-class Grid {
+class Grid : private PagePen {
 public:
-    explicit Grid(Graphics& g) : g_(g), column_((g.Width() - dateWidth) / columns) {}
+    explicit Grid(Graphics& g) : PagePen(g), column_((g.Width() - dateWidth) / columns) {}
 
-    void font(double size, Color color, bool isBold = false) {
-        g_.TextFont(summaryFont);
-        g_.TextSize(size);
-        g_.Bold(isBold);
-        g_.ForeColor(color);
-    }
     void head(const PeriodSummary& summary) {
-        font(14, black, true);
-        g_.DrawString(tr("Days"), 0, 16);
-        font(9, grey);
-        g_.DrawString(periodWords(summary) + "  \u00b7  " + tr("all values in %1", {nameOf(summary.unit)}), 46, 16);
+        font(14, pageText, true);
+        left(tr("Days"), 0, 16);
+        font(9, pageNote);
+        left(fitting(headWords(summary), width() - 50), 46, 16);
         const TestPeriodNames& names = summary.names;
-        font(9, black, true);
+        font(9, pageText, true);
         for (std::size_t meal = 0; meal < names.meals.size(); ++meal)
-            drawCentred(g_, fitted(g_, names.meals[meal], 2 * column_ - 4),
-                        dateWidth + (2.0 * static_cast<double>(meal) + 1) * column_, 38);
+            centred(fitting(names.meals[meal], 2 * column_ - 4),
+                    dateWidth + (2.0 * static_cast<double>(meal) + 1) * column_, 38);
         for (int testPeriod = 1; testPeriod <= testPeriods; ++testPeriod)
             cell(testPeriod, names.brief[static_cast<std::size_t>(testPeriod)], "", 52);
         cell(DayTable::averageColumn, tr("average"), "", 52);
         cell(DayTable::weightColumn, tr("weight"), "", 52);
-        line(headHeight - 5);
+        rule(headHeight - 5);
     }
     void day(const Listbox& table, int row, double top) {
         const std::optional<Date> date = dayOf(table, row);
         const bool weekend = date && isWeekend(*date);
         if (weekend) {
-            g_.ForeColor(weekendGround);
-            g_.FillRect(0, top, g_.Width(), lineHeight);
+            surface().ForeColor(weekendGround);
+            surface().FillRect(0, top, width(), lineHeight);
         }
         const double baseline = top + lineHeight - 4;
-        font(9, black, weekend);
-        g_.DrawString(date ? date->AbbreviatedDate() : table.Cell(row, DayTable::dateColumn), 2, baseline);
-        font(9, black);
+        font(9, pageText, weekend);
+        left(date ? date->AbbreviatedDate() : table.Cell(row, DayTable::dateColumn), 2, baseline);
+        font(9, pageText);
         for (int column = 1; column <= columns; ++column)
             cell(column, table.Cell(row, column),
                  column <= DayTable::averageColumn ? arrowsOf(table.Cell(row, column)) : "", baseline);
     }
     void foot(const PeriodSummary& summary, double top, int page, int pages) {
-        line(top);
-        font(9, black, true);
+        rule(top);
+        font(9, pageText, true);
         const double baseline = top + lineHeight - 2;
-        g_.DrawString(tr("Mean of the period"), 2, baseline);
+        left(tr("Mean of the period"), 2, baseline);
         for (int testPeriod = 1; testPeriod <= testPeriods; ++testPeriod)
             mean(testPeriod, summary.samples[static_cast<std::size_t>(testPeriod)], summary.unit, baseline);
         mean(DayTable::averageColumn, summary.all(), summary.unit, baseline); // of all readings
-        font(7.5, grey);
-        const std::string number = tr("%1 of %2", {Grouped(page), Grouped(pages)});
-        g_.DrawString(tr("\u25b2 high, \u25b2\u25b2 too high, \u25bc low, \u25bc\u25bc too low; weekends on grey"), 0,
-                      g_.Height() - 4);
-        g_.DrawString(number, g_.Width() - g_.StringWidth(number), g_.Height() - 4);
+        PagePen::foot(tr("\u25b2 high, \u25b2\u25b2 too high, \u25bc low, \u25bc\u25bc too low; weekends on grey"),
+                      page, pages);
     }
 
 private:
     void cell(int column, const std::string& text, const std::string& arrows, double baseline) {
-        const double right = dateWidth + column * column_ - 14;
-        const std::string shown = fitted(g_, text, column_ - 16);
-        g_.DrawString(shown, right - g_.StringWidth(shown), baseline);
-        g_.DrawString(arrows, right + 1, baseline);
+        const double end = dateWidth + column * column_ - 14;
+        right(fitting(text, column_ - 16), end, baseline);
+        left(arrows, end + 1, baseline);
     }
     void mean(int column, const Sample& sample, Unit unit, double baseline) {
         if (sample.figures.count > 0)
             cell(column, valueText(sample.figures.mean, unit), "", baseline);
     }
-    void line(double y) {
-        g_.ForeColor(rule);
-        g_.FillRect(0, y, g_.Width(), 0.7);
-    }
-
-    Graphics& g_;
     double column_;
 };
 
@@ -150,7 +129,7 @@ void drawDayPages(Graphics& g, const Listbox& table, const PeriodSummary& summar
         const auto onPage = i % daysOnPage;
         if (onPage == 0) {
             g.NextPage();
-            g.shrinkToFit(leastWidth, leastHeight);
+            g.shrinkToFit(leastPageWidth, leastPageHeight);
         }
         Grid grid(g);
         if (onPage == 0)

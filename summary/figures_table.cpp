@@ -86,7 +86,7 @@ TableRow csvRow(const PeriodSummary& summary, std::size_t testPeriod) {
     const Figures& figures = sample.figures;
     const auto number = [&](double figure) { return figures.count > 0 ? Str(figure) : std::string(); };
     const auto dayOf = [](const std::optional<Reading>& reading) {
-        return reading && reading->day ? reading->day->isoDate() : std::string();
+        return reading ? reading->day->isoDate() : std::string();
     };
     TableRow row{summary.names.title[testPeriod],
                  summary.days ? summary.days->first.isoDate() : "",
@@ -117,6 +117,14 @@ TableRow csvRow(const PeriodSummary& summary, std::size_t testPeriod) {
 }
 
 } // namespace
+
+std::string percentText(int count, int all) {
+    if (count > 0 && percent * count < 0.5 * all)
+        return "<1";
+    if (count < all && percent * count >= 99.5 * all)
+        return ">99";
+    return all == 0 ? "0" : Format(percent * count / all, "0");
+}
 
 TableRow tableHeadings() {
     return {tr("Test period"), tr("n"),       tr("Days"),    tr("Mean"), tr("Median"), tr("SD"),   tr("CV"),
@@ -152,6 +160,11 @@ std::string basisWords(const PeriodSummary& summary) {
     const std::string readings =
         summary.all().figures.count == 1 ? tr("1 reading") : tr("%1 readings", {Grouped(summary.all().figures.count)});
     return tr("%1 on %2 of %3", {readings, Grouped(summary.all().days), daysWords(summary)});
+}
+
+std::string headWords(const PeriodSummary& summary) {
+    const std::string dot = "  \u00b7  ";
+    return periodWords(summary) + dot + basisWords(summary) + dot + tr("all values in %1", {nameOf(summary.unit)});
 }
 
 std::string limitsWords(const PeriodSummary& summary) {

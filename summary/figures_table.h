@@ -15,6 +15,11 @@ using TableRow = std::vector<std::string>;
 /// A row for all readings, then one for each test period. Figures of none are "\u2013".
 [[nodiscard]] std::vector<TableRow> tableRows(const PeriodSummary& summary);
 
+/// So many of all in percent: only none is "0" and only all are "100".
+[[nodiscard]] std::string percentText(int count, int all);
+
+/// The head of a window or page: the period, on what its figures rest, their unit.
+[[nodiscard]] std::string headWords(const PeriodSummary& summary);
 /// How long it is: "30 days", or "3 selected days" where there are others between them.
 [[nodiscard]] std::string daysWords(const PeriodSummary& summary);
 /// The user's four limits.

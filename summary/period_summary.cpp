@@ -35,7 +35,8 @@ std::vector<double> datesOf(const Listbox& table, const std::vector<bool>& rows)
     return seconds;
 }
 
-std::optional<Finding::Period> calendarDays(Span span, const Date& today) {
+/// Nothing for periods that the days of the table make.
+std::optional<Finding::Period> periodOf(Span span, const Date& today) {
     switch (span) {
     case Span::last7:
         return Finding::lastDays(7, today);
@@ -130,8 +131,9 @@ bool canBeOf(Unit unit, double value) {
     return unit == Unit::mmolPerLitre ? value <= highestMmol : value >= lowestMg;
 }
 
+/// Readings come row by row, so that a row that is known is the last one.
 void addRow(std::vector<int>& rows, int row) {
-    if (std::find(rows.begin(), rows.end(), row) == rows.end())
+    if (rows.empty() || rows.back() != row)
         rows.push_back(row);
 }
 
@@ -188,7 +190,7 @@ PeriodSummary summarize(const Listbox& table, Span span, const Date& today) {
     summary.span = span;
     summary.unit = unitOfLimits();
     summary.names = testPeriodNames();
-    summary.days = calendarDays(span, today);
+    summary.days = periodOf(span, today);
     std::vector<bool> rows = rowsOf(table, span == Span::selected);
     if (summary.days) {
         rows = Finding::rowsIn(table, *summary.days);

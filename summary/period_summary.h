@@ -25,7 +25,7 @@ inline constexpr std::array<Ranges::Range, Ranges::all.size()> rangesUpward{
 /// The readings of one test period, or of all.
 struct Sample {
     Figures figures;
-    int days = 0; // with such readings
+    int days = 0; // with such readings; rows of one date are one day
     std::array<int, Ranges::all.size()> inRange{}; // how many, in the order of Ranges::all
     std::optional<Reading> lowest; // the first of that value
     std::optional<Reading> highest;

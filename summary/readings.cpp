@@ -59,11 +59,6 @@ Readings readingsOf(const Listbox& table, const std::vector<bool>& isIn) {
             takeRow(found, table, row, dayOf(table, row));
     sortByDay(found.readings);
     sortByDay(found.weights);
-    const Reading* last = nullptr;
-    for (const Reading& reading : found.readings) {
-        found.days += last != nullptr && isOfOneDay(*last, reading) ? 0 : 1;
-        last = &reading;
-    }
     return found;
 }
 

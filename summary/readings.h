@@ -29,8 +29,6 @@ struct Weight {
 
 struct Readings {
     std::vector<Reading> readings; // by day, then by test period; those of no day come first
-    /// Days with readings; rows of one date are one day.
-    int days = 0;
     std::vector<Weight> weights; // by day
     /// Cells of readings that hold something else than a number above 0, and their rows.
     int unreadable = 0;

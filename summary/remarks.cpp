@@ -7,7 +7,6 @@
 #include "platform/base/number.h"
 #include "platform/base/translation.h"
 #include "settings/globals.h"
-#include "summary/test_period_names.h"
 
 namespace tallyvane::Summary {
 
@@ -18,12 +17,12 @@ constexpr int enoughForAll = 14;
 
 using Remark = std::optional<std::string>;
 
-Remark tooLow(const PeriodSummary& summary, const TestPeriodNames& names) {
+Remark tooLow(const PeriodSummary& summary) {
     const int count = summary.all().in(Ranges::Range::under);
     if (count == 0)
         return std::nullopt;
     const Reading& lowest = *summary.all().lowest;
-    const std::string when = names.words[static_cast<std::size_t>(lowest.testPeriod)];
+    const std::string when = summary.names.words[static_cast<std::size_t>(lowest.testPeriod)];
     const std::string value = Str(lowest.value) + " " + nameOf(summary.unit);
     const std::string where =
         lowest.day ? tr("%1 %2 on %3", {value, when, lowest.day->AbbreviatedDate()}) : tr("%1 %2", {value, when});
@@ -32,7 +31,7 @@ Remark tooLow(const PeriodSummary& summary, const TestPeriodNames& names) {
                       : tr("%1 readings were below %2, the lowest %3.", {Grouped(count), limit, where});
 }
 
-Remark highestTime(const PeriodSummary& summary, const TestPeriodNames& names) {
+Remark highestTime(const PeriodSummary& summary) {
     std::size_t highest = 0;
     int times = 0;
     for (std::size_t i = 1; i <= testPeriods; ++i) {
@@ -46,8 +45,8 @@ Remark highestTime(const PeriodSummary& summary, const TestPeriodNames& names) {
     if (times < 2 || 2 * sample.above() <= sample.figures.count)
         return std::nullopt;
     return tr("%1 is your highest time: median %2, %3 of %4 readings above your target zone.",
-              {names.title[highest], valueWithUnit(sample.figures.median, summary.unit), Grouped(sample.above()),
-               Grouped(sample.figures.count)});
+              {summary.names.title[highest], valueWithUnit(sample.figures.median, summary.unit),
+               Grouped(sample.above()), Grouped(sample.figures.count)});
 }
 
 Remark spread(const PeriodSummary& summary) {
@@ -92,14 +91,13 @@ std::vector<std::string> remarksOn(const PeriodSummary& summary) {
         return {tr("Your limits are in %1, and these readings can't be: no range fits them. Set your limits in the "
                    "Preferences.",
                    {nameOf(summary.unit)})};
-    const TestPeriodNames& names = summary.names;
     if (summary.ofOtherUnit > 0)
         remarks.push_back(summary.ofOtherUnit == 1
                               ? tr("1 reading can't be in %1, the unit of your limits: look at its day first.",
                                    {nameOf(summary.unit)})
                               : tr("%1 readings can't be in %2, the unit of your limits: look at their days first.",
                                    {Grouped(summary.ofOtherUnit), nameOf(summary.unit)}));
-    for (Remark& remark : std::vector{tooLow(summary, names), highestTime(summary, names), spread(summary)})
+    for (Remark& remark : std::vector{tooLow(summary), highestTime(summary), spread(summary)})
         if (remark)
             remarks.push_back(std::move(*remark));
     if (remarks.empty())

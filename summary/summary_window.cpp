@@ -220,12 +220,10 @@ void SummaryWindow::update() {
 }
 
 void SummaryWindow::showFigures() {
-    const std::string dot = "  \u00b7  ";
     if (summary_.span == Summary::Span::selected && summary_.rows.empty())
         StaticText1.Text(tr("No days are selected in the table."));
     else
-        StaticText1.Text(Summary::periodWords(summary_) + dot + Summary::basisWords(summary_) + dot +
-                         tr("all values in %1", {Summary::nameOf(summary_.unit)}));
+        StaticText1.Text(Summary::headWords(summary_));
     std::vector<int> rows = summary_.readings.unreadableRows;
     rows.insert(rows.end(), summary_.rowsOfOtherUnit.begin(), summary_.rowsOfOtherUnit.end());
     rows.insert(rows.end(), summary_.undatedRows.begin(), summary_.undatedRows.end());

@@ -13,15 +13,6 @@ std::string nameOf(Unit unit) { return unit == Unit::mmolPerLitre ? "mmol/L" : "
 
 std::string valueText(double value, Unit unit) { return Format(value, unit == Unit::mmolPerLitre ? "-0.0" : "-0"); }
 
-std::string percentText(int count, int all) {
-    constexpr double percent = 100;
-    if (count > 0 && percent * count < 0.5 * all)
-        return "<1";
-    if (count < all && percent * count >= 99.5 * all)
-        return ">99";
-    return all == 0 ? "0" : Format(percent * count / all, "0");
-}
-
 std::string valueWithUnit(double value, Unit unit) { return valueText(value, unit) + " " + nameOf(unit); }
 
 double inMgPerDecilitre(double value, Unit unit) { return unit == Unit::mmolPerLitre ? value * mgPerMmol : value; }

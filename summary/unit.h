@@ -15,8 +15,6 @@ inline constexpr double mgPerMmol = 18.0156;
 [[nodiscard]] std::string nameOf(Unit unit);
 /// As people read it: a decimal in mmol/L, a whole number in mg/dL.
 [[nodiscard]] std::string valueText(double value, Unit unit);
-/// So many of all in percent: only none is "0" and only all are "100".
-[[nodiscard]] std::string percentText(int count, int all);
 /// "167 mg/dL".
 [[nodiscard]] std::string valueWithUnit(double value, Unit unit);
 [[nodiscard]] double inMgPerDecilitre(double value, Unit unit);

@@ -10,70 +10,35 @@
 #include "platform/base/translation.h"
 #include "platform/drawing/surface_part.h"
 #include "platform/drawing/wrapped_text.h"
-#include "summary/chart_frame.h"
 #include "summary/charts.h"
 #include "summary/course_chart.h"
 #include "summary/figures_table.h"
+#include "summary/page_pen.h"
 #include "summary/remarks.h"
 
 namespace tallyvane::Summary {
 
 namespace {
 
-constexpr double leastWidth = 555; // points: Letter and A4 less margins
-constexpr double leastHeight = 750;
-constexpr Color black = RGB(0, 0, 0);
-constexpr Color grey = RGB(95, 95, 95);
-constexpr Color rule = RGB(150, 150, 150);
 constexpr double lineHeight = 12;
 
-/// Draws texts and lines from the top of the page downward.
-class Page {
+/// A page that is filled from its top downward.
+class Page : public PagePen {
 public:
-    explicit Page(Graphics& g) : g_(g) {}
-
+    using PagePen::PagePen;
     double y = 0; // where the next thing begins
-
-    void font(double size, Color color, bool isBold = false) {
-        g_.TextFont(summaryFont);
-        g_.TextSize(size);
-        g_.Bold(isBold);
-        g_.ForeColor(color);
-    }
-    void left(const std::string& text, double x, double baseline) { g_.DrawString(text, x, baseline); }
-    void right(const std::string& text, double x, double baseline) {
-        g_.DrawString(text, x - g_.StringWidth(text), baseline);
-    }
-    std::string fitting(const std::string& text, double width) const { return fitted(g_, text, width); }
-    void line(Color color) {
-        g_.ForeColor(color);
-        g_.FillRect(0, y, g_.Width(), 0.7);
-    }
-    void heading(const std::string& text, double x, double baseline) {
-        font(11, black, true);
-        left(text, x, baseline);
-    }
-    double width() const { return g_.Width(); }
-    Graphics& surface() { return g_; }
-
-private:
-    Graphics& g_;
 };
 
 void drawHead(Page& page, const PeriodSummary& summary, const VisitPage& visit) {
-    page.font(20, black, true);
+    page.font(20, pageText, true);
     page.left(page.fitting(visitTitle(summary), page.width() * 0.6), 0, 20);
-    page.font(13, black);
+    page.font(13, pageText);
     page.right(page.fitting(visit.texts.patient, page.width() * 0.38), page.width(), 20);
-    page.font(9, grey);
-    const std::string dot = "  \u00b7  ";
-    page.left(page.fitting(periodWords(summary) + dot + basisWords(summary) + dot +
-                               tr("all values in %1", {nameOf(summary.unit)}),
-                           page.width() * 0.78),
-              0, 36);
+    page.font(9, pageNote);
+    page.left(page.fitting(headWords(summary), page.width() * 0.78), 0, 36);
     page.right(tr("printed %1", {visit.printed.AbbreviatedDate()}), page.width(), 36);
     page.y = 42;
-    page.line(black);
+    page.rule(page.y, pageText);
 }
 
 void drawPictures(Page& page, const PeriodSummary& summary) {
@@ -117,18 +82,18 @@ void drawFigures(Page& page, const PeriodSummary& summary) {
     };
     page.heading(tr("The figures") + ", " + nameOf(summary.unit), 0, page.y);
     page.y += 13;
-    page.font(8, grey);
+    page.font(8, pageNote);
     drawRow(tableHeadings());
     page.y -= lineHeight - 3;
-    page.line(rule);
+    page.rule(page.y);
     page.y += 10;
     bool isFirst = true;
     for (const TableRow& row : tableRows(summary)) {
-        page.font(8, black, isFirst);
+        page.font(8, pageText, isFirst);
         drawRow(row);
         isFirst = false;
     }
-    page.font(8, grey);
+    page.font(8, pageNote);
     const std::string weight = weightWords(summary);
     page.left(page.fitting(limitsWords(summary) + (weight.empty() ? "" : "  \u00b7  ") + weight, page.width()), 0,
               page.y);
@@ -148,12 +113,13 @@ void drawLowest(Page& page, const PeriodSummary& summary, double width) {
     page.heading(tr("Your lowest readings") + ", " + nameOf(summary.unit), 0, page.y);
     double baseline = page.y + 14;
     for (const Reading& reading : readings) {
-        page.font(8.5, black, true);
+        page.font(8.5, pageText, true);
         page.right(Str(reading.value), 22, baseline);
-        page.font(8.5, black);
-        const std::string day = reading.day ? reading.day->AbbreviatedDate() : "";
-        page.left(page.fitting(day + ", " + names.words[static_cast<std::size_t>(reading.testPeriod)], width - 28), 28,
-                  baseline);
+        page.font(8.5, pageText);
+        page.left(page.fitting(reading.day->AbbreviatedDate() + ", " +
+                                   names.words[static_cast<std::size_t>(reading.testPeriod)],
+                               width - 28),
+                  28, baseline);
         baseline += lineHeight;
     }
 }
@@ -176,7 +142,7 @@ double drawLines(Page& page, std::string_view text, double x, double baseline, d
 double drawParagraphs(Page& page, const std::string& heading, const std::vector<std::string>& paragraphs, double x,
                       double top, double width, double bottom) {
     page.heading(heading, x, top);
-    page.font(8.5, black);
+    page.font(8.5, pageText);
     double baseline = top + 14;
     for (std::size_t i = 0; i < paragraphs.size(); ++i) {
         const bool isLast = i + 1 == paragraphs.size();
@@ -207,17 +173,6 @@ void drawWords(Page& page, const PeriodSummary& summary, const VisitPage& visit,
         drawParagraphs(page, tr("What I want to ask"), {visit.texts.questions}, last, y, third, bottom);
 }
 
-void drawFoot(Page& page, double height, int pages) {
-    page.y = height - 16;
-    page.line(rule);
-    page.font(7.5, grey);
-    page.left(
-        tr("Tallyvane \u00b7 figures from finger-stick readings typed or imported by the patient \u00b7 no medical "
-           "device; changes of treatment belong to your doctor"),
-        0, height - 4);
-    page.right(tr("%1 of %2", {Grouped(1), Grouped(pages)}), page.width(), height - 4);
-}
-
 } // namespace
 
 std::string visitTitle(const PeriodSummary& summary) { return tr("Blood glucose, %1", {daysWords(summary)}); }
@@ -229,19 +184,19 @@ void drawKeyFigures(Graphics& g, const PeriodSummary& summary, double size) {
     Page page(g);
     for (std::size_t i = 0; i < figures.size(); ++i) {
         const double x = static_cast<double>(i) * width;
-        page.font(9 * size, grey);
+        page.font(9 * size, pageNote);
         page.left(figures[i].name, x, 14 * size);
         const bool isLong = Len(figures[i].value) > longText;
-        page.font((isLong ? 10 : 14) * size, black, true);
+        page.font((isLong ? 10 : 14) * size, pageText, true);
         DrawString(g, figures[i].value, x, (isLong ? 26 : 31) * size, width - 6);
-        page.font(7.5 * size, grey);
+        page.font(7.5 * size, pageNote);
         DrawString(g, figures[i].note, x, (isLong ? 48 : 42) * size, width - 6);
     }
 }
 
 void drawVisitPage(Graphics& g, const PeriodSummary& summary, const VisitPage& visit) {
     constexpr double keyFiguresHeight = 72;
-    g.shrinkToFit(leastWidth, leastHeight);
+    g.shrinkToFit(leastPageWidth, leastPageHeight);
     Page page(g);
     drawHead(page, summary, visit);
     SurfacePart keys(g, 0, page.y, g.Width(), keyFiguresHeight);
@@ -250,7 +205,11 @@ void drawVisitPage(Graphics& g, const PeriodSummary& summary, const VisitPage& v
     drawPictures(page, summary);
     drawFigures(page, summary);
     drawWords(page, summary, visit, g.Height() - 20);
-    drawFoot(page, g.Height(), visit.pages);
+    page.rule(g.Height() - 16);
+    page.foot(
+        tr("Tallyvane \u00b7 figures from finger-stick readings typed or imported by the patient \u00b7 no medical "
+           "device; changes of treatment belong to your doctor"),
+        1, visit.pages);
 }
 
 } // namespace tallyvane::Summary

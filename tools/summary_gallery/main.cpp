@@ -1,6 +1,5 @@
 /// summary_gallery TABLE TODAY OUT: draws the pictures of a summary of the last 30 and 90 days up to TODAY (2026-11-23)
-/// of a table in the form of "7VXData" into the folder OUT, each alone as a PNG, and
-/// the page for the visit as a PDF.
+/// of a table in the form of "7VXData" into the folder OUT, each alone as a PNG, and the page for the visit as a PDF.
 #include <cstdio>
 #include <filesystem>
 
