@@ -118,6 +118,37 @@ TEST(ChartAdditions, HatchingStaysWithinItsPiece) {
     }
 }
 
+TEST(ChartAdditions, LabelsCanStandInTheMiddleAndWhole) {
+    const auto labels = [](bool asAsked) {
+        GTSeries series(GTSeries::scatter);
+        series.AddDataValue(0, 0);
+        series.SetXRange(0, 10);
+        series.SetYRange(0, 10);
+        for (GTAxis* axis : {&series.XAxis(), &series.YAxis()}) {
+            axis->tickIncrement(10);
+            axis->tickLabelFormat("0.0");
+        }
+        series.XAxis().labelsAreWhole = asAsked;
+        series.YAxis().labelsAreCentred = asAsked;
+        GraphicsRecorder g(300, 300);
+        int used[4] = {};
+        series.Render(g, 100, 50, used[0], used[1], used[2], used[3], 100, 100);
+        Lines texts;
+        for (const GraphicsRecorder::Call& call : g.calls())
+            if (call.operation == "DrawString")
+                texts.push_back(call.text + " " + std::to_string(static_cast<int>(call.numbers[1])));
+        return texts;
+    };
+    const Lines usual = labels(false);
+    const Lines asAsked = labels(true);
+    ASSERT_EQ(usual.size(), 4U);
+    ASSERT_EQ(asAsked.size(), 4U);
+    EXPECT_EQ(usual[0].substr(0, 2), "0 ");
+    EXPECT_EQ(asAsked[0].substr(0, 4), "0.0 ");
+    EXPECT_EQ(usual[2], "0.0 150") << "the baseline stands at the value";
+    EXPECT_EQ(asAsked[2], "0.0 153") << "the middle does";
+}
+
 TEST(ChartAdditions, MarksStandInPlaceOfSymbols) {
     for (const GTMark mark : {GTMark::circle, GTMark::square, GTMark::triangle, GTMark::diamond}) {
         GTSeries series(GTSeries::scatter);
