@@ -15,8 +15,8 @@ ConflictWindow::ConflictWindow() {
     place({
         {&StaticText1, {16, 12, 528, 44}, lockLeft | lockTop | lockRight},
         {&ListBox1, {16, 60, 528, 200}, lockAll},
-        {&PushButton1, {16, 274, 150, 30}, lockLeft | lockBottom},
-        {&PushButton2, {178, 274, 190, 30}, lockLeft | lockBottom},
+        {&PushButton1, {16, 274, 182, 30}, lockLeft | lockBottom},
+        {&PushButton2, {208, 274, 206, 30}, lockLeft | lockBottom},
         {&PushButton3, {438, 274, 106, 30}, lockBottomRight},
     });
     StaticText1.Multiline(true);

@@ -120,7 +120,8 @@ Spread spreadOf(const PeriodSummary& summary) {
         last = day;
     };
     for (const Reading& reading : summary.readings.readings)
-        note(*reading.day);
+        if (*reading.day != last)
+            note(*reading.day);
     note(daysAfter(summary.days->second, 1));
     return spread;
 }
